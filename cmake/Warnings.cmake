@@ -1,0 +1,10 @@
+# What every target of the project is compiled with, and nothing that its users inherit.
+add_library(xmlattr_options INTERFACE)
+target_compile_features(xmlattr_options INTERFACE cxx_std_20)
+target_compile_options(xmlattr_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow=local -Wold-style-cast -Wextra-semi)
+
+# Rounding is exact only where a double is a double: the x87 registers keep more.
+if(CMAKE_SIZEOF_VOID_P EQUAL 4 AND CMAKE_SYSTEM_PROCESSOR MATCHES "86")
+  target_compile_options(xmlattr_options INTERFACE -msse2 -mfpmath=sse)
+endif()

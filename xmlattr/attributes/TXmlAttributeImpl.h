@@ -1,0 +1,37 @@
+// The bodies of the attribute template; only the source of the instantiations includes them.
+#pragma once
+
+#include "xmlattr/attributes/TXmlAttribute.h"
+
+namespace Xml {
+
+template <class T> bool TXmlAttribute<T>::parseValue(Core::String const& text) {
+    return AttributeTraits<T>::parse(stored.value, text);
+}
+
+template <class T> void TXmlAttribute<T>::copyFrom(XmlAttribute const& other) {
+    stored.value = static_cast<TXmlAttribute const&>(other).stored.value;
+}
+
+template <class T> Core::String TXmlAttribute<T>::getValueAsString() const {
+    if constexpr (Prints<T>)
+        return AttributeTraits<T>::print(stored.value);
+    else
+        return {};
+}
+
+template <class T> bool TXmlAttribute<T>::isEqual(Core::String const& text) const {
+    return isEqual(text, int_to_type<RefusesComparison<T> ? 0 : 1>());
+}
+
+template <class T> bool TXmlAttribute<T>::isEqual(Core::String const&, int_to_type<0>) const {
+    return false;
+}
+
+template <class T> bool TXmlAttribute<T>::isEqual(Core::String const& text, int_to_type<1>) const {
+    TXmlAttribute parsed;
+    if constexpr (Seeds<T>) parsed.stored.value = AttributeTraits<T>::seed();
+    return AttributeTraits<T>::parse(parsed.stored.value, text) && *this == parsed.stored.value;
+}
+
+} // namespace Xml

@@ -1,0 +1,138 @@
+#include "xmlattr/core/Format.h"
+
+#include "xmlattr/core/NumberReader.h"
+#include "xmlattr/core/Text.h"
+
+#include <cfloat>
+#include <charconv>
+#include <climits>
+#include <cmath>
+#include <iterator>
+
+namespace Core {
+
+namespace {
+
+// Whether the rest of a trimmed text ends a number: nothing, or one "%".
+bool endsNumber(char16_t const* rest, std::u16string_view text) noexcept {
+    char16_t const* const end = text.data() + text.size();
+    return rest == end || (rest + 1 == end && *rest == u'%');
+}
+
+// The integer at the very start of a text; its value is held within the range of an int, and
+// `fits` says whether that changed it. `end` is null when there is none.
+struct Integer {
+    int value = 0;
+    bool fits = true;
+    char16_t const* end = nullptr;
+};
+
+Integer scanInteger(std::u16string_view text) noexcept {
+    char16_t const* unit = text.data();
+    char16_t const* const end = unit + text.size();
+    bool negative = false;
+    if (unit != end && (*unit == u'-' || *unit == u'+')) negative = *unit++ == u'-';
+    char16_t const* const digits = unit;
+    long long const limit = negative ? -static_cast<long long>(INT_MIN) : INT_MAX;
+    long long magnitude = 0;
+    bool fits = true;
+    for (; unit != end && isDigit(*unit); ++unit) {
+        magnitude = magnitude * 10 + (*unit - u'0');
+        if (magnitude > limit) {
+            magnitude = limit;
+            fits = false;
+        }
+    }
+    if (unit == digits) return {};
+    return {static_cast<int>(negative ? -magnitude : magnitude), fits, unit};
+}
+
+int hexDigit(char16_t unit) noexcept {
+    if (isDigit(unit)) return unit - u'0';
+    char16_t const lower = toLower(unit);
+    return lower >= u'a' && lower <= u'f' ? lower - u'a' + 10 : -1;
+}
+
+String widen(char const* begin, char const* end, std::u16string_view suffix = {}) {
+    std::u16string out;
+    out.reserve(static_cast<std::size_t>(end - begin) + suffix.size());
+    out.append(begin, end).append(suffix);
+    return String(std::move(out));
+}
+
+template <class T> String shortest(T value) {
+    char buffer[32];
+    return widen(buffer, std::to_chars(buffer, std::end(buffer), value).ptr);
+}
+
+} // namespace
+
+bool Format::parseFloat(std::u16string_view text, float& value) noexcept {
+    if (text.empty()) {
+        value = 0;
+        return true;
+    }
+    std::u16string_view const trimmed = trim(text);
+    Decimal const number = scanDecimal(trimmed);
+    return number.end && endsNumber(number.end, trimmed) && toFloat(number, value);
+}
+
+float Format::parseFloat(std::u16string_view text) noexcept {
+    Decimal const number = scanDecimal(trimStart(text));
+    float value = 0;
+    if (number.end && !toFloat(number, value)) value = number.negative ? -FLT_MAX : FLT_MAX;
+    return value;
+}
+
+bool Format::parseInt(std::u16string_view text, int& value) noexcept {
+    std::u16string_view const trimmed = trim(text);
+    Integer const number = scanInteger(trimmed);
+    if (!number.end || !endsNumber(number.end, trimmed) || !number.fits) return false;
+    value = number.value;
+    return true;
+}
+
+int Format::parseInt(std::u16string_view text) noexcept {
+    return scanInteger(trimStart(text)).value;
+}
+
+bool Format::parseHexInt(std::u16string_view text, int& value) noexcept {
+    if (text.size() > 1 && text[0] == u'0' && toLower(text[1]) == u'x') text.remove_prefix(2);
+    if (text.empty()) return false;
+    long long number = 0;
+    for (char16_t const unit : text) {
+        int const digit = hexDigit(unit);
+        if (digit < 0) return false;
+        number = number * 16 + digit;
+        if (number > INT_MAX) return false;
+    }
+    value = static_cast<int>(number);
+    return true;
+}
+
+String Format::toMeasure(double value, std::u16string_view suffix) {
+    // The largest double has 309 digits before its point.
+    char buffer[336];
+    char* end = std::to_chars(buffer, std::end(buffer), value, std::chars_format::fixed, 3).ptr;
+    if (std::isfinite(value)) {
+        while (end[-1] == '0') --end;
+        if (end[-1] == '.') --end;
+    }
+    bool const isMinusZero = end - buffer == 2 && buffer[0] == '-' && buffer[1] == '0';
+    return widen(isMinusZero ? buffer + 1 : buffer, end, suffix);
+}
+
+String Format::toShortest(float value) {
+    return shortest(value);
+}
+
+String Format::toShortest(double value) {
+    bool const isFloat = std::abs(value) <= FLT_MAX && static_cast<float>(value) == value;
+    return isFloat ? shortest(static_cast<float>(value)) : shortest(value);
+}
+
+String Format::toShortest(int value) {
+    return shortest(value);
+}
+
+} // namespace Core

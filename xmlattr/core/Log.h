@@ -1,0 +1,22 @@
+// The warnings of the library. Only the colour parser has any.
+#pragma once
+
+#include "xmlattr/core/String.h"
+
+#include <functional>
+
+namespace Core {
+
+class XMLATTR_API Log {
+public:
+    using Handler = std::function<void(String const&)>;
+
+    // Every warning goes to this handler from now on; without one (the initial state, or an empty
+    // function) to standard error, a line each. Returns the handler that it replaces. A handler
+    // may be called by any thread that parses.
+    static Handler setHandler(Handler handler);
+
+    static void warning(String const& message);
+};
+
+} // namespace Core

@@ -1,0 +1,7 @@
+#include "xmlattr/core/Object.h"
+
+namespace Core {
+
+Object::~Object() = default;
+
+} // namespace Core

@@ -1,0 +1,46 @@
+// White space, digits and comparisons on UTF-16 text: the rules that String and every scanner share.
+// Nothing here allocates, throws or depends on the locale.
+#pragma once
+
+#include <algorithm>
+#include <string_view>
+
+namespace Core {
+
+// Exactly seven code units: space, form feed, line feed, carriage return, tab, vertical tab and
+// the no-break space. No other Unicode blank counts.
+constexpr bool isSpace(char16_t unit) noexcept {
+    return unit == u' ' || (unit >= u'\t' && unit <= u'\r') || unit == u'\u00A0';
+}
+
+// The ASCII digits.
+constexpr bool isDigit(char16_t unit) noexcept {
+    return unit >= u'0' && unit <= u'9';
+}
+
+// Folds ASCII letters only, whatever the locale.
+constexpr char16_t toLower(char16_t unit) noexcept {
+    return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + (u'a' - u'A')) : unit;
+}
+
+constexpr bool equalsNoCase(std::u16string_view left, std::u16string_view right) noexcept {
+    return left.size() == right.size() &&
+           std::equal(left.begin(), left.end(), right.begin(),
+                      [](char16_t a, char16_t b) { return toLower(a) == toLower(b); });
+}
+
+constexpr std::u16string_view trimStart(std::u16string_view text) noexcept {
+    while (!text.empty() && isSpace(text.front())) text.remove_prefix(1);
+    return text;
+}
+
+constexpr std::u16string_view trimEnd(std::u16string_view text) noexcept {
+    while (!text.empty() && isSpace(text.back())) text.remove_suffix(1);
+    return text;
+}
+
+constexpr std::u16string_view trim(std::u16string_view text) noexcept {
+    return trimEnd(trimStart(text));
+}
+
+} // namespace Core

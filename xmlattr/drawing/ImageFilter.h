@@ -1,0 +1,30 @@
+// How an image is resampled when it is scaled.
+#pragma once
+
+#include "xmlattr/core/String.h"
+
+#include <cstdint>
+
+namespace Drawing {
+
+// "nearest", "bilinear", "bicubic" or "auto", in any case.
+class XMLATTR_API ImageFilter {
+public:
+    enum Type : std::int32_t { Nearest = 0, Bilinear = 1, Bicubic = 2, Auto = 3 };
+
+    constexpr ImageFilter() = default;
+    constexpr ImageFilter(Type type) : type(type) {}
+
+    constexpr Type getType() const { return type; }
+    constexpr bool operator==(ImageFilter const&) const = default;
+
+    // False for any other word; then `filter` is untouched.
+    static bool parseFilter(ImageFilter& filter, std::u16string_view text);
+    // The word of the type; empty for a number that is no type.
+    Core::String toString() const;
+
+private:
+    Type type = Auto;
+};
+
+} // namespace Drawing

@@ -1,0 +1,143 @@
+// The one mechanism behind every keyword enumeration: a constexpr table right under it.
+#pragma once
+
+#include "xmlattr/attributes/AttributeTraits.h"
+#include "xmlattr/core/Text.h"
+
+#include <array>
+#include <cstdint>
+#include <span>
+#include <type_traits>
+
+namespace Xml {
+
+enum class Case { Exact, Any };
+
+template <class E> struct KeywordRow {
+    std::u16string_view word;
+    E value;
+};
+
+// Specialised under each enumeration E:
+//
+//   static constexpr Case rule;                 whether letters of either case match
+//   static constexpr KeywordRow<E> rows[];      what is accepted; printing takes a value's first row
+//
+// and, where they apply,
+//
+//   static constexpr bool printsEmpty = true;              there is no printer
+//   static constexpr KeywordRow<E> printRows[];            prints other words than it reads
+//   static constexpr std::u16string_view unknownPrints;    for a value without a keyword, not ""
+//   static constexpr bool unknownThrows = true;            UnreacheableCodeException instead
+//   static constexpr bool acceptsEmpty = true;             the empty text is one of the keywords
+//
+// The whole text must match. A text that does not leaves the value as it was.
+template <class E> struct Keywords;
+
+template <class E>
+concept KeywordEnumeration = std::is_enum_v<E> && requires { Keywords<E>::rows; };
+
+template <class E>
+concept KeywordsPrintEmpty = Keywords<E>::printsEmpty;
+
+namespace detail {
+
+// A row of a packed table: the place of its word among the letters of all words.
+struct PackedKeyword {
+    std::int32_t value;
+    std::uint16_t start, length;
+};
+
+// A table without pointers, so that loading the library has nothing to relocate.
+struct KeywordView {
+    std::span<PackedKeyword const> rows;
+    char16_t const* letters;
+
+    constexpr std::u16string_view word(PackedKeyword const& row) const {
+        return {letters + row.start, row.length};
+    }
+};
+
+// The row whose word is the text, or null. A word of another length is never compared.
+XMLATTR_API PackedKeyword const* findWord(KeywordView table, std::u16string_view text, Case rule);
+// The first row with the value, or null.
+XMLATTR_API PackedKeyword const* findValue(KeywordView table, std::int32_t value);
+[[noreturn]] XMLATTR_API void throwUnknownKeyword();
+
+template <auto const& rows> consteval std::size_t countLetters() {
+    std::size_t count = 0;
+    for (auto const& row : rows) count += row.word.size();
+    return count;
+}
+
+template <auto const& rows> struct PackedTable {
+    std::array<PackedKeyword, std::size(rows)> packed{};
+    std::array<char16_t, countLetters<rows>() + 1> letters{};
+
+    consteval PackedTable() {
+        std::uint16_t start = 0;
+        for (std::size_t i = 0; i < std::size(rows); ++i) {
+            auto const length = static_cast<std::uint16_t>(rows[i].word.size());
+            packed[i] = {static_cast<std::int32_t>(rows[i].value), start, length};
+            for (char16_t const unit : rows[i].word) letters[start++] = unit;
+        }
+    }
+
+    constexpr KeywordView view() const { return {packed, letters.data()}; }
+};
+
+template <auto const& rows> inline constexpr PackedTable<rows> packedTable;
+
+template <class E> consteval bool hasDuplicateWords() {
+    for (auto const& row : Keywords<E>::rows)
+        for (auto const* other = &row + 1; other != std::end(Keywords<E>::rows); ++other)
+            if (Keywords<E>::rule == Case::Any ? Core::equalsNoCase(row.word, other->word) : row.word == other->word)
+                return true;
+    return false;
+}
+
+template <class E> consteval bool hasEmptyWord() {
+    for (auto const& row : Keywords<E>::rows)
+        if (row.word.empty()) return true;
+    return false;
+}
+
+template <class E> constexpr KeywordView printTable() {
+    if constexpr (requires { Keywords<E>::printRows; })
+        return packedTable<Keywords<E>::printRows>.view();
+    else
+        return packedTable<Keywords<E>::rows>.view();
+}
+
+} // namespace detail
+
+// What a keyword enumeration reads and prints, for enumerations that do so by their table alone and
+// for those that add something to it.
+template <KeywordEnumeration E> struct KeywordTraits {
+    static_assert(std::is_same_v<std::underlying_type_t<E>, std::int32_t>);
+    static_assert(!detail::hasDuplicateWords<E>(), "a keyword stands twice in the table");
+    static_assert(detail::hasEmptyWord<E>() == requires { Keywords<E>::acceptsEmpty; },
+                  "the empty text is a keyword only where the table says so");
+
+    static bool parse(E& value, std::u16string_view text) {
+        auto const* const row = detail::findWord(detail::packedTable<Keywords<E>::rows>.view(), text, Keywords<E>::rule);
+        if (row) value = static_cast<E>(row->value);
+        return row != nullptr;
+    }
+
+    static Core::String print(E const& value)
+        requires(!KeywordsPrintEmpty<E>)
+    {
+        constexpr detail::KeywordView table = detail::printTable<E>();
+        if (auto const* const row = detail::findValue(table, static_cast<std::int32_t>(value))) return table.word(*row);
+        if constexpr (requires { Keywords<E>::unknownThrows; }) detail::throwUnknownKeyword();
+        if constexpr (requires { Keywords<E>::unknownPrints; })
+            return Keywords<E>::unknownPrints;
+        else
+            return {};
+    }
+};
+
+template <KeywordEnumeration E> struct AttributeTraits<E> : KeywordTraits<E> {};
+
+} // namespace Xml

@@ -1,0 +1,90 @@
+#include "xmlattr/measures/Length.h"
+
+#include "xmlattr/attributes/TextCursor.h"
+#include "xmlattr/core/Exceptions.h"
+#include "xmlattr/core/Format.h"
+#include "xmlattr/measures/Units.h"
+
+namespace Xml {
+
+namespace {
+
+constexpr UnitRow<Length::Unit> unitRows[] = {
+    {u"pt", Length::Pt, PixelRatio::pt, {72, 96}},
+    {u"px", Length::Px, PixelRatio::px, {1, 1}},
+    {u"cm", Length::Cm, PixelRatio::cm, {2.54f, 96}},
+    {u"mm", Length::Mm, PixelRatio::mm, {25.4f, 96}},
+    {u"in", Length::In, PixelRatio::in, {1, 96}},
+    {u"em", Length::Em, PixelRatio::em, {1536, 96}},
+    {u"ex", Length::Ex, PixelRatio::ex, {768, 96}},
+    {u"pc", Length::Pc, PixelRatio::pc, {12 * 72, 96}}, // Intended: no inverse, see the header
+};
+
+UnitRow<Length::Unit> const& rowOf(Length::Unit unit) {
+    if (auto const* row = findUnit(unitRows, unit)) return *row;
+    throw Core::UnreacheableCodeException("LengthAttribute", __LINE__);
+}
+
+} // namespace
+
+float Length::pxSize() const {
+    return rowOf(unit).toPixels.of(size);
+}
+
+float Length::pxSizeToUnitSize(float px, Unit unit) {
+    return rowOf(unit).fromPixels.of(px);
+}
+
+Length Length::operator+(Length const& other) const {
+    return {pxSizeToUnitSize(pxSize() + other.pxSize(), unit), unit};
+}
+
+Length Length::operator-(Length const& other) const {
+    return {pxSizeToUnitSize(pxSize() - other.pxSize(), unit), unit};
+}
+
+bool Length::parseLength(Length& out, Core::String const& text) {
+    return AttributeTraits<Length>::parse(out, text);
+}
+
+Core::String Length::getValueAsString(Length const& length) {
+    return Core::Format::toMeasure(length.size, rowOf(length.unit).suffix);
+}
+
+bool AttributeTraits<Length>::parse(Length& value, std::u16string_view text) {
+    if (!startsLikeNumber(text)) return false;
+    if (text.size() < 3) {
+        if (text != u"0") return false;
+        value = Length(0, Length::Pt); // Intended: points, not the pixels of the default length
+        return true;
+    }
+    auto const* const row = findSuffix(unitRows, text);
+    float size = 0;
+    if (!row || !Core::Format::parseFloat(text.substr(0, text.size() - 2), size)) return false;
+    value = Length(size, row->unit);
+    return true;
+}
+
+Core::String AttributeTraits<Length>::print(Length const& value) {
+    return Length::getValueAsString(value);
+}
+
+bool AttributeTraits<DLength>::parse(DLength& value, std::u16string_view text) {
+    TextCursor cursor{text};
+    std::u16string_view const first = cursor.takeWord();
+    std::u16string_view const second = cursor.takeWord();
+    if (!cursor.takeWord().empty()) return false;
+    Length read;
+    if (!AttributeTraits<Length>::parse(read, first)) return false;
+    value = DLength(read, second.empty() ? read : value.getSecond());
+    if (second.empty()) return true;
+    if (!AttributeTraits<Length>::parse(read, second)) return false;
+    value = DLength(value.getFirst(), read);
+    return true;
+}
+
+Core::String AttributeTraits<DLength>::print(DLength const& value) {
+    return Length::getValueAsString(value.getFirst()) + u" " + Length::getValueAsString(value.getSecond());
+}
+
+} // namespace Xml

@@ -1,0 +1,16 @@
+// The clip rectangle of XSL-FO and CSS 2.
+#pragma once
+
+#include "xmlattr/attributes/AttributeTraits.h"
+#include "xmlattr/drawing/RectF.h"
+
+namespace Xml {
+
+// "rect(" four lengths ")" with commas between them, exact in case; blanks may stand around each
+// length, none before "rect(" or behind ")". Held in pixels. A failed parse changes nothing; there
+// is no printer.
+template <> struct AttributeTraits<Drawing::RectF> {
+    static bool parse(Drawing::RectF& value, std::u16string_view text);
+};
+
+} // namespace Xml

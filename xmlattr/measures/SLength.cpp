@@ -1,0 +1,59 @@
+#include "xmlattr/measures/SLength.h"
+
+#include "xmlattr/attributes/TextCursor.h"
+#include "xmlattr/core/Exceptions.h"
+#include "xmlattr/core/Format.h"
+#include "xmlattr/measures/SLengthUnits.h"
+
+namespace Xml {
+
+float SLength::pxSize() const {
+    if (unit == UserUnit || unit == Percent) return size;
+    if (auto const* row = findUnit(sLengthUnitRows, unit)) return row->toPixels.of(size);
+    throw Core::UnreacheableCodeException("LengthAttribute", __LINE__);
+}
+
+bool SLength::parseSLength(SLength& out, Core::String const& text) {
+    return AttributeTraits<SLength>::parse(out, text);
+}
+
+bool AttributeTraits<SLength>::parse(SLength& value, std::u16string_view text) {
+    if (text.empty()) return false;
+    float number = 0;
+    if (text.size() > 1 && text.back() == u'%') {
+        if (!Core::Format::parseFloat(text.substr(0, text.size() - 1), number)) return false;
+        value = SLength(static_cast<float>(number / 100.0), SLength::Percent);
+        return true;
+    }
+    if (Core::isDigit(text.back())) {
+        if (!Core::Format::parseFloat(text, number)) return false;
+        value = SLength(number, SLength::UserUnit);
+        return true;
+    }
+    return text.size() >= 3 && readWithSuffix(value, text);
+}
+
+bool AttributeTraits<SNullableLength>::parse(SNullableLength& value, std::u16string_view text) {
+    if (!AttributeTraits<SLength>::parse(value, text)) return false;
+    value.setNull(false);
+    return true;
+}
+
+bool AttributeTraits<Core::Vector<SLength>>::parse(Core::Vector<SLength>& value, std::u16string_view text) {
+    Core::Vector<SLength> list;
+    auto const separates = [](char16_t unit) { return unit == u',' || Core::isSpace(unit); };
+    if (text != u"none") {
+        for (TextCursor cursor{text};;) {
+            cursor.takeWhile(separates);
+            if (cursor.atEnd()) break;
+            SLength length;
+            auto const token = cursor.takeWhile([&](char16_t unit) { return !separates(unit); });
+            if (!AttributeTraits<SLength>::parse(length, token)) return false;
+            list.push_back(length);
+        }
+    }
+    value = std::move(list);
+    return true;
+}
+
+} // namespace Xml

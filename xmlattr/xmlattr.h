@@ -1,0 +1,11 @@
+// xmlattr: typed values for the attributes of an XML document formatter.
+#pragma once
+
+#include "xmlattr/Values.h"
+#include "xmlattr/attributes/ParseUtil.h"
+#include "xmlattr/attributes/TXmlAttribute.h"
+#include "xmlattr/core/Application.h"
+#include "xmlattr/core/Exceptions.h"
+#include "xmlattr/core/Format.h"
+#include "xmlattr/core/Log.h"
+#include "xmlattr/core/StringFormatStream.h"
