@@ -1,0 +1,81 @@
+#include "Support.h"
+#include "xmlattr/attributes/PlainValues.h"
+#include "xmlattr/measures/Length.h"
+#include "xmlattr/measures/SLength.h"
+
+#include <cfloat>
+
+namespace Xml {
+namespace {
+
+// Nothing but the virtual-table pointer stands before the value.
+template <class T> struct Layout {
+    void* table;
+    T value;
+};
+static_assert(sizeof(TXmlAttribute<int>) == sizeof(Layout<int>));
+static_assert(sizeof(TXmlAttribute<Length>) == sizeof(void*) + 8 && sizeof(TXmlAttribute<SLength>) == sizeof(void*) + 8);
+static_assert(sizeof(TXmlAttribute<SNullableLength>) == sizeof(Layout<SNullableLength>));
+static_assert(sizeof(TXmlAttribute<Core::String>) == sizeof(Layout<Core::String>));
+static_assert(std::is_empty_v<int_to_type<0>> && !std::has_virtual_destructor_v<XmlAttribute>);
+
+TEST(TXmlAttribute, OffersTheValueInEveryWay) {
+    TXmlAttribute<Length> attribute;
+    EXPECT_TRUE(attribute == Length(0, Length::Px));
+    attribute = Length(1, Length::In);
+    TXmlAttribute<Length> copy(attribute);
+    EXPECT_TRUE(copy == attribute && !(copy != attribute));
+    copy->setSize(2);
+    EXPECT_TRUE(copy != attribute);
+    copy.setValue(Length(3, Length::Mm));
+    Length const& value = copy;
+    EXPECT_EQ(&value, &*copy);
+    EXPECT_EQ(&value, &copy.getValue());
+    attribute = copy;
+    EXPECT_EQ(attribute->getSize(), 3);
+}
+
+TEST(TXmlAttribute, CopiesThroughTheBase) {
+    TXmlAttribute<Core::String> source(Core::String(u"a text longer than what a string holds in itself"));
+    TXmlAttribute<Core::String> target;
+    XmlAttribute& base = target;
+    base.copyFrom(source);
+    EXPECT_EQ(base.getValueAsString(), source.getValue());
+}
+
+TEST(TXmlAttribute, ComparesTheValueOfAText) {
+    TXmlAttribute<Length> attribute(Length(1, Length::In));
+    EXPECT_TRUE(attribute.isEqual(u"1.0in"));
+    EXPECT_FALSE(attribute.isEqual(u"72pt")) << "equal in pixels only";
+    EXPECT_FALSE(attribute.isEqual(u"inch"));
+    EXPECT_FALSE(attribute.isEqual(u"1in", int_to_type<0>()));
+    EXPECT_TRUE(attribute.isEqual(u"1in", int_to_type<1>()));
+    EXPECT_TRUE(attribute == Length(1, Length::In)) << "comparing changes nothing";
+}
+
+TEST(TXmlAttribute, SomeTypesRefuseTheVirtualComparison) {
+    TXmlAttribute<Core::Vector<SLength>> list;
+    ASSERT_TRUE(list.parseValue(u"1 2"));
+    EXPECT_FALSE(list.isEqual(u"1 2"));
+    EXPECT_TRUE(list.isEqual(u"1,2", int_to_type<1>()));
+    TXmlAttribute<SNullableLength> null(SNullableLength{});
+    EXPECT_FALSE(null.isEqual(u"0"));
+    EXPECT_TRUE(null.isEqual(u"0", int_to_type<1>())) << "the null flag takes no part";
+}
+
+TEST(PlainValues, ReadAndPrintAsTheyAre) {
+    EXPECT_EQ(printed<int>(u" 12% "), "12");
+    EXPECT_EQ(printed<int>(u"1.5"), "refused");
+    EXPECT_EQ(printed<float>(u"0.10000000149"), "0.1");
+    EXPECT_EQ(printed<float>(u"1e39"), "refused");
+    EXPECT_EQ(printed<Core::String>(u" a "), " a ");
+    EXPECT_FALSE(TXmlAttribute<Core::String>(Core::String(u"a")).isEqual(u" a"));
+    EXPECT_EQ(printed<Drawing::ImageFilter>(u"BiCubic"), "bicubic");
+    EXPECT_EQ(printed<Drawing::ImageFilter>(u"cubic"), "refused");
+    TXmlAttribute<Core::String> text(Core::String(u"a"));
+    EXPECT_TRUE(text.parseValue(u""));
+    EXPECT_TRUE(text->empty());
+}
+
+} // namespace
+} // namespace Xml
