@@ -14,7 +14,8 @@ template <class T> struct Layout {
     T value;
 };
 static_assert(sizeof(TXmlAttribute<int>) == sizeof(Layout<int>));
-static_assert(sizeof(TXmlAttribute<Length>) == sizeof(void*) + 8 && sizeof(TXmlAttribute<SLength>) == sizeof(void*) + 8);
+static_assert(sizeof(TXmlAttribute<Length>) == sizeof(void*) + 8 &&
+              sizeof(TXmlAttribute<SLength>) == sizeof(void*) + 8);
 static_assert(sizeof(TXmlAttribute<SNullableLength>) == sizeof(Layout<SNullableLength>));
 static_assert(sizeof(TXmlAttribute<Core::String>) == sizeof(Layout<Core::String>));
 static_assert(std::is_empty_v<int_to_type<0>> && !std::has_virtual_destructor_v<XmlAttribute>);

@@ -98,13 +98,33 @@ TEST(Format, AcceptsNumbersAndNothingElse) {
         float value;
     };
     for (Row const& row : {
-             Row{u"", true, 0}, Row{u"5.", true, 5}, Row{u".5", true, 0.5f}, Row{u"\u00A0\t-1.5e+1\n", true, -15},
-             Row{u"50%", true, 50}, Row{u" 50% ", true, 50}, Row{u"1e-9999", true, 0}, Row{u"0e99999999999", true, 0},
-             Row{u"3.4028235e38", true, FLT_MAX}, Row{u"3.4028236e38", false, 0}, Row{u"-1e9999", false, 0},
-             Row{u" ", false, 0}, Row{u".", false, 0}, Row{u"+", false, 0}, Row{u"1e", false, 0}, Row{u"1e+", false, 0},
-             Row{u"--1", false, 0}, Row{u"50%%", false, 0}, Row{u"50 %", false, 0}, Row{u"%", false, 0},
-             Row{u"1,5", false, 0}, Row{u"0x10", false, 0}, Row{u"inf", false, 0}, Row{u"nan", false, 0},
-             Row{u"1.2.3", false, 0}, Row{u"1f", false, 0}, Row{u"\uFF11", false, 0},
+             Row{u"", true, 0},
+             Row{u"5.", true, 5},
+             Row{u".5", true, 0.5f},
+             Row{u"\u00A0\t-1.5e+1\n", true, -15},
+             Row{u"50%", true, 50},
+             Row{u" 50% ", true, 50},
+             Row{u"1e-9999", true, 0},
+             Row{u"0e99999999999", true, 0},
+             Row{u"3.4028235e38", true, FLT_MAX},
+             Row{u"3.4028236e38", false, 0},
+             Row{u"-1e9999", false, 0},
+             Row{u" ", false, 0},
+             Row{u".", false, 0},
+             Row{u"+", false, 0},
+             Row{u"1e", false, 0},
+             Row{u"1e+", false, 0},
+             Row{u"--1", false, 0},
+             Row{u"50%%", false, 0},
+             Row{u"50 %", false, 0},
+             Row{u"%", false, 0},
+             Row{u"1,5", false, 0},
+             Row{u"0x10", false, 0},
+             Row{u"inf", false, 0},
+             Row{u"nan", false, 0},
+             Row{u"1.2.3", false, 0},
+             Row{u"1f", false, 0},
+             Row{u"\uFF11", false, 0},
          }) {
         float value = 42;
         EXPECT_EQ(Format::parseFloat(row.text, value), row.accepted) << String(row.text).toUtf8();
@@ -133,9 +153,10 @@ TEST(Format, ReadsTheLongestNumberAtTheStart) {
         float number;
         int integer;
     };
-    for (Row const& row : {Row{u"45deg", 45, 45}, Row{u"abc", 0, 0}, Row{u"", 0, 0}, Row{u"  -1.5e1x", -15, -1},
-                           Row{u"1e", 1, 1}, Row{u"1e+q", 1, 1}, Row{u"-", 0, 0}, Row{u"1e99", FLT_MAX, 1},
-                           Row{u"-99999999999999999999", -1e20f, INT_MIN}, Row{u"2147483648", 2147483648.0f, INT_MAX}}) {
+    for (Row const& row :
+         {Row{u"45deg", 45, 45}, Row{u"abc", 0, 0}, Row{u"", 0, 0}, Row{u"  -1.5e1x", -15, -1}, Row{u"1e", 1, 1},
+          Row{u"1e+q", 1, 1}, Row{u"-", 0, 0}, Row{u"1e99", FLT_MAX, 1}, Row{u"-99999999999999999999", -1e20f, INT_MIN},
+          Row{u"2147483648", 2147483648.0f, INT_MAX}}) {
         EXPECT_EQ(Format::parseFloat(row.text), row.number) << String(row.text).toUtf8();
         EXPECT_EQ(Format::parseInt(row.text), row.integer) << String(row.text).toUtf8();
     }
@@ -177,7 +198,9 @@ TEST(Format, MeasuresHaveThreeDecimalsAtMost) {
 
 TEST(StringFormatStream, FillsPlaceholdersByNumber) {
     auto const format = [](char16_t const* text) {
-        return (StringFormatStream(text) << 1 << 0.1f << double{0.1f} << 200 / 255.0 << String(u"a{0}")).getString().toUtf8();
+        return (StringFormatStream(text) << 1 << 0.1f << double{0.1f} << 200 / 255.0 << String(u"a{0}"))
+            .getString()
+            .toUtf8();
     };
     EXPECT_EQ(format(u"{0} {1} {2} {3} {4}"), "1 0.1 0.1 0.7843137254901961 a{0}");
     EXPECT_EQ(format(u"{4}{0:0.###}{3:0.###}pt{4:0.###}"), "a{0}10.784pta{0}");

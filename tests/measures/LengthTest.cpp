@@ -16,9 +16,10 @@ TEST(Length, ReadsANumberWithItsUnit) {
         float size;
         Length::Unit unit;
     };
-    for (Row const& row : {Row{u"12pt", 12, Length::Pt}, Row{u"+1.5in", 1.5f, Length::In}, Row{u".5mm", 0.5f, Length::Mm},
-                           Row{u"-3pc", -3, Length::Pc}, Row{u"0", 0, Length::Pt}, Row{u"1e2px", 100, Length::Px},
-                           Row{u"2 cm", 2, Length::Cm}, Row{u"1em", 1, Length::Em}, Row{u"5%ex", 5, Length::Ex}}) {
+    for (Row const& row :
+         {Row{u"12pt", 12, Length::Pt}, Row{u"+1.5in", 1.5f, Length::In}, Row{u".5mm", 0.5f, Length::Mm},
+          Row{u"-3pc", -3, Length::Pc}, Row{u"0", 0, Length::Pt}, Row{u"1e2px", 100, Length::Px},
+          Row{u"2 cm", 2, Length::Cm}, Row{u"1em", 1, Length::Em}, Row{u"5%ex", 5, Length::Ex}}) {
         auto const length = parsed<Length>(row.text);
         ASSERT_TRUE(length) << narrow(row.text);
         EXPECT_TRUE(*length == Length(row.size, row.unit)) << narrow(row.text);
@@ -117,7 +118,9 @@ TEST(SNullableLength, IsPresentAfterAParse) {
 TEST(SLengthList, TakesAnySeparators) {
     auto const list = parsed<Core::Vector<SLength>>(u" 1, 2,,3 4%,");
     ASSERT_TRUE(list);
-    EXPECT_EQ(*list, (Core::Vector<SLength>{{1, SLength::UserUnit}, {2, SLength::UserUnit}, {3, SLength::UserUnit},
+    EXPECT_EQ(*list, (Core::Vector<SLength>{{1, SLength::UserUnit},
+                                            {2, SLength::UserUnit},
+                                            {3, SLength::UserUnit},
                                             {static_cast<float>(4 / 100.0), SLength::Percent}}));
     TXmlAttribute<Core::Vector<SLength>> attribute(*list);
     EXPECT_FALSE(attribute.parseValue(u"1,x"));

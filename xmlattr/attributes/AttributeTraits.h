@@ -30,8 +30,6 @@ concept Seeds = requires {
 };
 
 // Where an attribute keeps its value. A type whose printer changes the value has its own.
-template <class T> struct AttributeStorage {
-    T value{};
-};
+template <class T> struct AttributeStorage { T value{}; };
 
 } // namespace Xml

@@ -29,8 +29,7 @@ Core::String AttributeTraits<Core::String>::print(Core::String const& value) {
     return value;
 }
 
-bool AttributeTraits<Drawing::ImageFilter>::parse(Drawing::ImageFilter& value,
-                                                  std::u16string_view text) {
+bool AttributeTraits<Drawing::ImageFilter>::parse(Drawing::ImageFilter& value, std::u16string_view text) {
     return Drawing::ImageFilter::parseFilter(value, text);
 }
 

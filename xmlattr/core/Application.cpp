@@ -70,9 +70,8 @@ template <class Use> auto withValue(std::u16string_view key, Use use) {
 } // namespace
 
 String Application::getStringConfigValue(String const& key, String const& fallback) {
-    return withValue(key, [&](std::u16string const* value) {
-        return value ? String(std::u16string_view(*value)) : fallback;
-    });
+    return withValue(
+        key, [&](std::u16string const* value) { return value ? String(std::u16string_view(*value)) : fallback; });
 }
 
 int Application::getIntConfigValue(String const& key, int fallback) {

@@ -13,7 +13,8 @@ char const* Exception::what() const noexcept {
 
 UnreacheableCodeException::UnreacheableCodeException(char const* sourceName, int line)
     : Exception(std::string("unreachable code: ") + sourceName + ", line " + std::to_string(line)),
-      sourceName(sourceName), line(line) {}
+      sourceName(sourceName),
+      line(line) {}
 UnreacheableCodeException::~UnreacheableCodeException() = default;
 
 NullPointerException::NullPointerException() : Exception("null pointer") {}

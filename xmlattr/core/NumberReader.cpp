@@ -47,8 +47,7 @@ char16_t const* scanExponent(char16_t const* unit, char16_t const* end, int& exp
     if (unit != end && (*unit == u'-' || *unit == u'+')) ++unit;
     if (unit == end || !isDigit(*unit)) return nullptr;
     int magnitude = 0;
-    for (; unit != end && isDigit(*unit); ++unit)
-        magnitude = std::min(magnitude * 10 + (*unit - u'0'), exponentLimit);
+    for (; unit != end && isDigit(*unit); ++unit) magnitude = std::min(magnitude * 10 + (*unit - u'0'), exponentLimit);
     exponent = negative ? -magnitude : magnitude;
     return unit;
 }

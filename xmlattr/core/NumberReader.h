@@ -13,8 +13,8 @@ struct Decimal {
     std::uint64_t mantissa = 0; // the first 19 significant digits, the decimal point left out
     int exponent = 0;           // the power of ten of the mantissa's last digit
     bool negative = false;
-    bool truncated = false;          // more than 19 significant digits: the mantissa lacks some
-    char16_t const* end = nullptr;   // behind the last code unit of the number; null: no number
+    bool truncated = false;           // more than 19 significant digits: the mantissa lacks some
+    char16_t const* end = nullptr;    // behind the last code unit of the number; null: no number
     char16_t const* digits = nullptr; // the mantissa's first digit or its point
 };
 

@@ -39,8 +39,8 @@ public:
     }
     SmartPtr(SmartPtr const& other) noexcept : SmartPtr(other.object) {}
     template <class U>
-        requires std::is_convertible_v<U*, T*>
-    SmartPtr(SmartPtr<U> const& other) noexcept : SmartPtr(other.get()) {}
+    requires std::is_convertible_v<U*, T*> SmartPtr(SmartPtr<U> const& other)
+    noexcept : SmartPtr(other.get()) {}
     constexpr SmartPtr(SmartPtr&& other) noexcept : object(std::exchange(other.object, nullptr)) {}
     constexpr ~SmartPtr() {
         if (object) object->Release();
@@ -60,9 +60,7 @@ public:
     explicit operator bool() const noexcept { return object != nullptr; }
     bool operator!() const noexcept { return object == nullptr; }
 
-    template <class U> bool operator==(SmartPtr<U> const& other) const noexcept {
-        return object == other.get();
-    }
+    template <class U> bool operator==(SmartPtr<U> const& other) const noexcept { return object == other.get(); }
     bool operator==(std::nullptr_t) const noexcept { return object == nullptr; }
 
 private:

@@ -113,8 +113,7 @@ int String::compareNoCase(std::u16string_view other) const noexcept {
     auto const [mine, theirs] =
         std::mismatch(units.begin(), units.end(), other.begin(), other.end(),
                       [](char16_t a, char16_t b) { return Core::toLower(a) == Core::toLower(b); });
-    if (mine != units.end() && theirs != other.end())
-        return Core::toLower(*mine) < Core::toLower(*theirs) ? -1 : 1;
+    if (mine != units.end() && theirs != other.end()) return Core::toLower(*mine) < Core::toLower(*theirs) ? -1 : 1;
     return (mine != units.end()) - (theirs != other.end());
 }
 
@@ -141,8 +140,7 @@ String String::subString(int start) const {
 String String::subString(int start, int count) const {
     int const first = std::clamp(start, 0, length());
     int const last = std::clamp(count, 0, length() - first);
-    return std::u16string_view(units).substr(static_cast<std::size_t>(first),
-                                             static_cast<std::size_t>(last));
+    return std::u16string_view(units).substr(static_cast<std::size_t>(first), static_cast<std::size_t>(last));
 }
 
 Vector<String> String::split(std::u16string_view separators) const {

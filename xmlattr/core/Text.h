@@ -24,9 +24,8 @@ constexpr char16_t toLower(char16_t unit) noexcept {
 }
 
 constexpr bool equalsNoCase(std::u16string_view left, std::u16string_view right) noexcept {
-    return left.size() == right.size() &&
-           std::equal(left.begin(), left.end(), right.begin(),
-                      [](char16_t a, char16_t b) { return toLower(a) == toLower(b); });
+    return left.size() == right.size() && std::equal(left.begin(), left.end(), right.begin(),
+                                                     [](char16_t a, char16_t b) { return toLower(a) == toLower(b); });
 }
 
 constexpr std::u16string_view trimStart(std::u16string_view text) noexcept {

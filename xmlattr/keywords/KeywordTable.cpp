@@ -10,9 +10,9 @@ namespace Xml::detail {
 PackedKeyword const* findWord(KeywordView table, std::u16string_view text, Case rule) {
     for (PackedKeyword const& row : table.rows) {
         if (row.length != text.size()) continue;
-        bool const isEqual = rule == Case::Exact
-                                 ? std::memcmp(table.letters + row.start, text.data(), text.size() * sizeof(char16_t)) == 0
-                                 : Core::equalsNoCase(table.word(row), text);
+        bool const isEqual = rule == Case::Exact ? std::memcmp(table.letters + row.start, text.data(),
+                                                               text.size() * sizeof(char16_t)) == 0
+                                                 : Core::equalsNoCase(table.word(row), text);
         if (isEqual) return &row;
     }
     return nullptr;

@@ -35,7 +35,9 @@ template <class E> struct KeywordRow {
 template <class E> struct Keywords;
 
 template <class E>
-concept KeywordEnumeration = std::is_enum_v<E> && requires { Keywords<E>::rows; };
+concept KeywordEnumeration = std::is_enum_v<E> && requires {
+    Keywords<E>::rows;
+};
 
 template <class E>
 concept KeywordsPrintEmpty = Keywords<E>::printsEmpty;
@@ -53,9 +55,7 @@ struct KeywordView {
     std::span<PackedKeyword const> rows;
     char16_t const* letters;
 
-    constexpr std::u16string_view word(PackedKeyword const& row) const {
-        return {letters + row.start, row.length};
-    }
+    constexpr std::u16string_view word(PackedKeyword const& row) const { return {letters + row.start, row.length}; }
 };
 
 // The row whose word is the text, or null. A word of another length is never compared.
@@ -116,18 +116,18 @@ template <class E> constexpr KeywordView printTable() {
 template <KeywordEnumeration E> struct KeywordTraits {
     static_assert(std::is_same_v<std::underlying_type_t<E>, std::int32_t>);
     static_assert(!detail::hasDuplicateWords<E>(), "a keyword stands twice in the table");
-    static_assert(detail::hasEmptyWord<E>() == requires { Keywords<E>::acceptsEmpty; },
-                  "the empty text is a keyword only where the table says so");
+    static_assert(
+        detail::hasEmptyWord<E>() == requires { Keywords<E>::acceptsEmpty; },
+        "the empty text is a keyword only where the table says so");
 
     static bool parse(E& value, std::u16string_view text) {
-        auto const* const row = detail::findWord(detail::packedTable<Keywords<E>::rows>.view(), text, Keywords<E>::rule);
+        auto const* const row =
+            detail::findWord(detail::packedTable<Keywords<E>::rows>.view(), text, Keywords<E>::rule);
         if (row) value = static_cast<E>(row->value);
         return row != nullptr;
     }
 
-    static Core::String print(E const& value)
-        requires(!KeywordsPrintEmpty<E>)
-    {
+    static Core::String print(E const& value) requires(!KeywordsPrintEmpty<E>) {
         constexpr detail::KeywordView table = detail::printTable<E>();
         if (auto const* const row = detail::findValue(table, static_cast<std::int32_t>(value))) return table.word(*row);
         if constexpr (requires { Keywords<E>::unknownThrows; }) detail::throwUnknownKeyword();

@@ -8,9 +8,8 @@
 namespace Xml {
 
 inline constexpr UnitRow<SLength::Unit> sLengthUnitRows[] = {
-    {u"pt", SLength::Pt, PixelRatio::pt}, {u"cm", SLength::Cm, PixelRatio::cm},
-    {u"mm", SLength::Mm, PixelRatio::mm}, {u"in", SLength::In, PixelRatio::in},
-    {u"em", SLength::Em, PixelRatio::em}, {u"ex", SLength::Ex, PixelRatio::ex},
+    {u"pt", SLength::Pt, PixelRatio::pt}, {u"cm", SLength::Cm, PixelRatio::cm}, {u"mm", SLength::Mm, PixelRatio::mm},
+    {u"in", SLength::In, PixelRatio::in}, {u"em", SLength::Em, PixelRatio::em}, {u"ex", SLength::Ex, PixelRatio::ex},
     {u"pc", SLength::Pc, PixelRatio::pc},
 };
 
