@@ -2,7 +2,8 @@
 add_library(xmlattr_options INTERFACE)
 target_compile_features(xmlattr_options INTERFACE cxx_std_20)
 target_compile_options(xmlattr_options INTERFACE
-  -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow=local -Wold-style-cast -Wextra-semi)
+  -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wold-style-cast -Wextra-semi
+  $<$<CXX_COMPILER_ID:GNU>:-Wshadow=local>)
 
 # Rounding is exact only where a double is a double: the x87 registers keep more.
 if(CMAKE_SIZEOF_VOID_P EQUAL 4 AND CMAKE_SYSTEM_PROCESSOR MATCHES "86")

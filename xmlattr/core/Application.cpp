@@ -33,7 +33,7 @@ Values readFile(char const* path) {
         if (line.empty() || line.front() == u'#') continue;
         std::size_t const equals = line.find(u'=');
         std::u16string_view const key = trim(line.substr(0, equals));
-        if (equals == line.npos || key.empty()) {
+        if (equals == std::u16string_view::npos || key.empty()) {
             Log::warning(String::fromUtf8(std::string(path) + ":" + std::to_string(number)) +
                          u": no \"key = value\"; the file is not used");
             return {};

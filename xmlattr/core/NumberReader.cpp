@@ -59,7 +59,7 @@ char16_t const* scanExponent(char16_t const* unit, char16_t const* end, int& exp
 bool scaleExactly(Decimal const& number, float& value) noexcept {
     constexpr std::uint64_t largestMantissa = std::uint64_t{1} << 53;
     if (number.truncated || number.mantissa > largestMantissa) return false;
-    double scaled = static_cast<double>(number.mantissa);
+    auto scaled = static_cast<double>(number.mantissa);
     if (number.exponent < 0) {
         if (number.exponent < -exactPowers) return false;
         scaled /= powersOfTen[-number.exponent];
