@@ -5,6 +5,7 @@
 
 namespace Xml {
 
+// The symbology of a barcode.
 enum class XMLATTR_API BarcodeType : std::int32_t {
     Auto = 0,
     UpcE = 1,
@@ -52,6 +53,7 @@ template <> struct Keywords<BarcodeType> {
     };
 };
 
+// The code set in which a Code 128 symbol starts.
 enum class XMLATTR_API Code128CodeSet : std::int32_t { CodeSetA = 0, CodeSetB = 1, CodeSetC = 2 };
 template <> struct Keywords<Code128CodeSet> {
     using enum Code128CodeSet;
@@ -61,6 +63,7 @@ template <> struct Keywords<Code128CodeSet> {
     static constexpr bool printsEmpty = true;
 };
 
+// The encodation of a Data Matrix symbol.
 enum class XMLATTR_API DMEncoding : std::int32_t { Ascii = 0, C40 = 1, Text = 2, Base256 = 3, None = 4, Auto = 5 };
 template <> struct Keywords<DMEncoding> {
     using enum DMEncoding;
@@ -70,6 +73,7 @@ template <> struct Keywords<DMEncoding> {
     static constexpr bool printsEmpty = true;
 };
 
+// The size of a Data Matrix symbol, rows by columns, in the order of ISO/IEC 16022: the squares, then the rectangles.
 enum class XMLATTR_API DMFormat : std::int32_t {
     Auto = -1,
     C10X10 = 0,
@@ -119,6 +123,7 @@ template <> struct Keywords<DMFormat> {
     static constexpr bool printsEmpty = true;
 };
 
+// The mode of a MaxiCode symbol, numbered as in ISO/IEC 16023; modes 0 and 1 have no keyword.
 enum class XMLATTR_API MaxicodeModes : std::int32_t {
     UsCarrier = 2,
     InternationalCarrier = 3,
@@ -137,6 +142,7 @@ template <> struct Keywords<MaxicodeModes> {
     static constexpr bool printsEmpty = true;
 };
 
+// The error-correction level of a QR Code symbol.
 enum class QRECL : std::int32_t { Unset = 0, LevelL = 1, LevelM = 2, LevelQ = 3, LevelH = 4 };
 template <> struct Keywords<QRECL> {
     using enum QRECL;
@@ -146,6 +152,7 @@ template <> struct Keywords<QRECL> {
     static constexpr bool printsEmpty = true;
 };
 
+// How the text of a barcode becomes bytes.
 enum class XMLATTR_API TextEncoding : std::int32_t { Latin1 = 0, Utf8 = 1 };
 template <> struct Keywords<TextEncoding> {
     using enum TextEncoding;

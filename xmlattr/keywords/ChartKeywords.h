@@ -5,6 +5,7 @@
 
 namespace Xml {
 
+// The kind of a chart. No keyword gives 3.
 enum class XMLATTR_API ChartType : std::int32_t { Line = 0, Bar = 1, Area = 2, Pie = 4, Spider = 5 };
 template <> struct Keywords<ChartType> {
     using enum ChartType;
@@ -14,6 +15,7 @@ template <> struct Keywords<ChartType> {
     static constexpr bool printsEmpty = true;
 };
 
+// How the series of a chart share a category. Intended: "stacked100%" here is "100-stacked" in SerieGrouping.
 enum class XMLATTR_API ChartStyle : std::int32_t { Clustered = 0, Stacked = 1, Stacked100 = 2, Stacked3d = 3 };
 template <> struct Keywords<ChartStyle> {
     using enum ChartStyle;
@@ -23,6 +25,7 @@ template <> struct Keywords<ChartStyle> {
     static constexpr std::u16string_view unknownPrints = u"clustered";
 };
 
+// The colours of a chart: a theme X of eight in its variant Y of four is "styleXY".
 // clang-format off
 enum class XMLATTR_API ChartTheme : std::int32_t {
     None = 0,
@@ -52,6 +55,7 @@ template <> struct Keywords<ChartTheme> {
 };
 // clang-format on
 
+// The data along an axis.
 enum class XMLATTR_API AxisDataType : std::int32_t { Auto = 0, Number = 1, Currency = 2, Date = 3, String = 4 };
 template <> struct Keywords<AxisDataType> {
     using enum AxisDataType;
@@ -61,6 +65,7 @@ template <> struct Keywords<AxisDataType> {
     static constexpr bool printsEmpty = true;
 };
 
+// Where one axis crosses the other.
 enum class XMLATTR_API AxisIntersection : std::int32_t { Max = 0, Min = 1, Auto = 2 };
 template <> struct Keywords<AxisIntersection> {
     using enum AxisIntersection;
@@ -69,6 +74,7 @@ template <> struct Keywords<AxisIntersection> {
     static constexpr bool printsEmpty = true;
 };
 
+// The direction of an axis.
 enum class XMLATTR_API AxisOrientation : std::int32_t { Auto = 0, Vertical = 1, Horizontal = 2 };
 template <> struct Keywords<AxisOrientation> {
     using enum AxisOrientation;
@@ -78,6 +84,7 @@ template <> struct Keywords<AxisOrientation> {
     static constexpr bool printsEmpty = true;
 };
 
+// The side of the chart at which an axis stands.
 enum class XMLATTR_API AxisPosition : std::int32_t { Top = 0, Left = 1, Bottom = 2, Right = 3 };
 template <> struct Keywords<AxisPosition> {
     using enum AxisPosition;
@@ -87,6 +94,7 @@ template <> struct Keywords<AxisPosition> {
     static constexpr bool printsEmpty = true;
 };
 
+// The shape of the bars.
 enum class XMLATTR_API BarShapeType : std::int32_t { Bar = 0, Cylinder = 1, Pyramid = 2, Cone = 3 };
 template <> struct Keywords<BarShapeType> {
     using enum BarShapeType;
@@ -96,6 +104,7 @@ template <> struct Keywords<BarShapeType> {
     static constexpr bool printsEmpty = true;
 };
 
+// The shape of a pie.
 enum class XMLATTR_API PieShapeType : std::int32_t { Pie = 0, Doughnut = 1 };
 template <> struct Keywords<PieShapeType> {
     using enum PieShapeType;
@@ -104,6 +113,7 @@ template <> struct Keywords<PieShapeType> {
     static constexpr bool printsEmpty = true;
 };
 
+// Where the caption of a data point stands.
 enum class XMLATTR_API CaptionPlacement : std::int32_t {
     Auto = 0,
     OutsideEnd = 1,
@@ -124,6 +134,7 @@ template <> struct Keywords<CaptionPlacement> {
     static constexpr bool printsEmpty = true;
 };
 
+// The direction of the values written along an axis.
 enum class XMLATTR_API DisplayValOrientation : std::int32_t { Horizontal = 0, Vertical = 1, Oblique = 2 };
 template <> struct Keywords<DisplayValOrientation> {
     using enum DisplayValOrientation;
@@ -133,6 +144,7 @@ template <> struct Keywords<DisplayValOrientation> {
     static constexpr bool printsEmpty = true;
 };
 
+// Whether values stand at the tick marks or between them.
 enum class XMLATTR_API DisplayValPlacement : std::int32_t { Center = 0, Between = 1, Auto = 2 };
 template <> struct Keywords<DisplayValPlacement> {
     using enum DisplayValPlacement;
@@ -142,6 +154,7 @@ template <> struct Keywords<DisplayValPlacement> {
     static constexpr bool printsEmpty = true;
 };
 
+// Which grid lines are drawn.
 enum class XMLATTR_API GridlineType : std::int32_t { None = 0, Minor = 1, Major = 2, MajorMinor = 3 };
 template <> struct Keywords<GridlineType> {
     using enum GridlineType;
@@ -151,6 +164,7 @@ template <> struct Keywords<GridlineType> {
     static constexpr bool printsEmpty = true;
 };
 
+// Whether labels stand inside the plot or outside.
 enum class XMLATTR_API LabelsPosition : std::int32_t { Inclusive = 0, Exclusive = 1 };
 template <> struct Keywords<LabelsPosition> {
     using enum LabelsPosition;
@@ -159,16 +173,19 @@ template <> struct Keywords<LabelsPosition> {
     static constexpr bool printsEmpty = true;
 };
 
+// Where the legend stands.
 enum class XMLATTR_API LegendPlacement : std::int32_t { Top = 0, Left = 1, Bottom = 2, Right = 3, Custom = 4 };
 template <> struct Keywords<LegendPlacement> {
     using enum LegendPlacement;
     static constexpr Case rule = Case::Any;
     static constexpr KeywordRow<LegendPlacement> rows[] = {
         {u"top", Top}, {u"left", Left}, {u"bottom", Bottom}, {u"right", Right}, {u"custom", Custom}};
+    // Intended: Custom prints nothing.
     static constexpr KeywordRow<LegendPlacement> printRows[] = {
         {u"top", Top}, {u"left", Left}, {u"bottom", Bottom}, {u"right", Right}};
 };
 
+// The marker of a data point.
 enum class XMLATTR_API MarkerType : std::int32_t {
     Unset = 0,
     Square = 1,
@@ -186,6 +203,7 @@ template <> struct Keywords<MarkerType> {
     static constexpr bool printsEmpty = true;
 };
 
+// How several series are drawn together.
 enum class XMLATTR_API SerieGrouping : std::int32_t { Overlapped = 0, Clustered = 1, Stacked = 2, Stacked100 = 3 };
 template <> struct Keywords<SerieGrouping> {
     using enum SerieGrouping;
@@ -195,6 +213,7 @@ template <> struct Keywords<SerieGrouping> {
     static constexpr bool printsEmpty = true;
 };
 
+// The direction in which the slices of a pie follow each other.
 enum class XMLATTR_API SliceOrientation : std::int32_t { Clockwise = 0, CounterClockwise = 1 };
 template <> struct Keywords<SliceOrientation> {
     using enum SliceOrientation;
@@ -204,6 +223,7 @@ template <> struct Keywords<SliceOrientation> {
     static constexpr bool printsEmpty = true;
 };
 
+// On which side of the axis tick marks are drawn.
 enum class XMLATTR_API TickMarkStyle : std::int32_t { None = 0, Inside = 1, Cross = 2, Outside = 3 };
 template <> struct Keywords<TickMarkStyle> {
     using enum TickMarkStyle;
@@ -213,6 +233,7 @@ template <> struct Keywords<TickMarkStyle> {
     static constexpr bool printsEmpty = true;
 };
 
+// Which tick marks are drawn.
 enum class XMLATTR_API TickMarkType : std::int32_t { Minor = 0, Major = 1, MajorMinor = 2 };
 template <> struct Keywords<TickMarkType> {
     using enum TickMarkType;
@@ -222,6 +243,7 @@ template <> struct Keywords<TickMarkType> {
     static constexpr bool printsEmpty = true;
 };
 
+// The type of the data in a dimension.
 enum class XMLATTR_API DimensionType : std::int32_t {
     String = 0,
     Int = 1,
@@ -241,6 +263,7 @@ template <> struct Keywords<DimensionType> {
     };
 };
 
+// The order of the data.
 enum class XMLATTR_API SortTypes : std::int32_t { Ascending = 0, Descending = 1, None = 2 };
 template <> struct Keywords<SortTypes> {
     using enum SortTypes;
@@ -249,6 +272,7 @@ template <> struct Keywords<SortTypes> {
         {u"ascending", Ascending}, {u"descending", Descending}, {u"none", None}};
 };
 
+// How two data sources of a chart are joined.
 enum class XMLATTR_API JoinFunctionType : std::int32_t { Inner = 0, Left = 1, Right = 2, Outer = 3 };
 template <> struct Keywords<JoinFunctionType> {
     using enum JoinFunctionType;

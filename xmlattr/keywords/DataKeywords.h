@@ -7,6 +7,7 @@
 
 namespace Xml {
 
+// What a database command returns.
 enum class XMLATTR_API CommandBehaviorType : std::int32_t {
     Default = 0,
     SingleResult = 1,
@@ -31,6 +32,7 @@ template <> struct Keywords<CommandBehaviorType> {
     static constexpr std::u16string_view unknownPrints = u"SchemaOnly";
 };
 
+// Whether several commands run in one transaction.
 enum class XMLATTR_API SqlCommandExecType : std::int32_t { Transaction = 0, RunEach = 1 };
 template <> struct Keywords<SqlCommandExecType> {
     using enum SqlCommandExecType;
@@ -39,6 +41,7 @@ template <> struct Keywords<SqlCommandExecType> {
     static constexpr std::u16string_view unknownPrints = u"Transaction";
 };
 
+// The direction of a parameter of a stored procedure.
 enum class XMLATTR_API DBParamScope : std::int32_t { In = 0, Out = 1, InOut = 2, Return = 3 };
 template <> struct Keywords<DBParamScope> {
     using enum DBParamScope;
@@ -48,6 +51,7 @@ template <> struct Keywords<DBParamScope> {
     static constexpr std::u16string_view unknownPrints = u"IN";
 };
 
+// The kind of a parameter of a query.
 template <> struct Keywords<Core::IO::SqlQueryParamType> {
     using enum Core::IO::SqlQueryParamType;
     static constexpr Case rule = Case::Any;
@@ -56,6 +60,7 @@ template <> struct Keywords<Core::IO::SqlQueryParamType> {
     static constexpr std::u16string_view unknownPrints = u"Text";
 };
 
+// The type of a value in a data source.
 template <> struct Keywords<Core::Variant::VariantType> {
     using enum Core::Variant::VariantType;
     static constexpr Case rule = Case::Any;
@@ -72,6 +77,7 @@ template <> struct Keywords<Core::Variant::VariantType> {
     static constexpr std::u16string_view unknownPrints = u"IntegerValue";
 };
 
+// The value that is replaced. Intended: "empty-string" and "custom" have other numbers than in ValueCoertionDest.
 enum class XMLATTR_API ValueCoertionSource : std::int32_t {
     EmptyNumeric = 0,
     EmptyString = 1,
@@ -90,6 +96,7 @@ template <> struct Keywords<ValueCoertionSource> {
     static constexpr bool unknownThrows = true;
 };
 
+// What replaces it.
 enum class XMLATTR_API ValueCoertionDest : std::int32_t { Zero = 0, Null = 1, EmptyString = 2, Custom = 3 };
 template <> struct Keywords<ValueCoertionDest> {
     using enum ValueCoertionDest;
@@ -99,6 +106,7 @@ template <> struct Keywords<ValueCoertionDest> {
     static constexpr bool unknownThrows = true;
 };
 
+// The encoding of a CSV file.
 enum class XMLATTR_API CsvEncodingType : std::int32_t { Auto = 0, Ansi = 1 };
 template <> struct Keywords<CsvEncodingType> {
     using enum CsvEncodingType;
@@ -107,6 +115,7 @@ template <> struct Keywords<CsvEncodingType> {
     static constexpr std::u16string_view unknownPrints = u"Auto";
 };
 
+// The format of a data document.
 enum class XMLATTR_API OrbelDocumentOutputType : std::int32_t {
     Unset = 0,
     Xml = 1,
@@ -125,6 +134,7 @@ template <> struct Keywords<OrbelDocumentOutputType> {
     };
 };
 
+// The protocol of a web-service call; the empty text is none.
 enum class XMLATTR_API WSProtocol : std::int32_t { None = 0, Soap = 1, Soap12 = 2, HttpGet = 3, HttpPost = 4 };
 template <> struct Keywords<WSProtocol> {
     using enum WSProtocol;
@@ -134,6 +144,7 @@ template <> struct Keywords<WSProtocol> {
     static constexpr bool acceptsEmpty = true;
 };
 
+// The binding style of a web-service call; the empty text is none.
 enum class XMLATTR_API WSBindingStyle : std::int32_t { None = 0, Rpc = 1, Document = 2 };
 template <> struct Keywords<WSBindingStyle> {
     using enum WSBindingStyle;
@@ -142,6 +153,7 @@ template <> struct Keywords<WSBindingStyle> {
     static constexpr bool acceptsEmpty = true;
 };
 
+// How a web-service message is encoded; the empty text leaves it open.
 enum class XMLATTR_API WSOperationUsage : std::int32_t { None = 0, Literal = 1, Encoded = 2 };
 template <> struct Keywords<WSOperationUsage> {
     using enum WSOperationUsage;
@@ -150,12 +162,14 @@ template <> struct Keywords<WSOperationUsage> {
     static constexpr bool acceptsEmpty = true;
 };
 
+// The format from which a document was converted.
 enum class XMLATTR_API OriginalInputFormat : std::int32_t { Fo = 0, Inx = 1, Html = 2, Docx = 3, WordMl = 4 };
 template <> struct Keywords<OriginalInputFormat> {
     using enum OriginalInputFormat;
     static constexpr Case rule = Case::Any;
     static constexpr KeywordRow<OriginalInputFormat> rows[] = {
         {u"FO", Fo}, {u"INX", Inx}, {u"HTML", Html}, {u"DOCX", Docx}, {u"WORDML", WordMl}};
+    // Intended: Fo prints "XLSFO" and a foreign number "XSLFO"; neither is read back.
     static constexpr KeywordRow<OriginalInputFormat> printRows[] = {
         {u"XLSFO", Fo}, {u"INX", Inx}, {u"HTML", Html}, {u"DOCX", Docx}, {u"WORDML", WordMl}};
     static constexpr std::u16string_view unknownPrints = u"XSLFO";

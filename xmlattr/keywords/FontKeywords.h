@@ -5,10 +5,12 @@
 
 namespace Xml {
 
+// font-style of XSL-FO and SVG.
 enum class XMLATTR_API FontStyle : std::int32_t { Normal = 0, Italic = 1, Oblique = 2, Backslant = 3 };
 template <> struct Keywords<FontStyle> {
     using enum FontStyle;
     static constexpr Case rule = Case::Exact;
+    // Intended: "oblique" reads as Italic; Oblique prints but is never read.
     static constexpr KeywordRow<FontStyle> rows[] = {
         {u"normal", Normal}, {u"italic", Italic}, {u"oblique", Italic}, {u"backslant", Backslant}};
     static constexpr KeywordRow<FontStyle> printRows[] = {
@@ -16,6 +18,7 @@ template <> struct Keywords<FontStyle> {
     static constexpr bool unknownThrows = true;
 };
 
+// font-variant of XSL-FO and SVG.
 enum class XMLATTR_API FontVariant : std::int32_t { Normal = 0, SmallCaps = 1 };
 template <> struct Keywords<FontVariant> {
     using enum FontVariant;
@@ -24,6 +27,7 @@ template <> struct Keywords<FontVariant> {
     static constexpr bool printsEmpty = true;
 };
 
+// font-selection-strategy of XSL-FO.
 enum class XMLATTR_API FontSelectionStrategy : std::int32_t { CharacterByCharacter = 0, Auto = 1 };
 template <> struct Keywords<FontSelectionStrategy> {
     using enum FontSelectionStrategy;
@@ -33,6 +37,7 @@ template <> struct Keywords<FontSelectionStrategy> {
     static constexpr bool unknownThrows = true;
 };
 
+// The line of an underline, an overline or a line through.
 enum class XMLATTR_API TextLineStyle : std::int32_t {
     None = 0,
     Solid = 1,

@@ -5,6 +5,7 @@
 
 namespace Xml {
 
+// The kind of a form control.
 enum class FormControlType : std::int32_t {
     Checkbox = 0,
     Text = 1,
@@ -23,6 +24,7 @@ template <> struct Keywords<FormControlType> {
     };
 };
 
+// The look of a form control.
 enum class FormControlStyle : std::int32_t { Default = 0, Flat = 1 };
 template <> struct Keywords<FormControlStyle> {
     using enum FormControlStyle;
@@ -31,6 +33,7 @@ template <> struct Keywords<FormControlStyle> {
     static constexpr std::u16string_view unknownPrints = u"default";
 };
 
+// The mark of a checked box.
 enum class FormCheckStyle : std::int32_t { Check = 0, Circle = 1, Cross = 2, Diamond = 3, Square = 4, Star = 5 };
 template <> struct Keywords<FormCheckStyle> {
     using enum FormCheckStyle;
@@ -40,6 +43,7 @@ template <> struct Keywords<FormCheckStyle> {
     static constexpr std::u16string_view unknownPrints = u"check";
 };
 
+// What a form control does.
 enum class FormActionType : std::int32_t { Unset = 0, Url = 1, JavaScript = 2 };
 template <> struct Keywords<FormActionType> {
     using enum FormActionType;
@@ -48,6 +52,7 @@ template <> struct Keywords<FormActionType> {
     static constexpr bool printsEmpty = true;
 };
 
+// The event on which a form control acts.
 enum class FormTriggerAction : std::int32_t {
     Unset = 0,
     OnMouseUp = 1,
@@ -67,6 +72,7 @@ template <> struct Keywords<FormTriggerAction> {
     static constexpr bool printsEmpty = true;
 };
 
+// The output for which a script is kept.
 enum class XMLATTR_API JavaScriptType : std::int32_t { All = 0, Pdf = 1, Html = 2 };
 template <> struct Keywords<JavaScriptType> {
     using enum JavaScriptType;
@@ -75,6 +81,7 @@ template <> struct Keywords<JavaScriptType> {
     static constexpr std::u16string_view unknownPrints = u"all";
 };
 
+// starting-state of XSL-FO.
 enum class XMLATTR_API BookmarkStartingState : std::int32_t { Show = 0, Hide = 1 };
 template <> struct Keywords<BookmarkStartingState> {
     using enum BookmarkStartingState;
@@ -82,6 +89,7 @@ template <> struct Keywords<BookmarkStartingState> {
     static constexpr KeywordRow<BookmarkStartingState> rows[] = {{u"show", Show}, {u"hide", Hide}};
 };
 
+// The kind of a change under review.
 enum class MarkupType : std::int32_t { Insert = 0, Delete = 1, FormatText = 2, FormatNumber = 3 };
 template <> struct Keywords<MarkupType> {
     using enum MarkupType;
@@ -91,6 +99,7 @@ template <> struct Keywords<MarkupType> {
     static constexpr bool printsEmpty = true;
 };
 
+// What a password protects.
 enum class XMLATTR_API ProtectionObject : std::int32_t { Document = 0, PdfOutput = 1, WordMlOutput = 2 };
 template <> struct Keywords<ProtectionObject> {
     using enum ProtectionObject;
@@ -99,6 +108,7 @@ template <> struct Keywords<ProtectionObject> {
         {u"document", Document}, {u"pdf-output", PdfOutput}, {u"wordml-output", WordMlOutput}};
 };
 
+// Whether an annotation belongs to the page or to the sheet.
 enum class XMLATTR_API PageAnnotationContext : std::int32_t { Page = 0, Sheet = 1 };
 template <> struct Keywords<PageAnnotationContext> {
     using enum PageAnnotationContext;

@@ -7,6 +7,7 @@
 
 namespace Xml {
 
+// display of SVG 1.1.
 enum class XMLATTR_API SDisplay : std::int32_t {
     Inline = 0,
     Block = 1,
@@ -51,6 +52,7 @@ template <> struct Keywords<SDisplay> {
     static constexpr bool printsEmpty = true;
 };
 
+// stroke-linecap of SVG 1.1. Intended: "round" is 1 here and 2 in SLineJoin.
 enum class XMLATTR_API SLineCap : std::int32_t { Butt = 0, Round = 1, Square = 2 };
 template <> struct Keywords<SLineCap> {
     using enum SLineCap;
@@ -59,6 +61,7 @@ template <> struct Keywords<SLineCap> {
     static constexpr bool printsEmpty = true;
 };
 
+// stroke-linejoin of SVG 1.1.
 enum class XMLATTR_API SLineJoin : std::int32_t { Miter = 0, Bevel = 1, Round = 2 };
 template <> struct Keywords<SLineJoin> {
     using enum SLineJoin;
@@ -67,6 +70,7 @@ template <> struct Keywords<SLineJoin> {
     static constexpr bool printsEmpty = true;
 };
 
+// text-anchor of SVG 1.1.
 enum class XMLATTR_API STextAnchor : std::int32_t { Unset = 0, Start = 1, Middle = 2, End = 3 };
 template <> struct Keywords<STextAnchor> {
     using enum STextAnchor;
@@ -75,6 +79,7 @@ template <> struct Keywords<STextAnchor> {
     static constexpr bool printsEmpty = true;
 };
 
+// visibility of SVG 1.1.
 enum class XMLATTR_API SVisibility : std::int32_t { Unset = 0, Visible = 1, Hidden = 2, Collapse = 3 };
 template <> struct Keywords<SVisibility> {
     using enum SVisibility;
@@ -84,12 +89,14 @@ template <> struct Keywords<SVisibility> {
     static constexpr bool printsEmpty = true;
 };
 
+// fill-rule and clip-rule of SVG 1.1. Intended: any case, unlike its neighbours.
 template <> struct Keywords<Drawing::FillMode> {
     using enum Drawing::FillMode;
     static constexpr Case rule = Case::Any;
     static constexpr KeywordRow<Drawing::FillMode> rows[] = {{u"nonzero", NonZero}, {u"evenodd", EvenOdd}};
 };
 
+// spreadMethod of SVG 1.1.
 template <> struct Keywords<Drawing::GradientSpreadMethod> {
     using enum Drawing::GradientSpreadMethod;
     static constexpr Case rule = Case::Exact;
@@ -98,6 +105,7 @@ template <> struct Keywords<Drawing::GradientSpreadMethod> {
     static constexpr bool printsEmpty = true;
 };
 
+// gradientUnits and its like of SVG 1.1.
 template <> struct Keywords<Drawing::GradientUnits> {
     using enum Drawing::GradientUnits;
     static constexpr Case rule = Case::Exact;
@@ -106,6 +114,7 @@ template <> struct Keywords<Drawing::GradientUnits> {
     static constexpr bool printsEmpty = true;
 };
 
+// When an embedded medium starts to play.
 enum class XMLATTR_API PlayMediaObject : std::int32_t { OnClick = 0, OnPageVisible = 1, OnPageFocus = 2 };
 template <> struct Keywords<PlayMediaObject> {
     using enum PlayMediaObject;

@@ -5,6 +5,7 @@
 
 namespace Xml {
 
+// absolute-position of XSL-FO.
 enum class XMLATTR_API AbsolutePosition : std::int32_t { Auto = 0, Absolute = 1, Fixed = 2 };
 template <> struct Keywords<AbsolutePosition> {
     using enum AbsolutePosition;
@@ -14,6 +15,7 @@ template <> struct Keywords<AbsolutePosition> {
     static constexpr bool unknownThrows = true;
 };
 
+// alignment-baseline of XSL-FO and SVG.
 enum class XMLATTR_API AlignmentBaseline : std::int32_t {
     Auto = 0,
     Baseline = 1,
@@ -55,6 +57,7 @@ template <> struct Keywords<AlignmentBaseline> {
     };
 };
 
+// The side at which a constrained object is aligned.
 enum class XMLATTR_API AlignmentConstraint : std::int32_t {
     None = 0,
     Top = 1,
@@ -72,6 +75,7 @@ template <> struct Keywords<AlignmentConstraint> {
     static constexpr std::u16string_view unknownPrints = u"none";
 };
 
+// background-repeat of XSL-FO.
 enum class XMLATTR_API BackgroundRepeat : std::int32_t { Repeat = 0, RepeatX = 1, RepeatY = 2, NoRepeat = 3 };
 template <> struct Keywords<BackgroundRepeat> {
     using enum BackgroundRepeat;
@@ -80,6 +84,7 @@ template <> struct Keywords<BackgroundRepeat> {
         {u"repeat", Repeat}, {u"repeat-x", RepeatX}, {u"repeat-y", RepeatY}, {u"no-repeat", NoRepeat}};
 };
 
+// blank-or-not-blank of XSL-FO.
 enum class XMLATTR_API BlankOrNotBlank : std::int32_t { Blank = 0, NotBlank = 1, Any = 2 };
 template <> struct Keywords<BlankOrNotBlank> {
     using enum BlankOrNotBlank;
@@ -88,6 +93,7 @@ template <> struct Keywords<BlankOrNotBlank> {
     static constexpr bool printsEmpty = true;
 };
 
+// border-collapse of XSL-FO.
 enum class XMLATTR_API BorderCollapse : std::int32_t { Collapse = 0, CollapseWithPrecedence = 1, Separate = 2 };
 template <> struct Keywords<BorderCollapse> {
     using enum BorderCollapse;
@@ -96,6 +102,7 @@ template <> struct Keywords<BorderCollapse> {
         {u"collapse", Collapse}, {u"collapse-with-precedence", CollapseWithPrecedence}, {u"separate", Separate}};
 };
 
+// The .conditionality of borders, paddings and spaces in XSL-FO.
 enum class XMLATTR_API BorderConditionality : std::int32_t { Discard = 0, Retain = 1 };
 template <> struct Keywords<BorderConditionality> {
     using enum BorderConditionality;
@@ -103,6 +110,7 @@ template <> struct Keywords<BorderConditionality> {
     static constexpr KeywordRow<BorderConditionality> rows[] = {{u"discard", Discard}, {u"retain", Retain}};
 };
 
+// border-style and rule-style of XSL-FO.
 enum class XMLATTR_API BorderStyle : std::int32_t {
     None = 0,
     Inset = 1,
@@ -124,6 +132,8 @@ template <> struct Keywords<BorderStyle> {
     };
 };
 
+// break-before and break-after of XSL-FO. Intended: each kind is a set of bits, so that every page break is also a
+// column break: a page is 2 + 1, an even page 4 + 2 + 1, an odd page 8 + 2 + 1.
 enum class XMLATTR_API Break : std::int32_t { Auto = 0, Column = 1, Page = 3, EvenPage = 7, OddPage = 11 };
 template <> struct Keywords<Break> {
     using enum Break;
@@ -132,6 +142,7 @@ template <> struct Keywords<Break> {
         {u"auto", Auto}, {u"column", Column}, {u"page", Page}, {u"even-page", EvenPage}, {u"odd-page", OddPage}};
 };
 
+// clear of XSL-FO, without "start" and "end".
 enum class XMLATTR_API Clear : std::int32_t { None = 0, Right = 1, Left = 2, Both = 3 };
 template <> struct Keywords<Clear> {
     using enum Clear;
@@ -140,6 +151,7 @@ template <> struct Keywords<Clear> {
     static constexpr std::u16string_view unknownPrints = u"none";
 };
 
+// display-align of XSL-FO. Intended: "auto" is refused.
 enum class XMLATTR_API DisplayAlign : std::int32_t { Before = 0, After = 1, Center = 2 };
 template <> struct Keywords<DisplayAlign> {
     using enum DisplayAlign;
@@ -147,15 +159,18 @@ template <> struct Keywords<DisplayAlign> {
     static constexpr KeywordRow<DisplayAlign> rows[] = {{u"before", Before}, {u"after", After}, {u"center", Center}};
 };
 
+// How often a constrained object is shown.
 enum class XMLATTR_API DisplayStrategyConstraint : std::int32_t { OncePerPage = 0, OncePerDocument = 1 };
 template <> struct Keywords<DisplayStrategyConstraint> {
     using enum DisplayStrategyConstraint;
     static constexpr Case rule = Case::Any;
     static constexpr KeywordRow<DisplayStrategyConstraint> rows[] = {{u"once-per-page", OncePerPage},
                                                                      {u"once-per-document", OncePerDocument}};
+    // Intended: a word that is not accepted.
     static constexpr std::u16string_view unknownPrints = u"none";
 };
 
+// dominant-baseline of XSL-FO and SVG.
 enum class XMLATTR_API DominantBaseline : std::int32_t {
     Auto = 0,
     UseScript = 1,
@@ -173,6 +188,7 @@ enum class XMLATTR_API DominantBaseline : std::int32_t {
 template <> struct Keywords<DominantBaseline> {
     using enum DominantBaseline;
     static constexpr Case rule = Case::Any;
+    // Intended: "ideographic" and "alphabetic" read as ResetSize; 4 and 5 print but are never read.
     static constexpr KeywordRow<DominantBaseline> rows[] = {
         {u"auto", Auto},
         {u"use-script", UseScript},
@@ -204,6 +220,7 @@ template <> struct Keywords<DominantBaseline> {
     static constexpr std::u16string_view unknownPrints = u"auto";
 };
 
+// The side to which an object floats.
 enum class FloatPosition : std::int32_t { Left = 0, Right = 1 };
 template <> struct Keywords<FloatPosition> {
     using enum FloatPosition;
@@ -211,6 +228,7 @@ template <> struct Keywords<FloatPosition> {
     static constexpr KeywordRow<FloatPosition> rows[] = {{u"left", Left}, {u"right", Right}};
 };
 
+// Where the numbers of footnotes start again.
 enum class XMLATTR_API FootnoteRestartRule : std::int32_t { Auto = 0, Page = 1 };
 template <> struct Keywords<FootnoteRestartRule> {
     using enum FootnoteRestartRule;
@@ -219,6 +237,7 @@ template <> struct Keywords<FootnoteRestartRule> {
     static constexpr bool printsEmpty = true;
 };
 
+// leader-alignment of XSL-FO.
 enum class XMLATTR_API LeaderAlignment : std::int32_t { None = 0, ReferenceArea = 1, Page = 2 };
 template <> struct Keywords<LeaderAlignment> {
     using enum LeaderAlignment;
@@ -227,6 +246,7 @@ template <> struct Keywords<LeaderAlignment> {
         {u"none", None}, {u"reference-area", ReferenceArea}, {u"page", Page}};
 };
 
+// leader-pattern of XSL-FO.
 enum class XMLATTR_API LeaderPattern : std::int32_t { Space = 0, Rule = 1, Dots = 2, UseContent = 3 };
 template <> struct Keywords<LeaderPattern> {
     using enum LeaderPattern;
@@ -235,6 +255,7 @@ template <> struct Keywords<LeaderPattern> {
         {u"space", Space}, {u"rule", Rule}, {u"dots", Dots}, {u"use-content", UseContent}};
 };
 
+// linefeed-treatment of XSL-FO.
 enum class LinefeedTreatment : std::int32_t { Ignore = 0, Preserve = 1, TreatAsSpace = 2, TreatAsZeroWidthSpace = 3 };
 template <> struct Keywords<LinefeedTreatment> {
     using enum LinefeedTreatment;
@@ -245,6 +266,7 @@ template <> struct Keywords<LinefeedTreatment> {
                                                              {u"treat-as-zero-width-space", TreatAsZeroWidthSpace}};
 };
 
+// line-height-shift-adjustment of XSL-FO.
 enum class XMLATTR_API LineHeightShiftAdjustment : std::int32_t { ConsiderShifts = 0, DisregardShifts = 1 };
 template <> struct Keywords<LineHeightShiftAdjustment> {
     using enum LineHeightShiftAdjustment;
@@ -253,6 +275,7 @@ template <> struct Keywords<LineHeightShiftAdjustment> {
                                                                      {u"disregard-shifts", DisregardShifts}};
 };
 
+// line-stacking-strategy of XSL-FO.
 enum class XMLATTR_API LineStackingStrategy : std::int32_t { LineHeight = 0, FontHeight = 1, MaxHeight = 2 };
 template <> struct Keywords<LineStackingStrategy> {
     using enum LineStackingStrategy;
@@ -261,6 +284,7 @@ template <> struct Keywords<LineStackingStrategy> {
         {u"line-height", LineHeight}, {u"font-height", FontHeight}, {u"max-height", MaxHeight}};
 };
 
+// The margin in which a marginal note stands.
 enum class XMLATTR_API MarginaliaDestinationArea : std::int32_t { Start = 0, End = 1, Inside = 2, Outside = 3 };
 template <> struct Keywords<MarginaliaDestinationArea> {
     using enum MarginaliaDestinationArea;
@@ -269,6 +293,7 @@ template <> struct Keywords<MarginaliaDestinationArea> {
         {u"start", Start}, {u"end", End}, {u"inside", Inside}, {u"outside", Outside}};
 };
 
+// How a marginal note is aligned with the line it belongs to.
 enum class XMLATTR_API MarginaliaRelativeAlign : std::int32_t { Before = 0, Baseline = 1, End = 2 };
 template <> struct Keywords<MarginaliaRelativeAlign> {
     using enum MarginaliaRelativeAlign;
@@ -277,6 +302,7 @@ template <> struct Keywords<MarginaliaRelativeAlign> {
         {u"before", Before}, {u"baseline", Baseline}, {u"end", End}};
 };
 
+// overflow of XSL-FO and SVG.
 enum class XMLATTR_API Overflow : std::int32_t {
     Visible = 0,
     Hidden = 1,
@@ -291,12 +317,14 @@ template <> struct Keywords<Overflow> {
         {u"hidden", Hidden},
         {u"error-if-overflow", ErrorIfOverflow},
         {u"fitcontent-if-overflow", FitContentIfOverflow},
+        // Intended: these three print back as "visible" and "hidden".
         {u"repeat", Visible},
         {u"scroll", Hidden},
         {u"auto", Visible},
     };
 };
 
+// The pages to which a constraint applies.
 enum class XMLATTR_API PageConstraint : std::int32_t { Any = 0, Odd = 1, Even = 2, First = 3, Last = 4 };
 template <> struct Keywords<PageConstraint> {
     using enum PageConstraint;
@@ -305,6 +333,7 @@ template <> struct Keywords<PageConstraint> {
         {u"any", Any}, {u"odd", Odd}, {u"even", Even}, {u"first", First}, {u"last", Last}};
 };
 
+// page-position of XSL-FO.
 enum class XMLATTR_API PagePosition : std::int32_t { First = 0, Last = 1, Rest = 2, Any = 3, Only = 4 };
 template <> struct Keywords<PagePosition> {
     using enum PagePosition;
@@ -314,6 +343,7 @@ template <> struct Keywords<PagePosition> {
     static constexpr bool printsEmpty = true;
 };
 
+// The region of the page to which a constraint applies.
 enum class XMLATTR_API PageRegionConstraint : std::int32_t {
     None = 0,
     Body = 1,
@@ -331,6 +361,7 @@ template <> struct Keywords<PageRegionConstraint> {
     static constexpr std::u16string_view unknownPrints = u"none";
 };
 
+// odd-or-even of XSL-FO.
 enum class XMLATTR_API Parity : std::int32_t { Odd = 0, Even = 1, Any = 2 };
 template <> struct Keywords<Parity> {
     using enum Parity;
@@ -339,6 +370,7 @@ template <> struct Keywords<Parity> {
     static constexpr bool printsEmpty = true;
 };
 
+// A horizontal position.
 enum class XMLATTR_API PositionX : std::int32_t { Auto = 0, Left = 1, Center = 2, Right = 3 };
 template <> struct Keywords<PositionX> {
     using enum PositionX;
@@ -347,6 +379,7 @@ template <> struct Keywords<PositionX> {
         {u"auto", Auto}, {u"left", Left}, {u"center", Center}, {u"right", Right}};
 };
 
+// A vertical position.
 enum class XMLATTR_API PositionY : std::int32_t { Auto = 0, Top = 1, Middle = 2, Bottom = 3 };
 template <> struct Keywords<PositionY> {
     using enum PositionY;
@@ -356,6 +389,7 @@ template <> struct Keywords<PositionY> {
     static constexpr bool printsEmpty = true;
 };
 
+// relative-position of XSL-FO.
 enum class XMLATTR_API RelativePosition : std::int32_t { Static = 0, Relative = 1 };
 template <> struct Keywords<RelativePosition> {
     using enum RelativePosition;
@@ -364,6 +398,7 @@ template <> struct Keywords<RelativePosition> {
     static constexpr bool unknownThrows = true;
 };
 
+// retrieve-boundary of XSL-FO.
 enum class XMLATTR_API RetrieveBoundary : std::int32_t { Page = 0, PageSequence = 1, Document = 2 };
 template <> struct Keywords<RetrieveBoundary> {
     using enum RetrieveBoundary;
@@ -372,6 +407,7 @@ template <> struct Keywords<RetrieveBoundary> {
         {u"page", Page}, {u"page-sequence", PageSequence}, {u"document", Document}};
 };
 
+// retrieve-boundary-within-table of XSL-FO.
 enum class XMLATTR_API RetrieveBoundaryWithinTable : std::int32_t { Table = 0, TableFragment = 1, Page = 2 };
 template <> struct Keywords<RetrieveBoundaryWithinTable> {
     using enum RetrieveBoundaryWithinTable;
@@ -381,6 +417,7 @@ template <> struct Keywords<RetrieveBoundaryWithinTable> {
     static constexpr bool printsEmpty = true;
 };
 
+// retrieve-position of XSL-FO.
 enum class XMLATTR_API RetrievePosition : std::int32_t {
     FirstStartingWithinPage = 0,
     FirstIncludingCarryover = 1,
@@ -398,6 +435,7 @@ template <> struct Keywords<RetrievePosition> {
     };
 };
 
+// retrieve-position-within-table of XSL-FO.
 enum class XMLATTR_API RetrievePositionWithinTable : std::int32_t {
     FirstStarting = 0,
     FirstIncludingCarryover = 1,
@@ -415,6 +453,7 @@ template <> struct Keywords<RetrievePositionWithinTable> {
     };
 };
 
+// scaling of XSL-FO.
 enum class XMLATTR_API Scaling : std::int32_t { Uniform = 0, NonUniform = 1 };
 template <> struct Keywords<Scaling> {
     using enum Scaling;
@@ -422,6 +461,7 @@ template <> struct Keywords<Scaling> {
     static constexpr KeywordRow<Scaling> rows[] = {{u"uniform", Uniform}, {u"non-uniform", NonUniform}};
 };
 
+// What a scaled object is measured against.
 enum class XMLATTR_API ScalingReference : std::int32_t { Line = 0, Block = 1 };
 template <> struct Keywords<ScalingReference> {
     using enum ScalingReference;
@@ -429,15 +469,18 @@ template <> struct Keywords<ScalingReference> {
     static constexpr KeywordRow<ScalingReference> rows[] = {{u"line", Line}, {u"block", Block}};
 };
 
+// What counts as white space when free room is searched.
 enum class XMLATTR_API SearchWhiteSpaceConstraint : std::int32_t { Empty = 0, IncludingBordersAndBackground = 1 };
 template <> struct Keywords<SearchWhiteSpaceConstraint> {
     using enum SearchWhiteSpaceConstraint;
     static constexpr Case rule = Case::Any;
     static constexpr KeywordRow<SearchWhiteSpaceConstraint> rows[] = {
         {u"empty", Empty}, {u"including-borders-and-background", IncludingBordersAndBackground}};
+    // Intended: a word that is not accepted.
     static constexpr std::u16string_view unknownPrints = u"none";
 };
 
+// span of XSL-FO.
 enum class XMLATTR_API Span : std::int32_t { None = 0, All = 1 };
 template <> struct Keywords<Span> {
     using enum Span;
@@ -445,6 +488,7 @@ template <> struct Keywords<Span> {
     static constexpr KeywordRow<Span> rows[] = {{u"none", None}, {u"all", All}};
 };
 
+// What fills the room before a tab stop.
 enum class XMLATTR_API TabPattern : std::int32_t { None = 0, Dot = 1, Hyphen = 2, Underscore = 3 };
 template <> struct Keywords<TabPattern> {
     using enum TabPattern;
@@ -453,6 +497,7 @@ template <> struct Keywords<TabPattern> {
         {u"none", None}, {u"dot", Dot}, {u"hyphen", Hyphen}, {u"underscore", Underscore}};
 };
 
+// How a text is aligned at a tab stop.
 enum class XMLATTR_API TabStopType : std::int32_t { Left = 0, Center = 1, Right = 2 };
 template <> struct Keywords<TabStopType> {
     using enum TabStopType;
@@ -460,6 +505,7 @@ template <> struct Keywords<TabStopType> {
     static constexpr KeywordRow<TabStopType> rows[] = {{u"left", Left}, {u"center", Center}, {u"right", Right}};
 };
 
+// table-layout of XSL-FO.
 enum class XMLATTR_API TableLayout : std::int32_t { Auto = 0, Fixed = 1 };
 template <> struct Keywords<TableLayout> {
     using enum TableLayout;
@@ -467,6 +513,7 @@ template <> struct Keywords<TableLayout> {
     static constexpr KeywordRow<TableLayout> rows[] = {{u"auto", Auto}, {u"fixed", Fixed}};
 };
 
+// direction of XSL-FO and SVG.
 enum class XMLATTR_API TextDirection : std::int32_t { Ltr = 0, Rtl = 1 };
 template <> struct Keywords<TextDirection> {
     using enum TextDirection;
@@ -474,6 +521,7 @@ template <> struct Keywords<TextDirection> {
     static constexpr KeywordRow<TextDirection> rows[] = {{u"ltr", Ltr}, {u"rtl", Rtl}};
 };
 
+// text-transform of XSL-FO.
 enum class XMLATTR_API TextTransform : std::int32_t { None = 0, Uppercase = 1, Lowercase = 2, Capitalize = 3 };
 template <> struct Keywords<TextTransform> {
     using enum TextTransform;
@@ -482,6 +530,7 @@ template <> struct Keywords<TextTransform> {
         {u"none", None}, {u"uppercase", Uppercase}, {u"lowercase", Lowercase}, {u"capitalize", Capitalize}};
 };
 
+// visibility of XSL-FO. Intended: SVisibility has the same words with other numbers and is exact in case.
 enum class Visibility : std::int32_t { Visible = 0, Hidden = 1, Collapse = 2 };
 template <> struct Keywords<Visibility> {
     using enum Visibility;
@@ -490,6 +539,7 @@ template <> struct Keywords<Visibility> {
         {u"visible", Visible}, {u"hidden", Hidden}, {u"collapse", Collapse}};
 };
 
+// white-space-treatment of XSL-FO.
 enum class WhiteSpaceTreatment : std::int32_t {
     Ignore = 0,
     Preserve = 1,
@@ -509,6 +559,7 @@ template <> struct Keywords<WhiteSpaceTreatment> {
     };
 };
 
+// How text runs around an object.
 enum class Wrap : std::int32_t {
     Inline = 0,
     Square = 1,
@@ -532,6 +583,7 @@ template <> struct Keywords<Wrap> {
     };
 };
 
+// wrap-option of XSL-FO.
 enum class WrapOption : std::int32_t { Wrap = 0, NoWrap = 1 };
 template <> struct Keywords<WrapOption> {
     using enum WrapOption;
@@ -539,6 +591,7 @@ template <> struct Keywords<WrapOption> {
     static constexpr KeywordRow<WrapOption> rows[] = {{u"wrap", Wrap}, {u"no-wrap", NoWrap}};
 };
 
+// What a horizontal position is relative to. No keyword gives 1.
 enum class XMLATTR_API AnchorX : std::int32_t { Auto = 0, Body = 2, Page = 3, Character = 4, Text = 5 };
 template <> struct Keywords<AnchorX> {
     using enum AnchorX;
@@ -548,6 +601,7 @@ template <> struct Keywords<AnchorX> {
     static constexpr bool printsEmpty = true;
 };
 
+// What a vertical position is relative to.
 enum class XMLATTR_API AnchorY : std::int32_t { Auto = 0, Body = 1, Page = 2, Block = 3, Line = 4 };
 template <> struct Keywords<AnchorY> {
     using enum AnchorY;

@@ -5,6 +5,7 @@
 
 namespace Xml {
 
+// The standard that a PDF follows.
 enum class XMLATTR_API PDFConformance : std::int32_t {
     Default = 0,
     PdfX1a2003 = 1,
@@ -25,6 +26,7 @@ template <> struct Keywords<PDFConformance> {
     static constexpr std::u16string_view unknownPrints = u"Default";
 };
 
+// The encoding of text in AFP output.
 enum class XMLATTR_API AFPEncoding : std::int32_t { Ascii = 0, Ebcdic = 1, Utf16 = 2 };
 template <> struct Keywords<AFPEncoding> {
     using enum AFPEncoding;
@@ -33,6 +35,7 @@ template <> struct Keywords<AFPEncoding> {
     static constexpr bool printsEmpty = true;
 };
 
+// The orientation of AFP pages.
 enum class XMLATTR_API AFPPrinterLayout : std::int32_t {
     Portrait = 0,
     Landscape = 1,
@@ -55,6 +58,7 @@ template <> struct Keywords<AFPPrinterLayout> {
     static constexpr bool printsEmpty = true;
 };
 
+// Whether a TrueType font is embedded whole or in part. Intended: exact in case, unlike its neighbours.
 enum class TTFEmbedMode : std::int32_t { False = 0, True = 1, Subset = 2 };
 template <> struct Keywords<TTFEmbedMode> {
     using enum TTFEmbedMode;
@@ -63,6 +67,7 @@ template <> struct Keywords<TTFEmbedMode> {
     static constexpr bool printsEmpty = true;
 };
 
+// The lighting schemes of 3D annotations, in the order of ISO 32000.
 enum class LightingScheme : std::int32_t {
     Artwork = 0,
     None = 1,
