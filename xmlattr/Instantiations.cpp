@@ -10,4 +10,22 @@ namespace Xml {
 #define XMLATTR_INTERNAL_VALUE(...) template class TXmlAttribute<__VA_ARGS__>;
 #include "xmlattr/ValueTypes.inc"
 
+// A line that is missing in the list, or a misspelt rule of a keyword table, changes a count.
+inline constexpr int keywordEnumerations = 0
+#define XMLATTR_PUBLIC_VALUE(...) +KeywordEnumeration<__VA_ARGS__>
+#define XMLATTR_INTERNAL_VALUE(...)
+#include "xmlattr/ValueTypes.inc"
+    ;
+inline constexpr int internalKeywordEnumerations = 0
+#define XMLATTR_PUBLIC_VALUE(...)
+#define XMLATTR_INTERNAL_VALUE(...) +KeywordEnumeration<__VA_ARGS__>
+#include "xmlattr/ValueTypes.inc"
+    ;
+inline constexpr int keywordsWithoutPrinter = 0
+#define XMLATTR_PUBLIC_VALUE(...) +(KeywordEnumeration<__VA_ARGS__> && !Prints<__VA_ARGS__>)
+#define XMLATTR_INTERNAL_VALUE(...) +(KeywordEnumeration<__VA_ARGS__> && !Prints<__VA_ARGS__>)
+#include "xmlattr/ValueTypes.inc"
+    ;
+static_assert(keywordEnumerations == 112 && internalKeywordEnumerations == 16 && keywordsWithoutPrinter == 49);
+
 } // namespace Xml

@@ -9,6 +9,7 @@
 #include "xmlattr/keywords/FormKeywords.h"
 #include "xmlattr/keywords/GraphicsKeywords.h"
 #include "xmlattr/keywords/LayoutKeywords.h"
+#include "xmlattr/keywords/OddKeywords.h"
 #include "xmlattr/keywords/OutputKeywords.h"
 #include "xmlattr/measures/Length.h"
 #include "xmlattr/measures/Rectangle.h"

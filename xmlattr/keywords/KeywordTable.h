@@ -4,8 +4,10 @@
 #include "xmlattr/attributes/AttributeTraits.h"
 #include "xmlattr/core/Text.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
+#include <iterator>
 #include <span>
 #include <type_traits>
 
@@ -31,7 +33,9 @@ template <class E> struct KeywordRow {
 //   static constexpr bool unknownThrows = true;            UnreacheableCodeException instead
 //   static constexpr bool acceptsEmpty = true;             the empty text is one of the keywords
 //
-// The whole text must match. A text that does not leaves the value as it was.
+// The whole text must match. A text that does not leaves the value as it was. The numbers of the
+// enumerators are shared with the formatter and its renderers: their gaps and their order stay. An
+// enumerator Unset is a number that no keyword gives.
 template <class E> struct Keywords;
 
 template <class E>
@@ -41,6 +45,12 @@ concept KeywordEnumeration = std::is_enum_v<E> && requires {
 
 template <class E>
 concept KeywordsPrintEmpty = Keywords<E>::printsEmpty;
+
+template <class E>
+concept KeywordsThrow = Keywords<E>::unknownThrows;
+
+template <class E>
+concept KeywordsFallBack = !Keywords<E>::unknownPrints.empty();
 
 namespace detail {
 
@@ -88,18 +98,28 @@ template <auto const& rows> struct PackedTable {
 
 template <auto const& rows> inline constexpr PackedTable<rows> packedTable;
 
-template <class E> consteval bool hasDuplicateWords() {
-    for (auto const& row : Keywords<E>::rows)
-        for (auto const* other = &row + 1; other != std::end(Keywords<E>::rows); ++other)
-            if (Keywords<E>::rule == Case::Any ? Core::equalsNoCase(row.word, other->word) : row.word == other->word)
-                return true;
+template <auto const& rows, class Same> consteval bool hasTwins(Same same) {
+    for (auto const* row = std::begin(rows); row != std::end(rows); ++row)
+        if (std::any_of(row + 1, std::end(rows), [&](auto const& other) { return same(*row, other); })) return true;
     return false;
 }
 
+template <class E> consteval bool hasDuplicateWords() {
+    return hasTwins<Keywords<E>::rows>([](KeywordRow<E> const& a, KeywordRow<E> const& b) {
+        return Keywords<E>::rule == Case::Any ? Core::equalsNoCase(a.word, b.word) : a.word == b.word;
+    });
+}
+
 template <class E> consteval bool hasEmptyWord() {
-    for (auto const& row : Keywords<E>::rows)
-        if (row.word.empty()) return true;
-    return false;
+    return std::ranges::any_of(Keywords<E>::rows, [](KeywordRow<E> const& row) { return row.word.empty(); });
+}
+
+template <class E> consteval bool hasDuplicatePrints() {
+    if constexpr (requires { Keywords<E>::printRows; })
+        return hasTwins<Keywords<E>::printRows>(
+            [](KeywordRow<E> const& a, KeywordRow<E> const& b) { return a.value == b.value; });
+    else
+        return false;
 }
 
 template <class E> constexpr KeywordView printTable() {
@@ -119,6 +139,9 @@ template <KeywordEnumeration E> struct KeywordTraits {
     static_assert(
         detail::hasEmptyWord<E>() == requires { Keywords<E>::acceptsEmpty; },
         "the empty text is a keyword only where the table says so");
+    static_assert(!detail::hasDuplicatePrints<E>(), "a value stands twice among the rows for printing");
+    static_assert(KeywordsPrintEmpty<E> + KeywordsThrow<E> + KeywordsFallBack<E> <= 1,
+                  "a value without a keyword prints in one way");
 
     static bool parse(E& value, std::u16string_view text) {
         auto const* const row =
@@ -130,8 +153,9 @@ template <KeywordEnumeration E> struct KeywordTraits {
     static Core::String print(E const& value) requires(!KeywordsPrintEmpty<E>) {
         constexpr detail::KeywordView table = detail::printTable<E>();
         if (auto const* const row = detail::findValue(table, static_cast<std::int32_t>(value))) return table.word(*row);
-        if constexpr (requires { Keywords<E>::unknownThrows; }) detail::throwUnknownKeyword();
-        if constexpr (requires { Keywords<E>::unknownPrints; })
+        if constexpr (KeywordsThrow<E>)
+            detail::throwUnknownKeyword();
+        else if constexpr (KeywordsFallBack<E>)
             return Keywords<E>::unknownPrints;
         else
             return {};

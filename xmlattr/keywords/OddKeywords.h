@@ -33,7 +33,12 @@ template <> struct AttributeTraits<MaxRepeats> : KeywordTraits<MaxRepeats> {
 
 // reference-orientation of XSL-FO: an integer from -270 to 270 that is a multiple of 90. Turns the
 // other way round are held, and print, as their positive equals.
-enum class XMLATTR_API ReferenceOrientation : std::int32_t { Degrees0 = 0, Degrees90 = 1, Degrees180 = 2, Degrees270 = 3 };
+enum class XMLATTR_API ReferenceOrientation : std::int32_t {
+    Degrees0 = 0,
+    Degrees90 = 1,
+    Degrees180 = 2,
+    Degrees270 = 3
+};
 template <> struct Keywords<ReferenceOrientation> {
     using enum ReferenceOrientation;
     static constexpr Case rule = Case::Exact;
@@ -105,9 +110,7 @@ template <> struct Keywords<BarcodeValueType> {
     static constexpr std::u16string_view unknownPrints = u"HEX";
 };
 // Intended: printing a foreign number makes it Hex, so an attribute lets its printer at the value.
-template <> struct AttributeStorage<BarcodeValueType> {
-    mutable BarcodeValueType value{};
-};
+template <> struct AttributeStorage<BarcodeValueType> { mutable BarcodeValueType value{}; };
 template <> struct AttributeTraits<BarcodeValueType> : KeywordTraits<BarcodeValueType> {
     static bool parse(BarcodeValueType& value, std::u16string_view text);
     using KeywordTraits::print;
