@@ -12,5 +12,7 @@
 #include "xmlattr/keywords/OddKeywords.h"
 #include "xmlattr/keywords/OutputKeywords.h"
 #include "xmlattr/measures/Length.h"
+#include "xmlattr/measures/LengthOrPercent.h"
 #include "xmlattr/measures/Rectangle.h"
 #include "xmlattr/measures/SLength.h"
+#include "xmlattr/measures/SLengthOrPercent.h"

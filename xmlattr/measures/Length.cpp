@@ -3,25 +3,14 @@
 #include "xmlattr/attributes/TextCursor.h"
 #include "xmlattr/core/Exceptions.h"
 #include "xmlattr/core/Format.h"
-#include "xmlattr/measures/Units.h"
+#include "xmlattr/measures/LengthUnits.h"
 
 namespace Xml {
 
 namespace {
 
-constexpr UnitRow<Length::Unit> unitRows[] = {
-    {u"pt", Length::Pt, PixelRatio::pt, {72, 96}},
-    {u"px", Length::Px, PixelRatio::px, {1, 1}},
-    {u"cm", Length::Cm, PixelRatio::cm, {2.54f, 96}},
-    {u"mm", Length::Mm, PixelRatio::mm, {25.4f, 96}},
-    {u"in", Length::In, PixelRatio::in, {1, 96}},
-    {u"em", Length::Em, PixelRatio::em, {1536, 96}},
-    {u"ex", Length::Ex, PixelRatio::ex, {768, 96}},
-    {u"pc", Length::Pc, PixelRatio::pc, {12 * 72, 96}}, // Intended: no inverse, see the header
-};
-
 UnitRow<Length::Unit> const& rowOf(Length::Unit unit) {
-    if (auto const* row = findUnit(unitRows, unit)) return *row;
+    if (auto const* row = findUnit(lengthUnitRows, unit)) return *row;
     throw Core::UnreacheableCodeException("LengthAttribute", __LINE__);
 }
 
@@ -58,7 +47,7 @@ bool AttributeTraits<Length>::parse(Length& value, std::u16string_view text) {
         value = Length(0, Length::Pt); // Intended: points, not the pixels of the default length
         return true;
     }
-    auto const* const row = findSuffix(unitRows, text);
+    auto const* const row = findSuffix(lengthUnitRows, text);
     float size = 0;
     if (!row || !Core::Format::parseFloat(text.substr(0, text.size() - 2), size)) return false;
     value = Length(size, row->unit);

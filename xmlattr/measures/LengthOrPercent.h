@@ -1,0 +1,94 @@
+// The length or percentage of XSL-FO attributes, and the two plainest values with an automatic state.
+#pragma once
+
+#include "xmlattr/attributes/AttributeTraits.h"
+#include "xmlattr/measures/Length.h"
+#include "xmlattr/measures/MeasureOrPercent.h"
+#include "xmlattr/measures/TaggedMeasure.h"
+
+namespace Xml {
+
+// A number with "%", a number with a unit of Length, or a bare number, which is a ratio (1.5 is
+// 150%), unless the configuration says that "MeasurementUnit" is "Points": then it is in points.
+// "normal" is 120%, the normal line height. Words and units are exact in case, nothing is trimmed.
+// Prints the percentage or the length.
+class XMLATTR_API LengthOrPercent : public MeasureOrPercent<Length> {
+public:
+    constexpr LengthOrPercent() = default;
+    constexpr LengthOrPercent(Length const& length) : MeasureOrPercent(length) {}
+    constexpr LengthOrPercent(float percent) : MeasureOrPercent(percent) {}
+
+    constexpr bool operator==(LengthOrPercent const&) const = default;
+
+    // With `bareNumberIsRatio` the configuration is not asked. False for a text that is neither
+    // length nor percentage; then `out` is untouched.
+    static bool parseLengthOrPercent(LengthOrPercent& out, Core::String const& text, bool bareNumberIsRatio);
+    // Throws UnreacheableCodeException for a length whose unit is none.
+    static Core::String getValueAsString(LengthOrPercent const& value);
+};
+
+static_assert(sizeof(LengthOrPercent) == 16);
+
+template <> struct AttributeTraits<LengthOrPercent> {
+    static bool parse(LengthOrPercent& value, std::u16string_view text, bool bareNumberIsRatio = false);
+    static Core::String print(LengthOrPercent const& value);
+};
+
+// Automatic, as by default, or a length or percentage.
+class AutoOrMeasure : public TaggedMeasure<bool, false, LengthOrPercent> {
+public:
+    constexpr bool isAuto() const { return tag; }
+    // What it is without any meaning while the value is automatic.
+    constexpr LengthOrPercent const& getLengthOrPercent() const { return measure; }
+
+protected:
+    constexpr AutoOrMeasure() : TaggedMeasure(true) {}
+    constexpr AutoOrMeasure(LengthOrPercent const& measure) : TaggedMeasure(measure) {}
+};
+
+static_assert(sizeof(AutoOrMeasure) == 20);
+
+// The printer of those whose automatic state has no word: it prints the empty text.
+struct AutoOrMeasurePrinter {
+    static Core::String print(AutoOrMeasure const& value);
+};
+
+// "auto" in any case, or a LengthOrPercent. Prints "auto" or the measure.
+class XMLATTR_API LengthOrPercentAuto : public AutoOrMeasure {
+public:
+    constexpr LengthOrPercentAuto() = default;
+    constexpr LengthOrPercentAuto(LengthOrPercent const& measure) : AutoOrMeasure(measure) {}
+
+    // Keeps the measure.
+    constexpr void setAuto(bool isAuto) { tag = isAuto; }
+
+    constexpr bool operator==(LengthOrPercentAuto const&) const = default;
+
+    // False for a text that is neither; then `out` is untouched.
+    static bool parseLengthOrPercentAuto(LengthOrPercentAuto& out, Core::String const& text);
+};
+
+template <> struct AttributeTraits<LengthOrPercentAuto> {
+    static bool parse(LengthOrPercentAuto& value, std::u16string_view text);
+    static Core::String print(LengthOrPercentAuto const& value);
+};
+
+// A LengthOrPercent. Intended: "auto" is refused, so that only the default is automatic, and that
+// prints the empty text.
+class XMLATTR_API Margin : public AutoOrMeasure {
+public:
+    constexpr Margin() = default;
+    constexpr Margin(LengthOrPercent const& measure) : AutoOrMeasure(measure) {}
+
+    // Two automatic margins are equal, whatever measures they carry.
+    constexpr bool operator==(Margin const&) const = default;
+
+    // False for a text that is no LengthOrPercent; then `out` is untouched.
+    static bool parseMargin(Margin& out, Core::String const& text);
+};
+
+template <> struct AttributeTraits<Margin> : AutoOrMeasurePrinter {
+    static bool parse(Margin& value, std::u16string_view text);
+};
+
+} // namespace Xml

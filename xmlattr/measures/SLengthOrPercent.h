@@ -1,0 +1,47 @@
+// The length or percentage of SVG attributes, and one that may be absent.
+#pragma once
+
+#include "xmlattr/measures/MeasureOrPercent.h"
+#include "xmlattr/measures/SLength.h"
+
+namespace Xml {
+
+// A bare number of user units, a number with a unit of SVG 1.1, or a number with "%". White space
+// may follow, not precede; units are exact in case. Read by SLength::parseSLengthOrPercent. There is
+// no printer.
+class XMLATTR_API SLengthOrPercent : public MeasureOrPercent<SLength> {
+public:
+    constexpr SLengthOrPercent() = default;
+    constexpr SLengthOrPercent(SLength const& length) : MeasureOrPercent(length) {}
+    constexpr SLengthOrPercent(float percent) : MeasureOrPercent(percent) {}
+    constexpr SLengthOrPercent(float size, SLength::Unit unit) : MeasureOrPercent(SLength(size, unit)) {}
+
+    constexpr bool operator==(SLengthOrPercent const&) const = default;
+};
+
+static_assert(sizeof(SLengthOrPercent) == 16);
+
+template <> struct AttributeTraits<SLengthOrPercent> {
+    static bool parse(SLengthOrPercent& value, std::u16string_view text);
+};
+
+// An SLengthOrPercent or nothing. A parse that succeeds makes it present; one that fails changes
+// nothing. Comparing takes the measures alone.
+class XMLATTR_API SNullableLengthOrPercent : public SLengthOrPercent {
+public:
+    constexpr SNullableLengthOrPercent() = default;
+    constexpr SNullableLengthOrPercent(SLengthOrPercent const& value) : SLengthOrPercent(value), null(false) {}
+
+    constexpr bool isNull() const { return null; }
+    constexpr void setNull(bool isNull) { null = isNull; }
+
+private:
+    bool null = true;
+};
+
+template <> struct AttributeTraits<SNullableLengthOrPercent> {
+    static bool parse(SNullableLengthOrPercent& value, std::u16string_view text);
+    static constexpr bool refusesComparison = true;
+};
+
+} // namespace Xml
