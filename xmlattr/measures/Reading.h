@@ -29,12 +29,27 @@ constexpr NamedMeasure<Measure> const* findWord(NamedMeasure<Measure> const (&ro
     return nullptr;
 }
 
+template <class T, class Measure, std::size_t n>
+bool readAsWord(T& value, NamedMeasure<Measure> const (&rows)[n], std::u16string_view text) {
+    auto const* const row = findWord(rows, text);
+    if (row) value = T(row->measure);
+    return row != nullptr;
+}
+
 // The first row with the measure, or null.
 template <class Measure, std::size_t n>
 constexpr NamedMeasure<Measure> const* findMeasure(NamedMeasure<Measure> const (&rows)[n], Measure const& measure) {
     for (NamedMeasure<Measure> const& row : rows)
         if (row.measure == measure) return &row;
     return nullptr;
+}
+
+// What stands between the first "(" and the next ")", or the end when there is none; empty without "(".
+inline std::u16string_view argumentOf(std::u16string_view text) {
+    std::size_t const open = text.find(u'(');
+    if (open == text.npos) return {};
+    text.remove_prefix(open + 1);
+    return text.substr(0, text.find(u')'));
 }
 
 } // namespace Xml

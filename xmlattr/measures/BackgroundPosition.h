@@ -1,0 +1,35 @@
+// The position of a background image along one axis.
+#pragma once
+
+#include "xmlattr/measures/LengthOrPercent.h"
+
+namespace Xml {
+
+// "left" or "top" (0%), "center" (50%), "right" or "bottom" (100%), exact in case, or a
+// LengthOrPercent. Intended: only the percentage is kept, so that the three print as "left",
+// "center" and "right", whatever they were read from.
+class XMLATTR_API BackgroundPosition {
+public:
+    constexpr BackgroundPosition() = default;
+    constexpr BackgroundPosition(LengthOrPercent const& measure) : measure(measure) {}
+
+    constexpr LengthOrPercent const& getLengthOrPercent() const { return measure; }
+
+    constexpr bool operator==(BackgroundPosition const&) const = default;
+
+    // Reads the words alone; false for every other text, then `out` is untouched.
+    static bool readStringBackgroundPosition(BackgroundPosition& out, Core::String const& text);
+
+private:
+    LengthOrPercent measure;
+};
+
+static_assert(sizeof(BackgroundPosition) == 16);
+
+template <> struct AttributeTraits<BackgroundPosition> {
+    static bool parse(BackgroundPosition& value, std::u16string_view text);
+    static Core::String print(BackgroundPosition const& value);
+    static constexpr bool refusesComparison = true;
+};
+
+} // namespace Xml

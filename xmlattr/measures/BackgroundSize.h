@@ -1,0 +1,55 @@
+// The size of a background image along one axis.
+#pragma once
+
+#include "xmlattr/keywords/KeywordTable.h"
+#include "xmlattr/measures/LengthOrPercent.h"
+
+namespace Xml {
+
+enum class XMLATTR_API BackgroundSizeType : std::int32_t {
+    Cover = 0,
+    Contain = 1,
+    Stretch = 2,
+    Auto = 3,
+    LengthOrPercent = 4
+};
+template <> struct Keywords<BackgroundSizeType> {
+    using enum BackgroundSizeType;
+    static constexpr Case rule = Case::Exact;
+    static constexpr KeywordRow<BackgroundSizeType> rows[] = {
+        {u"cover", Cover}, {u"contain", Contain}, {u"stretch", Stretch}, {u"fill", Stretch}, {u"auto", Auto}};
+    static constexpr bool unknownThrows = true;
+};
+
+// One of the words of BackgroundSizeType, exact in case, or a LengthOrPercent. Prints the same, but
+// for stretched ones. A failed parse changes nothing.
+class XMLATTR_API BackgroundSize {
+public:
+    constexpr BackgroundSize() = default;
+    constexpr BackgroundSize(BackgroundSizeType type) : type(type) {}
+    constexpr BackgroundSize(LengthOrPercent const& measure)
+        : measure(measure), type(BackgroundSizeType::LengthOrPercent) {}
+
+    constexpr LengthOrPercent const& getLengthOrPercent() const { return measure; }
+    constexpr BackgroundSizeType getType() const { return type; }
+
+    constexpr bool operator==(BackgroundSize const&) const = default;
+
+    // Reads the words alone; false for every other text, then `out` is untouched.
+    static bool readStringBackgroundSize(BackgroundSize& out, Core::String const& text);
+
+private:
+    LengthOrPercent measure;
+    BackgroundSizeType type = BackgroundSizeType::Auto;
+};
+
+static_assert(sizeof(BackgroundSize) == 20);
+
+template <> struct AttributeTraits<BackgroundSize> {
+    static bool parse(BackgroundSize& value, std::u16string_view text);
+    // Throws UnreacheableCodeException for a foreign type.
+    static Core::String print(BackgroundSize const& value);
+    static constexpr bool refusesComparison = true;
+};
+
+} // namespace Xml

@@ -1,0 +1,38 @@
+// A font measure relative to the parent's or absolute: the one value behind font sizes and stretches.
+#pragma once
+
+#include <cstdint>
+
+namespace Xml {
+
+// The numbers of the two forms differ between sizes and stretches.
+template <class RelativeWord, std::int32_t relativeNumber, class Measure, std::int32_t absoluteNumber>
+class FontMeasure {
+public:
+    enum Type : std::int32_t { NoValue = 0, Relative = relativeNumber, Absolute = absoluteNumber };
+
+    constexpr Type getType() const { return type; }
+
+    // The same form, with equal words or equal measures. Intended: a value that holds neither is
+    // unequal to every value, itself included.
+    constexpr bool operator==(FontMeasure const& other) const {
+        if (type != other.type) return false;
+        switch (type) {
+        case Relative: return relative == other.relative;
+        case Absolute: return absolute == other.absolute;
+        case NoValue: break;
+        }
+        return false;
+    }
+
+protected:
+    constexpr FontMeasure() = default;
+    constexpr FontMeasure(RelativeWord relative) : type(Relative), relative(relative) {}
+    constexpr FontMeasure(Measure const& absolute) : type(Absolute), absolute(absolute) {}
+
+    Type type = NoValue;
+    RelativeWord relative{};
+    Measure absolute;
+};
+
+} // namespace Xml

@@ -1,0 +1,67 @@
+// The font size of XSL-FO and of SVG.
+#pragma once
+
+#include "xmlattr/keywords/KeywordTable.h"
+#include "xmlattr/measures/FontMeasure.h"
+#include "xmlattr/measures/LengthOrPercent.h"
+#include "xmlattr/measures/SLengthOrPercent.h"
+
+namespace Xml {
+
+enum class XMLATTR_API RelativeFontSize : std::int32_t { Larger = 0, Smaller = 1 };
+template <> struct Keywords<RelativeFontSize> {
+    using enum RelativeFontSize;
+    static constexpr Case rule = Case::Exact;
+    static constexpr KeywordRow<RelativeFontSize> rows[] = {{u"larger", Larger}, {u"smaller", Smaller}};
+    static constexpr bool unknownThrows = true;
+};
+
+// What each accessor gives counts only where the type is its own.
+template <class Measure> class FontSizeOf : public FontMeasure<RelativeFontSize, 1, Measure, 2> {
+public:
+    constexpr bool isRelativeSize() const { return this->type == this->Relative; }
+    constexpr bool isAbsoluteSize() const { return this->type == this->Absolute; }
+    constexpr RelativeFontSize getRelativeSize() const { return this->relative; }
+    constexpr Measure const& getAbsoluteSize() const { return this->absolute; }
+
+protected:
+    constexpr FontSizeOf() = default;
+    constexpr FontSizeOf(RelativeFontSize relative) : FontSizeOf::FontMeasure(relative) {}
+    constexpr FontSizeOf(Measure const& absolute) : FontSizeOf::FontMeasure(absolute) {}
+};
+
+// "larger" or "smaller"; "xx-small", "x-small", "small", "medium", "large", "x-large" or "xx-large",
+// which are 6, 8, 10, 12, 16, 18 and 20pt; or a LengthOrPercent. Words are exact in case. Prints the
+// relative word or the measure. A failed parse changes nothing.
+class XMLATTR_API FontSize : public FontSizeOf<LengthOrPercent> {
+public:
+    constexpr FontSize() = default;
+    constexpr FontSize(RelativeFontSize relative) : FontSizeOf(relative) {}
+    constexpr FontSize(LengthOrPercent const& absolute) : FontSizeOf(absolute) {}
+
+    constexpr bool operator==(FontSize const&) const = default;
+};
+
+static_assert(sizeof(FontSize) == 24);
+
+template <> struct AttributeTraits<FontSize> {
+    static bool parse(FontSize& value, std::u16string_view text);
+    // Throws UnreacheableCodeException for a foreign relative size.
+    static Core::String print(FontSize const& value);
+};
+
+// The same words, or an SLengthOrPercent. There is no printer.
+class XMLATTR_API SFontSize : public FontSizeOf<SLengthOrPercent> {
+public:
+    constexpr SFontSize() = default;
+    constexpr SFontSize(RelativeFontSize relative) : FontSizeOf(relative) {}
+    constexpr SFontSize(SLengthOrPercent const& absolute) : FontSizeOf(absolute) {}
+
+    constexpr bool operator==(SFontSize const&) const = default;
+};
+
+static_assert(sizeof(SFontSize) == 24);
+
+template <> struct AttributeTraits<SFontSize> { static bool parse(SFontSize& value, std::u16string_view text); };
+
+} // namespace Xml

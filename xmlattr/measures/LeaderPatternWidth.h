@@ -1,0 +1,25 @@
+// The leader-pattern-width of XSL-FO.
+#pragma once
+
+#include "xmlattr/measures/LengthOrPercent.h"
+
+namespace Xml {
+
+// "use-font-metrics", exact in case, or a LengthOrPercent. The default uses the font metrics and
+// prints the empty text.
+class XMLATTR_API LeaderPatternWidth : public AutoOrMeasure {
+public:
+    constexpr LeaderPatternWidth() = default;
+    constexpr LeaderPatternWidth(LengthOrPercent const& measure) : AutoOrMeasure(measure) {}
+
+    constexpr bool usesFontMetrics() const { return isAuto(); }
+
+    constexpr bool operator==(LeaderPatternWidth const&) const = default;
+};
+
+template <> struct AttributeTraits<LeaderPatternWidth> : AutoOrMeasurePrinter {
+    // Intended: "use-font-metrics" is accepted and changes nothing, not even a measure.
+    static bool parse(LeaderPatternWidth& value, std::u16string_view text);
+};
+
+} // namespace Xml

@@ -1,0 +1,55 @@
+// The spacing between letters or words, in XSL-FO and SVG.
+#pragma once
+
+#include "xmlattr/measures/Length.h"
+#include "xmlattr/measures/SLength.h"
+#include "xmlattr/measures/TaggedMeasure.h"
+
+namespace Xml {
+
+enum XMLATTR_API SpacingKind : std::int32_t { SpacingNormal = 0, SpacingLength = 1 };
+
+template <class LengthType> class SpacingOf : public TaggedMeasure<SpacingKind, SpacingLength, LengthType> {
+public:
+    constexpr SpacingKind getKind() const { return this->tag; }
+    constexpr bool isNormal() const { return getKind() == SpacingNormal; }
+
+protected:
+    constexpr SpacingOf() : SpacingOf::TaggedMeasure(SpacingNormal) {}
+    constexpr SpacingOf(LengthType const& length) : SpacingOf::TaggedMeasure(length) {}
+};
+
+// "normal" in any case, or a Length. Prints the same. A failed parse changes nothing.
+class XMLATTR_API LetterSpacing : public SpacingOf<Length> {
+public:
+    constexpr LetterSpacing() = default;
+    constexpr LetterSpacing(Length const& length) : SpacingOf(length) {}
+
+    constexpr Length const& getLength() const { return measure; }
+
+    constexpr bool operator==(LetterSpacing const&) const = default;
+};
+
+static_assert(sizeof(LetterSpacing) == 12);
+
+template <> struct AttributeTraits<LetterSpacing> {
+    static bool parse(LetterSpacing& value, std::u16string_view text);
+    static Core::String print(LetterSpacing const& value);
+};
+
+// "normal", exact in case, or an SLength. A failed parse changes nothing; there is no printer.
+class XMLATTR_API SSpacing : public SpacingOf<SLength> {
+public:
+    constexpr SSpacing() = default;
+    constexpr SSpacing(SLength const& length) : SpacingOf(length) {}
+
+    constexpr SLength const& getSLength() const { return measure; }
+
+    constexpr bool operator==(SSpacing const&) const = default;
+};
+
+static_assert(sizeof(SSpacing) == 12);
+
+template <> struct AttributeTraits<SSpacing> { static bool parse(SSpacing& value, std::u16string_view text); };
+
+} // namespace Xml

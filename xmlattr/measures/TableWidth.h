@@ -1,0 +1,24 @@
+// The width of a table.
+#pragma once
+
+#include "xmlattr/measures/LengthOrPercent.h"
+
+namespace Xml {
+
+// A LengthOrPercent, or a call with one as its argument. Intended: the call's name is never looked
+// at, so that a bare number follows the configuration even in proportional-column-width(). The
+// default is automatic; there is no printer.
+class XMLATTR_API TableWidth : public AutoOrMeasure {
+public:
+    constexpr TableWidth() = default;
+    constexpr TableWidth(LengthOrPercent const& measure) : AutoOrMeasure(measure) {}
+
+    constexpr bool operator==(TableWidth const&) const = default;
+
+    // False for a text that is neither measure nor call; then `out` is untouched.
+    static bool parseTableWidth(TableWidth& out, Core::String const& text);
+};
+
+template <> struct AttributeTraits<TableWidth> { static bool parse(TableWidth& value, std::u16string_view text); };
+
+} // namespace Xml

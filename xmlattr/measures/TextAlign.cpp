@@ -1,0 +1,20 @@
+#include "xmlattr/measures/TextAlign.h"
+
+namespace Xml {
+
+bool AttributeTraits<TextAlign>::parse(TextAlign& value, std::u16string_view text) {
+    TextAlignType type = TextAlignType::AlignmentString;
+    if (!AttributeTraits<TextAlignType>::parse(type, text)) {
+        if (text == u"outside") type = TextAlignType::Outside;
+        if (text == u"relative") type = TextAlignType::Relative;
+    }
+    value = TextAlign(type, type == TextAlignType::AlignmentString ? Core::String(text) : Core::String());
+    return true;
+}
+
+Core::String AttributeTraits<TextAlign>::print(TextAlign const& value) {
+    if (value.getType() == TextAlignType::AlignmentString) return value.getText();
+    return AttributeTraits<TextAlignType>::print(value.getType());
+}
+
+} // namespace Xml
