@@ -2,6 +2,8 @@
 #pragma once
 
 #include "xmlattr/attributes/PlainValues.h"
+#include "xmlattr/color/ColorParse.h"
+#include "xmlattr/color/SColor.h"
 #include "xmlattr/keywords/BarcodeKeywords.h"
 #include "xmlattr/keywords/ChartKeywords.h"
 #include "xmlattr/keywords/DataKeywords.h"
@@ -32,3 +34,6 @@
 #include "xmlattr/measures/Spacing.h"
 #include "xmlattr/measures/TableWidth.h"
 #include "xmlattr/measures/TextAlign.h"
+#include "xmlattr/svg/BoxShadow.h"
+#include "xmlattr/svg/STextDecoration.h"
+#include "xmlattr/svg/STextShadow.h"

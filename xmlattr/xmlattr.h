@@ -8,4 +8,6 @@
 #include "xmlattr/core/Exceptions.h"
 #include "xmlattr/core/Format.h"
 #include "xmlattr/core/Log.h"
+#include "xmlattr/core/OSInfo.h"
 #include "xmlattr/core/StringFormatStream.h"
+#include "xmlattr/drawing/SpotColor.h"

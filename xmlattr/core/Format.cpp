@@ -47,12 +47,6 @@ Integer scanInteger(std::u16string_view text) noexcept {
     return {static_cast<int>(negative ? -magnitude : magnitude), fits, unit};
 }
 
-int hexDigit(char16_t unit) noexcept {
-    if (isDigit(unit)) return unit - u'0';
-    char16_t const lower = toLower(unit);
-    return lower >= u'a' && lower <= u'f' ? lower - u'a' + 10 : -1;
-}
-
 String widen(char const* begin, char const* end, std::u16string_view suffix = {}) {
     std::u16string out;
     out.reserve(static_cast<std::size_t>(end - begin) + suffix.size());

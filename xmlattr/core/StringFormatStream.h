@@ -3,6 +3,7 @@
 
 #include "xmlattr/core/String.h"
 
+#include <initializer_list>
 #include <variant>
 
 namespace Core {
@@ -29,5 +30,9 @@ private:
     String format;
     Vector<Argument> arguments;
 };
+
+// The same at one go for a format and arguments that are at hand, without copies of them.
+using FormatArgument = std::variant<std::u16string_view, int, float, double>;
+XMLATTR_API String formatText(std::u16string_view format, std::initializer_list<FormatArgument> arguments);
 
 } // namespace Core

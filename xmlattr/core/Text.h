@@ -18,6 +18,13 @@ constexpr bool isDigit(char16_t unit) noexcept {
     return unit >= u'0' && unit <= u'9';
 }
 
+// The value of a hexadecimal digit of either case, -1 for every other code unit.
+constexpr int hexDigit(char16_t unit) noexcept {
+    if (isDigit(unit)) return unit - u'0';
+    char16_t const lower = unit | u' ';
+    return lower >= u'a' && lower <= u'f' ? lower - u'a' + 10 : -1;
+}
+
 // Folds ASCII letters only, whatever the locale.
 constexpr char16_t toLower(char16_t unit) noexcept {
     return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + (u'a' - u'A')) : unit;

@@ -1,0 +1,232 @@
+#include "xmlattr/color/ColorParse.h"
+
+#include "xmlattr/attributes/TextCursor.h"
+#include "xmlattr/color/ColorNames.h"
+#include "xmlattr/core/Format.h"
+#include "xmlattr/core/Log.h"
+#include "xmlattr/core/OSInfo.h"
+#include "xmlattr/core/StringFormatStream.h"
+#include "xmlattr/drawing/ColorText.h"
+#include "xmlattr/drawing/SpotColor.h"
+
+namespace Xml {
+
+namespace {
+
+using ColorPtr = SmartPtr<Drawing::Color>;
+
+enum Warning { UnknownSpotColor = 30001, IncompleteICCColor = 30002 };
+
+void warn(Warning id, std::u16string_view argument) {
+    Core::Log::warning(Core::formatText(Core::String::loadString(id), {argument}));
+}
+
+// Two digits at two places, which may be one and the same.
+bool readHexPair(std::u16string_view text, std::size_t high, std::size_t low, unsigned char& value) {
+    int const number = Core::hexDigit(text[high]) * 16 + Core::hexDigit(text[low]);
+    value = static_cast<unsigned char>(number);
+    return Core::hexDigit(text[high]) >= 0 && Core::hexDigit(text[low]) >= 0;
+}
+
+// Core::Format::parseHexInt would take an "0x" as well, but that needs a third place: on a pair of
+// code units it accepts exactly two digits, as this does.
+bool readHexa(ColorPtr& color, std::u16string_view text) {
+    if ((text.size() != 4 && text.size() != 7) || text[0] != u'#') return false;
+    std::size_t const step = text.size() / 3; // digits of a component
+    unsigned char components[3];
+    for (std::size_t i = 0; i < 3; ++i)
+        if (!readHexPair(text, 1 + i * step, (i + 1) * step, components[i])) return false;
+    color = new Drawing::RGBColor(components[0], components[1], components[2]);
+    return true;
+}
+
+// The next argument of an rgb-icc text, trimmed; empty from the ")" on and when the text ends
+// without one. The cursor stops in front of the delimiter behind the argument.
+std::u16string_view takeArgument(TextCursor& cursor) {
+    if (!cursor.take(u',')) cursor.take(u'(');
+    std::u16string_view const argument = cursor.takeWhile([](char16_t unit) { return unit != u',' && unit != u')'; });
+    return cursor.atEnd() ? std::u16string_view() : Core::trim(argument);
+}
+
+// Intended: unlike in rgb(...), percentages are of 255 in integers, and not held in range either.
+bool readFallBack(std::u16string_view text, unsigned char& value) {
+    int number = 0;
+    if (!Core::Format::parseInt(text, number)) return false;
+    value = static_cast<unsigned char>(text.ends_with(u'%') ? std::int64_t{number} * 255 / 100 : number);
+    return true;
+}
+
+bool readICC(ColorPtr& color, std::u16string_view text) {
+    std::size_t const open = text.find(u'(');
+    std::u16string_view fallBack[3], profile, components[4];
+    if (open != text.npos) {
+        TextCursor cursor{text, static_cast<int>(open)};
+        for (std::u16string_view& argument : fallBack) argument = takeArgument(cursor);
+        profile = takeArgument(cursor);
+        for (std::u16string_view& argument : components) argument = takeArgument(cursor);
+    }
+    if (fallBack[0].empty() || fallBack[1].empty() || fallBack[2].empty() || profile.empty()) {
+        warn(IncompleteICCColor, text);
+        return false;
+    }
+    unsigned char rgb[3];
+    for (int i = 0; i < 3; ++i)
+        if (!readFallBack(fallBack[i], rgb[i])) return false;
+    float numbers[4];
+    for (int i = 0; i < 4; ++i)
+        if (!Core::Format::parseFloat(components[i], numbers[i])) return false; // nothing reads as 0
+
+    int given = 0;
+    while (given < 4 && !components[given].empty()) ++given;
+    if (given == 0) {
+        warn(IncompleteICCColor, text);
+        return false;
+    }
+    int const count = given == 2 ? 1 : given;
+    SmartPtr<Drawing::ICCColor> const icc = new Drawing::ICCColor(count, numbers, new Drawing::ICCColorSpace(profile));
+    icc->setFallBack(rgb[0], rgb[1], rgb[2]);
+    color = icc;
+    return true;
+}
+
+// A list cut at its first comma; what follows the comma is trimmed.
+struct Cut {
+    std::u16string_view first, rest;
+    explicit Cut(std::u16string_view list) : first(list) {
+        std::size_t const comma = list.find(u',');
+        if (comma == list.npos) return;
+        first = list.substr(0, comma);
+        rest = Core::trim(list.substr(comma + 1));
+    }
+};
+
+SmartPtr<Drawing::SpotColorFunction> blackFunction() {
+    ColorPtr const black = new Drawing::RGBColor(0, 0, 0);
+    return new Drawing::ExponentialSpotColorFunction(new Drawing::RGBColorSpace, black, black, 1);
+}
+
+bool readSpot(ColorPtr& color, std::u16string_view text) {
+    std::size_t const open = text.find(u'('), close = text.rfind(u')');
+    if (open == text.npos || close == text.npos || close < open + 2) return false;
+    Cut const list(Core::trim(text.substr(open + 1, close - open - 1)));
+    std::u16string_view const name = list.first;
+    if (name.empty()) return false;
+
+    float tint = 1;
+    std::u16string_view alternate = list.rest;
+    if (!alternate.empty()) {
+        Cut const cut(alternate);
+        if (Core::Format::parseFloat(Core::trim(cut.first), tint)) alternate = cut.rest;
+    }
+    SmartPtr<Drawing::SpotColorFunction> function;
+    if (!alternate.empty()) function = Drawing::SpotColorFunction::parseColorFunctionString(alternate);
+    if (!function) function = Drawing::SpotColorMapper::getFunction(name);
+    if (!function) {
+        warn(UnknownSpotColor, name);
+        function = blackFunction();
+    }
+    color = new Drawing::SpotColor(name, tint, function);
+    return true;
+}
+
+bool readName(ColorPtr& color, std::u16string_view text) {
+    if (std::optional<unsigned int> const rgb = findColorName(text)) {
+        color = new Drawing::RGBColor(static_cast<unsigned char>(*rgb >> 16), static_cast<unsigned char>(*rgb >> 8),
+                                      static_cast<unsigned char>(*rgb));
+        return true;
+    }
+    if (Core::equalsNoCase(text, u"transparent") || Core::equalsNoCase(text, u"none")) {
+        color = nullptr;
+        return true;
+    }
+    Core::String const system = Core::OSInfo::getSystemColor(text);
+    return !system.empty() && Drawing::readRGB(color, system);
+}
+
+bool store(bool (*read)(ColorPtr&, std::u16string_view), Core::String const& text, ColorParse::Target* target) {
+    ColorPtr color;
+    if (!read(color, text)) return false;
+    target->setValue(color);
+    return true;
+}
+
+Core::String printICC(Drawing::ICCColor const& color) {
+    char16_t const* const format = color.getCount() == 1   ? u"rgb-icc({0},{1},{2},#{3},{4})"
+                                   : color.getCount() == 3 ? u"rgb-icc({0},{1},{2},#{3},{4}, {5}, {6})"
+                                   : color.getCount() == 4 ? u"rgb-icc({0},{1},{2},#{3},{4}, {5}, {6}, {7})"
+                                                           : nullptr;
+    if (!format) return {};
+    SmartPtr<Drawing::ICCColorSpace> const space = color.getColorSpace();
+    return Core::formatText(format,
+                            {color.getFallBackR(), color.getFallBackG(), color.getFallBackB(), space->getProfileName(),
+                             color.getColor(0), color.getColor(1), color.getColor(2), color.getColor(3)});
+}
+
+Core::String printSpot(Drawing::SpotColor const& color) {
+    auto const function = color.getFunction();
+    auto const* const exponential = dynamic_cast<Drawing::ExponentialSpotColorFunction const*>(function.get());
+    if (!exponential) return {};
+    // Intended: an RGB end prints as cmyk(...) without its fourth number and a CMYK end as rgb(...)
+    // without its black; readers of such texts rely on it.
+    ColorPtr const end = exponential->getEndColor();
+    if (auto const* rgb = dynamic_cast<Drawing::RGBColor const*>(end.get()))
+        return Core::formatText(u"spot-color({0},{1},cmyk({2},{3},{4},{5}))",
+                                {color.getColorName(), color.getTint(), rgb->getR(), rgb->getG(), rgb->getB()});
+    if (auto const* cmyk = dynamic_cast<Drawing::CMYKColor const*>(end.get()))
+        return Core::formatText(
+            u"spot-color({0},{1},rgb({2},{3},{4}))",
+            {color.getColorName(), color.getTint(), cmyk->getC(), cmyk->getM(), cmyk->getY(), cmyk->getK()});
+    return {};
+}
+
+} // namespace
+
+bool AttributeTraits<ColorPtr>::parse(ColorPtr& value, std::u16string_view text) {
+    if (text.starts_with(u"rgb-icc")) return readICC(value, text);
+    if (text.starts_with(u"spot-color")) return readSpot(value, text);
+    if (text.starts_with(u"rgb")) return Drawing::readRGB(value, text);
+    if (text.starts_with(u"cmyk")) return Drawing::readCMYK(value, text);
+    if (text.starts_with(u'#')) return readHexa(value, text);
+    return readName(value, text);
+}
+
+Core::String AttributeTraits<ColorPtr>::print(ColorPtr const& value) {
+    Drawing::Color const* const color = value.get();
+    if (auto const* rgb = dynamic_cast<Drawing::RGBColor const*>(color))
+        return Core::formatText(u"rgb({0},{1},{2})", {rgb->getR(), rgb->getG(), rgb->getB()});
+    if (auto const* cmyk = dynamic_cast<Drawing::CMYKColor const*>(color))
+        return Core::formatText(u"cmyk({0},{1},{2},{3})", {cmyk->getC(), cmyk->getM(), cmyk->getY(), cmyk->getK()});
+    if (auto const* icc = dynamic_cast<Drawing::ICCColor const*>(color)) return printICC(*icc);
+    if (auto const* spot = dynamic_cast<Drawing::SpotColor const*>(color)) return printSpot(*spot);
+    return {};
+}
+
+bool ColorParse::parseHexaColor(Core::String const& text, Target* target) {
+    return store(readHexa, text, target);
+}
+
+bool ColorParse::parseRGB(Core::String const& text, Target* target) {
+    return store(Drawing::readRGB, text, target);
+}
+
+bool ColorParse::parseCMYKString(Core::String text, Target* target) {
+    return store(Drawing::readCMYK, text, target);
+}
+
+bool ColorParse::parseICCColor(Core::String const& text, Target* target) {
+    return store(readICC, text, target);
+}
+
+bool ColorParse::parseSpotColor(Core::String const& text, Target* target) {
+    return store(readSpot, text, target);
+}
+
+bool ColorParse::parseColorName(Core::String const& text, Target* target) {
+    return store(readName, text, target);
+}
+
+Core::String ColorParse::getColorAsString(ColorPtr color) {
+    return AttributeTraits<ColorPtr>::print(color);
+}
+
+} // namespace Xml

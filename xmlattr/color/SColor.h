@@ -1,0 +1,61 @@
+// The paint of SVG attributes, and one that may be absent.
+#pragma once
+
+#include "xmlattr/color/ColorParse.h"
+
+#include <cstdint>
+
+namespace Xml {
+
+// "none" or "transparent", a reference "url(#id)", exact in case, to a paint server (SVG 1.1), or a
+// colour. Of a reference the text from "#" up to the next white space or ")" is kept; what follows,
+// a second paint for instance, is not looked at. Nothing is trimmed; there is no printer.
+class XMLATTR_API SColor {
+public:
+    enum ColorType : std::int32_t { None = 0, Url = 1, Color = 2 };
+
+    SColor() = default;
+    SColor(Core::String const& url) : type(Url), url(url) {}
+    SColor(SmartPtr<Drawing::Color> const& color) : type(Color), color(color) {} // null is a Color too
+
+    ColorType getType() const { return type; }
+    SmartPtr<Drawing::Color> getColor() const { return color; }
+    Core::String const& getUrl() const { return url; }
+
+    // References are equal by their texts. Intended: colours are equal when they are one object, so
+    // two that were parsed from the same text are not.
+    bool operator==(SColor const& other) const;
+
+    // False for a text that is no paint; then `value` is untouched.
+    static bool parseSColor(SColor& value, Core::String const& text);
+
+private:
+    ColorType type = None;
+    SmartPtr<Drawing::Color> color;
+    Core::String url;
+};
+
+template <> struct AttributeTraits<SColor> { static bool parse(SColor& value, std::u16string_view text); };
+
+// An SVG paint or nothing. A parse that succeeds makes it present; one that fails changes nothing.
+// Comparing takes the paints alone.
+class XMLATTR_API SNullableColor : public SColor {
+public:
+    // Intended: absent also with a reference or a colour; only a parse or setNull(false) ends that.
+    SNullableColor() = default;
+    SNullableColor(Core::String const& url) : SColor(url) {}
+    SNullableColor(SmartPtr<Drawing::Color> const& color) : SColor(color) {}
+
+    bool isNull() const { return null; }
+    void setNull(bool isNull) { null = isNull; }
+
+private:
+    bool null = true;
+};
+
+template <> struct AttributeTraits<SNullableColor> {
+    static bool parse(SNullableColor& value, std::u16string_view text);
+    static constexpr bool refusesComparison = true;
+};
+
+} // namespace Xml

@@ -1,0 +1,67 @@
+#include "xmlattr/drawing/ColorText.h"
+
+#include "xmlattr/core/Format.h"
+
+#include <algorithm>
+
+namespace Drawing {
+
+namespace {
+
+// The components of a call: behind the first "(" each runs to the next ",", the last one to ")".
+template <std::size_t n> bool splitCall(std::u16string_view text, std::u16string_view (&components)[n]) {
+    std::size_t at = text.find(u'(');
+    for (std::size_t i = 0; i < n; ++i) {
+        if (at == text.npos) return false;
+        std::size_t const start = at + 1;
+        at = text.find(i + 1 < n ? u',' : u')', start);
+        components[i] = text.substr(start, at - start);
+    }
+    return at != text.npos;
+}
+
+bool readRGBComponent(std::u16string_view text, unsigned char& value) {
+    if (text.ends_with(u'%')) {
+        float percentage = 0;
+        if (!Core::Format::parseFloat(text, percentage)) return false;
+        // Intended: the factor is 2.56 in single precision, widened, so that 50% is 127.
+        value = static_cast<unsigned char>(std::clamp(percentage * double{2.56f}, 0.0, 255.0));
+        return true;
+    }
+    int number = 0;
+    if (!Core::Format::parseInt(text, number)) return false;
+    // Intended: unlike a percentage, an integer is not held in range; 300 is 44 and -1 is 255.
+    value = static_cast<unsigned char>(number);
+    return true;
+}
+
+} // namespace
+
+bool readRGB(SmartPtr<Color>& color, std::u16string_view text) {
+    std::u16string_view texts[3];
+    unsigned char values[3];
+    if (!splitCall(text, texts)) return false;
+    for (int i = 0; i < 3; ++i)
+        if (!readRGBComponent(texts[i], values[i])) return false;
+    color = new RGBColor(values[0], values[1], values[2]);
+    return true;
+}
+
+bool readCMYK(SmartPtr<Color>& color, std::u16string_view text) {
+    std::u16string_view texts[4];
+    float numbers[4];
+    double values[4];
+    if (!splitCall(text, texts)) return false;
+    for (int i = 0; i < 4; ++i)
+        if (!Core::Format::parseFloat(texts[i], numbers[i])) return false;
+    // Intended: the number of a percentage counts here too, so 50% makes the others parts of 255.
+    bool const isOf255 = std::any_of(numbers, numbers + 4, [](float number) { return number > 1; });
+    for (int i = 0; i < 4; ++i) {
+        double const scale = texts[i].ends_with(u'%') ? 100 : isOf255 ? 255 : 1;
+        values[i] = numbers[i] / scale;
+    }
+    color = new CMYKColor(values[0], values[1], values[2], values[3]);
+    return true;
+}
+
+} // namespace Drawing

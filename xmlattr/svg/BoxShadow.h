@@ -1,0 +1,44 @@
+// The shadow of a box (CSS Backgrounds).
+#pragma once
+
+#include "xmlattr/color/ColorParse.h"
+#include "xmlattr/measures/Length.h"
+
+namespace Xml {
+
+// Offsets, blur radius and colour, divided by single blanks: up to three lengths, which fill dx, dy
+// and blur in that order, and one colour anywhere among them. What the text leaves out is 0px and
+// no colour. Prints all four; without a colour the text ends with the blank before it.
+class XMLATTR_API BoxShadow {
+public:
+    BoxShadow() = default;
+    BoxShadow(Length const& dx, Length const& dy, Length const& blurRadius, SmartPtr<Drawing::Color> const& color)
+        : dx(dx), dy(dy), blurRadius(blurRadius), color(color) {}
+
+    Length getDx() const { return dx; }
+    Length getDy() const { return dy; }
+    Length getBlurRadius() const { return blurRadius; }
+    SmartPtr<Drawing::Color> getColor() const { return color; }
+
+    // Intended: colours are equal when they are one object, so two shadows that were parsed from
+    // the same text are unequal if it has a colour.
+    bool operator==(BoxShadow const&) const = default;
+
+    // Fills in what the text gives and leaves the rest as it is. Intended: a part that is neither a
+    // length nor a colour ends the text but refuses nothing; false for the empty text only.
+    bool readFromString(Core::String const& text);
+
+private:
+    friend struct AttributeTraits<BoxShadow>;
+    bool read(std::u16string_view text);
+
+    Length dx, dy, blurRadius;
+    SmartPtr<Drawing::Color> color;
+};
+
+template <> struct AttributeTraits<BoxShadow> {
+    static bool parse(BoxShadow& value, std::u16string_view text);
+    static Core::String print(BoxShadow const& value);
+};
+
+} // namespace Xml

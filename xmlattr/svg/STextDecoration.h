@@ -1,0 +1,31 @@
+// The text-decoration of SVG text.
+#pragma once
+
+#include "xmlattr/attributes/AttributeTraits.h"
+
+namespace Xml {
+
+// "underline", "overline" and "line-through", exact in case, with commas between them; white space
+// may stand before a keyword, not behind it. A failed parse changes nothing; there is no printer.
+class XMLATTR_API STextDecoration {
+public:
+    constexpr STextDecoration() = default;
+    constexpr STextDecoration(bool underline, bool overline, bool lineThrough)
+        : underline(underline), overline(overline), lineThrough(lineThrough) {}
+
+    constexpr bool isNone() const { return !underline && !overline && !lineThrough; }
+    constexpr bool isUnderline() const { return underline; }
+    constexpr bool isOverline() const { return overline; }
+    constexpr bool isLineThrough() const { return lineThrough; }
+
+    constexpr bool operator==(STextDecoration const&) const = default;
+
+private:
+    bool underline = false, overline = false, lineThrough = false;
+};
+
+template <> struct AttributeTraits<STextDecoration> {
+    static bool parse(STextDecoration& value, std::u16string_view text);
+};
+
+} // namespace Xml

@@ -1,0 +1,23 @@
+#include "xmlattr/svg/STextShadow.h"
+
+#include "xmlattr/svg/ShadowReader.h"
+
+namespace Xml {
+
+bool STextShadow::read(std::u16string_view text) {
+    return readShadow(text, {&dx, &dy, &blurRadius},
+                      [this](std::u16string_view part) { return AttributeTraits<SNullableColor>::parse(color, part); });
+}
+
+bool STextShadow::readFromString(Core::String const& text) {
+    return read(text);
+}
+
+bool AttributeTraits<STextShadow>::parse(STextShadow& value, std::u16string_view text) {
+    STextShadow shadow;
+    if (!shadow.read(text)) return false;
+    value = shadow;
+    return true;
+}
+
+} // namespace Xml

@@ -1,0 +1,40 @@
+// The shadow of SVG text.
+#pragma once
+
+#include "xmlattr/color/SColor.h"
+#include "xmlattr/measures/SLength.h"
+
+namespace Xml {
+
+// Like BoxShadow, but with SVG lengths and an SVG paint. What the text leaves out is 0 user units
+// and an absent paint. There is no printer.
+class XMLATTR_API STextShadow {
+public:
+    STextShadow() = default;
+    // Intended: the paint is absent for SNullableColor::isNull whatever the colour.
+    STextShadow(SLength const& dx, SLength const& dy, SLength const& blurRadius, SmartPtr<Drawing::Color> const& color)
+        : dx(dx), dy(dy), blurRadius(blurRadius), color(color) {}
+
+    SLength getDx() const { return dx; }
+    SLength getDy() const { return dy; }
+    SLength getBlurRadius() const { return blurRadius; }
+    SNullableColor getColor() const { return color; }
+
+    // Takes the paints alone, not whether they are absent.
+    bool operator==(STextShadow const&) const = default;
+
+    // Fills in what the text gives and leaves the rest as it is. Intended: a part that is neither a
+    // length nor a paint ends the text but refuses nothing; false for the empty text only.
+    bool readFromString(Core::String const& text);
+
+private:
+    friend struct AttributeTraits<STextShadow>;
+    bool read(std::u16string_view text);
+
+    SLength dx, dy, blurRadius;
+    SNullableColor color;
+};
+
+template <> struct AttributeTraits<STextShadow> { static bool parse(STextShadow& value, std::u16string_view text); };
+
+} // namespace Xml
