@@ -15,18 +15,21 @@ struct PackedWord {
     constexpr bool operator==(PackedWord const&) const = default;
 };
 
+constexpr bool appendLetters(std::uint64_t& letters, std::u16string_view text) {
+    for (char16_t const unit : text) {
+        unsigned int const letter = (unit | 0x20u) - u'a'; // folds exactly the ASCII letters
+        if (letter >= 26) return false;
+        letters = letters << 5 | (letter + 1);
+    }
+    return true;
+}
+
 // False for a text that is too long or holds anything but ASCII letters.
 constexpr bool pack(std::u16string_view text, PackedWord& word) {
     constexpr std::size_t half = 12;
-    if (text.size() > 2 * half) return false;
-    auto const append = [](std::uint64_t& letters, char16_t unit) {
-        unsigned int const letter = (unit | 0x20u) - u'a'; // folds exactly the ASCII letters
-        letters = letters << 5 | (letter + 1);
-        return letter < 26;
-    };
-    for (std::size_t i = 0; i < text.size(); ++i)
-        if (!append(i < half ? word.front : word.back, text[i])) return false;
-    return true;
+    if (text.size() <= half) return appendLetters(word.front, text);
+    return text.size() <= 2 * half && appendLetters(word.front, text.substr(0, half)) &&
+           appendLetters(word.back, text.substr(half));
 }
 
 // A hash table without pointers, so that loading the library has nothing to relocate.

@@ -11,6 +11,8 @@
 
 namespace Xml {
 
+using namespace std::string_view_literals; // these know their length when the program is compiled
+
 namespace {
 
 using ColorPtr = SmartPtr<Drawing::Color>;
@@ -21,21 +23,19 @@ void warn(Warning id, std::u16string_view argument) {
     Core::Log::warning(Core::formatText(Core::String::loadString(id), {argument}));
 }
 
-// Two digits at two places, which may be one and the same.
-bool readHexPair(std::u16string_view text, std::size_t high, std::size_t low, unsigned char& value) {
-    int const number = Core::hexDigit(text[high]) * 16 + Core::hexDigit(text[low]);
-    value = static_cast<unsigned char>(number);
-    return Core::hexDigit(text[high]) >= 0 && Core::hexDigit(text[low]) >= 0;
-}
-
-// Core::Format::parseHexInt would take an "0x" as well, but that needs a third place: on a pair of
-// code units it accepts exactly two digits, as this does.
+// Core::Format::parseHexInt would take an "0x" as well, but that needs a third code unit: of the two
+// of a component it accepts exactly two digits, as this does.
 bool readHexa(ColorPtr& color, std::u16string_view text) {
     if ((text.size() != 4 && text.size() != 7) || text[0] != u'#') return false;
-    std::size_t const step = text.size() / 3; // digits of a component
+    std::size_t const step = text.size() / 3; // a single digit stands for both
     unsigned char components[3];
-    for (std::size_t i = 0; i < 3; ++i)
-        if (!readHexPair(text, 1 + i * step, (i + 1) * step, components[i])) return false;
+    int allDigits = 0; // negative as soon as one is
+    for (std::size_t i = 0; i < 3; ++i) {
+        int const high = Core::hexDigit(text[1 + i * step]), low = Core::hexDigit(text[step + i * step]);
+        allDigits |= high | low;
+        components[i] = static_cast<unsigned char>(high * 16 + low);
+    }
+    if (allDigits < 0) return false;
     color = new Drawing::RGBColor(components[0], components[1], components[2]);
     return true;
 }
@@ -135,7 +135,7 @@ bool readName(ColorPtr& color, std::u16string_view text) {
                                       static_cast<unsigned char>(*rgb));
         return true;
     }
-    if (Core::equalsNoCase(text, u"transparent") || Core::equalsNoCase(text, u"none")) {
+    if (Core::equalsNoCase(text, u"transparent"sv) || Core::equalsNoCase(text, u"none"sv)) {
         color = nullptr;
         return true;
     }
@@ -182,10 +182,10 @@ Core::String printSpot(Drawing::SpotColor const& color) {
 } // namespace
 
 bool AttributeTraits<ColorPtr>::parse(ColorPtr& value, std::u16string_view text) {
-    if (text.starts_with(u"rgb-icc")) return readICC(value, text);
-    if (text.starts_with(u"spot-color")) return readSpot(value, text);
-    if (text.starts_with(u"rgb")) return Drawing::readRGB(value, text);
-    if (text.starts_with(u"cmyk")) return Drawing::readCMYK(value, text);
+    if (text.starts_with(u"rgb-icc"sv)) return readICC(value, text);
+    if (text.starts_with(u"spot-color"sv)) return readSpot(value, text);
+    if (text.starts_with(u"rgb"sv)) return Drawing::readRGB(value, text);
+    if (text.starts_with(u"cmyk"sv)) return Drawing::readCMYK(value, text);
     if (text.starts_with(u'#')) return readHexa(value, text);
     return readName(value, text);
 }

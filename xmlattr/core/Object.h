@@ -19,9 +19,17 @@ public:
     Object& operator=(Object const&) noexcept { return *this; }
     virtual ~Object();
 
-    void AddRef() const noexcept { references.fetch_add(1, std::memory_order_relaxed); }
+    // Only who made the object can add its first reference, and only who holds the last one can
+    // release it: neither needs the bus, and most objects have no other.
+    void AddRef() const noexcept {
+        if (references.load(std::memory_order_relaxed) == 0)
+            references.store(1, std::memory_order_relaxed);
+        else
+            references.fetch_add(1, std::memory_order_relaxed);
+    }
     void Release() const noexcept {
-        if (references.fetch_sub(1, std::memory_order_acq_rel) == 1) delete this;
+        if (references.load(std::memory_order_acquire) == 1 || references.fetch_sub(1, std::memory_order_acq_rel) == 1)
+            delete this;
     }
 
 private:

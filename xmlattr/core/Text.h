@@ -20,9 +20,8 @@ constexpr bool isDigit(char16_t unit) noexcept {
 
 // The value of a hexadecimal digit of either case, -1 for every other code unit.
 constexpr int hexDigit(char16_t unit) noexcept {
-    if (isDigit(unit)) return unit - u'0';
-    char16_t const lower = unit | u' ';
-    return lower >= u'a' && lower <= u'f' ? lower - u'a' + 10 : -1;
+    int const digit = unit - u'0', letter = (unit | 0x20) - u'a';
+    return digit >= 0 && digit < 10 ? digit : letter >= 0 && letter < 6 ? letter + 10 : -1;
 }
 
 // Folds ASCII letters only, whatever the locale.
