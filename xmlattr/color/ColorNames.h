@@ -11,8 +11,8 @@ struct ColorName {
     unsigned int rgb; // 0xRRGGBB
 };
 
-// Stands in the order of the alphabet. Only the compiler reads it; findColorName has a table made
-// from it.
+// In the order in which the table is published. Only the compiler reads this one; findColorName has
+// a table made from it.
 inline constexpr ColorName colorNames[] = {
     {u"aliceblue", 0xF0F8FF},
     {u"antiquewhite", 0xFAEBD7},
