@@ -1,0 +1,37 @@
+// Where the data of a chart axis comes from.
+#pragma once
+
+#include "xmlattr/attributes/AttributeTraits.h"
+
+#include <utility>
+
+namespace Xml {
+
+// The name of a data field, or one inside of a function that groups dates: "year(OrderDate)".
+class XMLATTR_API AxisSource {
+public:
+    AxisSource() = default;
+    AxisSource(Core::String name, Core::String fn) : name(std::move(name)), fn(std::move(fn)) {}
+
+    Core::String getName() const { return name; }
+    // Empty when there is no function.
+    Core::String getFn() const { return fn; }
+
+    bool operator==(AxisSource const&) const = default;
+
+    // Whether the text begins with the name of a grouping function, in any case. Intended: nothing
+    // need end that name, so that "years(x)" and "monthly(x)" have one too.
+    static bool hasFn(Core::String const& text);
+
+private:
+    Core::String name, fn;
+};
+
+template <> struct AttributeTraits<AxisSource> {
+    // Every text is accepted. One with a function and both parentheses is trimmed around the two
+    // parts; every other is a name as it stands, "sum(x)" included.
+    static bool parse(AxisSource& value, std::u16string_view text);
+    static Core::String print(AxisSource const& value);
+};
+
+} // namespace Xml

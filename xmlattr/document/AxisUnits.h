@@ -1,0 +1,37 @@
+// The spacing of the units on a chart axis.
+#pragma once
+
+#include "xmlattr/attributes/AttributeTraits.h"
+
+#include <cstdint>
+
+namespace Xml {
+
+// "auto", "days", "months" or "years" in any case, or a number but 0. There is no printer.
+class XMLATTR_API AxisUnits {
+public:
+    enum Type : std::int32_t { Auto = 0, Days = 1, Months = 2, Years = 3, Numeric = 4 };
+
+    constexpr AxisUnits() = default;
+    constexpr AxisUnits(Type type) : type(type) {}
+    constexpr AxisUnits(float number) : type(Numeric), number(number) {}
+
+    constexpr Type getType() const { return type; }
+    // 0 unless the type is Numeric.
+    constexpr float getNumericVal() const { return number; }
+
+    // A NaN is equal to nothing.
+    constexpr bool operator==(AxisUnits const&) const = default;
+
+private:
+    Type type = Auto;
+    float number = 0;
+};
+
+template <> struct AttributeTraits<AxisUnits> {
+    // Intended: 0 is refused, as no spacing at all; a negative number is not. A text that is refused
+    // changes nothing.
+    static bool parse(AxisUnits& value, std::u16string_view text);
+};
+
+} // namespace Xml

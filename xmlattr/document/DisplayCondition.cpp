@@ -1,0 +1,67 @@
+#include "xmlattr/document/DisplayCondition.h"
+
+#include "xmlattr/core/Text.h"
+#include "xmlattr/document/Call.h"
+
+#include <algorithm>
+#include <set>
+#include <utility>
+
+namespace Xml {
+
+namespace {
+
+using Operator = DisplayCondition::Operator;
+
+constexpr std::pair<std::u16string_view, Operator> operators[] = {
+    {u"is-after", Operator::IsAfter}, {u"is-before", Operator::IsBefore}, {u"match", Operator::Match}};
+
+// Appends the condition of one segment; false when it lacks a parenthesis. Intended: the segment
+// need only begin with an operator ("matches(x)"), and without one it means is-after.
+bool appendSegment(DisplayCondition& value, std::u16string_view segment) {
+    segment = Core::trim(segment);
+    std::size_t const open = segment.find(u'('), close = segment.find(u')');
+    if (open == segment.npos || close == segment.npos) return false;
+    if (close <= open + 1) return true;
+    DisplayCondition::Condition condition;
+    for (auto const& [word, op] : operators)
+        if (segment.starts_with(word)) condition.op = op;
+    condition.argument = Core::trim(segment.substr(open + 1, close - open - 1));
+    value.append(std::move(condition));
+    return true;
+}
+
+} // namespace
+
+bool DisplayCondition::operator==(DisplayCondition const& other) const {
+    // Sorted first: a document may make both lists long.
+    std::set<std::pair<Operator, std::u16string_view>> present;
+    for (Condition const& condition : other.conditions) present.emplace(condition.op, condition.argument);
+    return std::all_of(conditions.begin(), conditions.end(), [&](Condition const& condition) {
+        return present.contains({condition.op, condition.argument});
+    });
+}
+
+bool AttributeTraits<DisplayCondition>::parse(DisplayCondition& value, std::u16string_view text) {
+    constexpr std::u16string_view separator = u"and";
+    while (!text.empty()) {
+        // Intended: the bare letters separate, inside an argument too: "match(brand)" is refused.
+        std::size_t const end = std::min(text.find(separator), text.size());
+        if (!appendSegment(value, text.substr(0, end))) return false;
+        text.remove_prefix(std::min(end + separator.size(), text.size()));
+    }
+    return true;
+}
+
+Core::String AttributeTraits<DisplayCondition>::print(DisplayCondition const& value) {
+    std::u16string out;
+    for (DisplayCondition::Condition const& condition : value.getConditions()) {
+        if (!out.empty()) out += u" and ";
+        for (auto const& [word, op] : operators)
+            if (condition.op == op) out += word;
+        appendCall(out, {}, condition.argument);
+    }
+    return Core::String(std::move(out));
+}
+
+} // namespace Xml

@@ -1,0 +1,49 @@
+#include "xmlattr/document/ForcePageCount.h"
+
+#include "xmlattr/document/Call.h"
+#include "xmlattr/keywords/KeywordTable.h"
+
+namespace Xml {
+
+template <> struct Keywords<ForcePageCountType> {
+    static constexpr Case rule = Case::Exact;
+    static constexpr KeywordRow<ForcePageCountType> rows[] = {{u"auto", ForcePageCountType::Auto},
+                                                              {u"even", ForcePageCountType::Even},
+                                                              {u"odd", ForcePageCountType::Odd},
+                                                              {u"end-on-even", ForcePageCountType::EndOnEven},
+                                                              {u"end-on-odd", ForcePageCountType::EndOnOdd},
+                                                              {u"no-force", ForcePageCountType::NoForce}};
+};
+
+namespace {
+
+constexpr KeywordRow<ForcePageCountType> multiples[] = {{u"multiple-of(", ForcePageCountType::MultipleOf},
+                                                        {u"end-on-multiple-of(", ForcePageCountType::EndOnMultipleOf}};
+
+bool read(std::u16string_view text, ForcePageCount& out) {
+    for (auto const& [opening, type] : multiples) {
+        if (!text.starts_with(opening)) continue;
+        int count = 0;
+        if (!readCall(text, opening, count)) return false;
+        out = ForcePageCount(type, count);
+        return true;
+    }
+    ForcePageCountType type{};
+    if (KeywordTraits<ForcePageCountType>::parse(type, text)) out = ForcePageCount(type, -1);
+    return true;
+}
+
+} // namespace
+
+bool ForcePageCount::parse(Core::String text, ForcePageCount& out) {
+    return read(text, out);
+}
+
+bool AttributeTraits<ForcePageCount>::parse(ForcePageCount& value, std::u16string_view text) {
+    ForcePageCount fresh;
+    if (!read(text, fresh)) return false;
+    value = fresh;
+    return true;
+}
+
+} // namespace Xml

@@ -1,0 +1,48 @@
+// What the number of pages of a page sequence is brought to.
+#pragma once
+
+#include "xmlattr/attributes/AttributeTraits.h"
+
+#include <cstdint>
+
+namespace Xml {
+
+enum class XMLATTR_API ForcePageCountType : std::int32_t {
+    Auto = 0,
+    Even = 1,
+    Odd = 2,
+    EndOnEven = 3,
+    EndOnOdd = 4,
+    NoForce = 5,
+    MultipleOf = 6,
+    EndOnMultipleOf = 7
+};
+
+// The keywords of force-page-count in XSL-FO 1.1 (exact case), and "multiple-of(" or
+// "end-on-multiple-of(" an integer ")". There is no printer.
+class XMLATTR_API ForcePageCount {
+public:
+    constexpr ForcePageCount() = default;
+    constexpr ForcePageCount(ForcePageCountType type, int count) : type(type), count(count) {}
+
+    constexpr ForcePageCountType getType() const { return type; }
+    // -1 unless the type has a multiple.
+    constexpr int getCount() const { return count; }
+
+    constexpr bool operator==(ForcePageCount const&) const = default;
+
+    // False for one of the two multiples without an integer and a ")" behind it; then `out` is
+    // untouched. Intended: every other unknown text is accepted, and leaves `out` as it was.
+    static bool parse(Core::String text, ForcePageCount& out);
+
+private:
+    ForcePageCountType type = ForcePageCountType::Auto;
+    int count = -1;
+};
+
+template <> struct AttributeTraits<ForcePageCount> {
+    // Intended: an unknown text gives "auto", whatever the value was.
+    static bool parse(ForcePageCount& value, std::u16string_view text);
+};
+
+} // namespace Xml

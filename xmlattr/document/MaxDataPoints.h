@@ -1,0 +1,36 @@
+// How many data points a chart shows at most.
+#pragma once
+
+#include "xmlattr/attributes/AttributeTraits.h"
+
+#include <cstdint>
+
+namespace Xml {
+
+enum class XMLATTR_API MaxDataPointsType : std::int32_t { All = 0, Count = 1 };
+
+// "all", in any case and with white space around it, or an integer of any sign.
+class XMLATTR_API MaxDataPoints {
+public:
+    constexpr MaxDataPoints() = default;
+    constexpr MaxDataPoints(MaxDataPointsType type) : type(type) {}
+    constexpr MaxDataPoints(int count) : type(MaxDataPointsType::Count), count(count) {}
+
+    constexpr MaxDataPointsType getType() const { return type; }
+    // The count; 0 when the type is All.
+    constexpr int getValue() const { return count; }
+
+    constexpr bool operator==(MaxDataPoints const&) const = default;
+
+private:
+    MaxDataPointsType type = MaxDataPointsType::All;
+    int count = 0;
+};
+
+template <> struct AttributeTraits<MaxDataPoints> {
+    static bool parse(MaxDataPoints& value, std::u16string_view text);
+    // Empty for a number that is no type.
+    static Core::String print(MaxDataPoints const& value);
+};
+
+} // namespace Xml

@@ -1,0 +1,60 @@
+// A datum of a chart.
+#pragma once
+
+#include "xmlattr/attributes/AttributeTraits.h"
+#include "xmlattr/core/DateTimeEx.h"
+
+#include <cstdint>
+#include <utility>
+
+namespace Xml {
+
+enum class XMLATTR_API ValueType : std::int32_t { None = 0, Number = 1, Date = 2, String = 3 };
+
+// A number, a date or a string, and its place among the others. A text reads as the first of these
+// that accepts it: a date (Core::DateTimeEx::parseXmlDateEx), a number (Core::Format::parseFloat), a
+// string. The string field keeps the text as it was written, whichever it is.
+class XMLATTR_API Value {
+public:
+    Value() = default;
+    Value(float number) : type(ValueType::Number), number(number) {}
+    Value(Core::DateTimeEx date) : type(ValueType::Date), date(date) {}
+    Value(Core::String string) : type(ValueType::String), string(std::move(string)) {}
+
+    ValueType getType() const { return type; }
+    float getFloatValue() const { return number; }
+    Core::DateTimeEx const& getDateValue() const { return date; }
+    Core::String const& getStringValue() const { return string; }
+    // -1 until it is set.
+    int getOrdinal() const { return ordinal; }
+    void setOrdinal(int newOrdinal) { ordinal = newOrdinal; }
+
+    // The value as text: the shortest number that reads back, the date as 2020-01-31, the string,
+    // or nothing.
+    Core::String getValue() const;
+    // Intended: replaces the string field alone; the type and the other fields stay.
+    void setValue(Core::String text) { string = std::move(text); }
+
+    // Intended: the field of the left operand's type is compared without a look at the right one's
+    // type, and a value without a type is equal to nothing, itself included.
+    bool operator==(Value const& other) const;
+    // Both are false when the types differ. Intended: of strings only the lengths count, so that
+    // "zz" is less than "aaa".
+    bool operator<(Value const& other) const;
+    bool operator>(Value const& other) const { return other < *this; }
+
+private:
+    ValueType type = ValueType::None;
+    Core::String string;
+    Core::DateTimeEx date;
+    float number = 0;
+    int ordinal = -1;
+};
+
+template <> struct AttributeTraits<Value> {
+    // Replaces the whole value, ordinal included. Only the empty text is refused; it changes nothing.
+    // There is no printer: see Value::getValue.
+    static bool parse(Value& value, std::u16string_view text);
+};
+
+} // namespace Xml

@@ -1,0 +1,57 @@
+#include "xmlattr/language/Language.h"
+
+#include "xmlattr/language/LanguageTable.h"
+
+#include <iterator>
+
+namespace Xml {
+
+namespace {
+
+// The row of a number that counts from 1, or null when there is none.
+template <class Rows, class Number> auto const* rowOf(Rows const& rows, Number number) {
+    auto const index = static_cast<std::size_t>(number) - 1; // 0 and negative numbers become huge
+    return index < std::size(rows) ? &rows[index] : nullptr;
+}
+
+} // namespace
+
+Language::~Language() = default;
+
+bool Language::parseLanguage(Core::String const& text, Language& value) {
+    return AttributeTraits<Language>::parse(value, text);
+}
+
+Core::String Language::getISO639LanguageName(Language const& language) {
+    LanguageRow const* const row = rowOf(languageRows, language.language);
+    if (!row) return {};
+    if (language.country == Drawing::CountryId::None) return row->code;
+    return row->code + (u"-" + getISO639CountrySuffix(language.country));
+}
+
+Core::String Language::getISO639CountrySuffix(Drawing::CountryId country) {
+    auto const* const suffix = rowOf(countrySuffixes, country);
+    return suffix ? Core::String(*suffix) : Core::String();
+}
+
+Core::String Language::getFullLanguageNameById(Drawing::LanguageId language) {
+    LanguageRow const* const row = rowOf(languageRows, language);
+    return row ? row->name : u"english"; // Intended: a text without a language counts as English
+}
+
+bool AttributeTraits<Language>::parse(Language& value, std::u16string_view text) {
+    if (text.size() == 2) {
+        std::size_t const place = codePlace(text[0], text[1]);
+        if (place == languageByCode.size() || languageByCode[place] == 0) return false;
+        value = Language(static_cast<Drawing::LanguageId>(languageByCode[place]), Drawing::CountryId::None);
+        return true;
+    }
+    for (LanguageTagRow const& row : languageTagRows) {
+        if (!Core::equalsNoCase(text, row.tag)) continue;
+        value = Language(row.language, row.country);
+        return true;
+    }
+    return false;
+}
+
+} // namespace Xml
