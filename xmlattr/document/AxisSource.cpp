@@ -10,8 +10,8 @@ namespace Xml {
 namespace {
 
 // "year" also begins "year-month" and "year-quarter".
-constexpr std::u16string_view functions[] = {u"year",      u"quarter",   u"week",      u"month",
-                                             u"dayofweek", u"dayofyear", u"dayofmonth"};
+constexpr char16_t functions[][11] = {u"year",      u"quarter",   u"week",      u"month",
+                                      u"dayofweek", u"dayofyear", u"dayofmonth"};
 
 bool beginsWithFunction(std::u16string_view text) {
     return std::any_of(std::begin(functions), std::end(functions), [&](std::u16string_view function) {

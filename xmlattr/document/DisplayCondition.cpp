@@ -13,7 +13,12 @@ namespace {
 
 using Operator = DisplayCondition::Operator;
 
-constexpr std::pair<std::u16string_view, Operator> operators[] = {
+struct OperatorRow {
+    char16_t word[10];
+    Operator op;
+};
+
+constexpr OperatorRow operators[] = {
     {u"is-after", Operator::IsAfter}, {u"is-before", Operator::IsBefore}, {u"match", Operator::Match}};
 
 // Appends the condition of one segment; false when it lacks a parenthesis. Intended: the segment

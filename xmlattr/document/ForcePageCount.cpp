@@ -17,8 +17,13 @@ template <> struct Keywords<ForcePageCountType> {
 
 namespace {
 
-constexpr KeywordRow<ForcePageCountType> multiples[] = {{u"multiple-of(", ForcePageCountType::MultipleOf},
-                                                        {u"end-on-multiple-of(", ForcePageCountType::EndOnMultipleOf}};
+struct MultipleRow {
+    char16_t opening[20];
+    ForcePageCountType type;
+};
+
+constexpr MultipleRow multiples[] = {{u"multiple-of(", ForcePageCountType::MultipleOf},
+                                     {u"end-on-multiple-of(", ForcePageCountType::EndOnMultipleOf}};
 
 bool read(std::u16string_view text, ForcePageCount& out) {
     for (auto const& [opening, type] : multiples) {
