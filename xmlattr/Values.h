@@ -11,6 +11,7 @@
 #include "xmlattr/document/InitialPageNumber.h"
 #include "xmlattr/document/MaxDataPoints.h"
 #include "xmlattr/document/TPRule.h"
+#include "xmlattr/document/TabStop.h"
 #include "xmlattr/document/Url.h"
 #include "xmlattr/document/Value.h"
 #include "xmlattr/keywords/BarcodeKeywords.h"

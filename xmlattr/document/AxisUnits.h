@@ -28,6 +28,8 @@ private:
     float number = 0;
 };
 
+static_assert(sizeof(AxisUnits) == 8);
+
 template <> struct AttributeTraits<AxisUnits> {
     // Intended: 0 is refused, as no spacing at all; a negative number is not. A text that is refused
     // changes nothing.

@@ -6,13 +6,11 @@
 namespace Xml {
 
 template <> struct Keywords<ForcePageCountType> {
+    using enum ForcePageCountType;
     static constexpr Case rule = Case::Exact;
-    static constexpr KeywordRow<ForcePageCountType> rows[] = {{u"auto", ForcePageCountType::Auto},
-                                                              {u"even", ForcePageCountType::Even},
-                                                              {u"odd", ForcePageCountType::Odd},
-                                                              {u"end-on-even", ForcePageCountType::EndOnEven},
-                                                              {u"end-on-odd", ForcePageCountType::EndOnOdd},
-                                                              {u"no-force", ForcePageCountType::NoForce}};
+    static constexpr KeywordRow<ForcePageCountType> rows[] = {
+        {u"auto", Auto},           {u"even", Even},       {u"odd", Odd}, {u"end-on-even", EndOnEven},
+        {u"end-on-odd", EndOnOdd}, {u"no-force", NoForce}};
 };
 
 namespace {

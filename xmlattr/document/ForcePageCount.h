@@ -40,6 +40,8 @@ private:
     int count = -1;
 };
 
+static_assert(sizeof(ForcePageCount) == 8);
+
 template <> struct AttributeTraits<ForcePageCount> {
     // Intended: an unknown text gives "auto", whatever the value was.
     static bool parse(ForcePageCount& value, std::u16string_view text);

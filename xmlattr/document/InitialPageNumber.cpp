@@ -9,10 +9,10 @@
 namespace Xml {
 
 template <> struct Keywords<InitialPageNumberType> {
+    using enum InitialPageNumberType;
     static constexpr Case rule = Case::Exact;
-    static constexpr KeywordRow<InitialPageNumberType> rows[] = {{u"auto", InitialPageNumberType::Auto},
-                                                                 {u"auto-odd", InitialPageNumberType::AutoOdd},
-                                                                 {u"auto-even", InitialPageNumberType::AutoEven}};
+    static constexpr KeywordRow<InitialPageNumberType> rows[] = {
+        {u"auto", Auto}, {u"auto-odd", AutoOdd}, {u"auto-even", AutoEven}};
 };
 
 namespace {

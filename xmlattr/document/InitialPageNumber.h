@@ -46,6 +46,8 @@ private:
     int multiple = -1;
 };
 
+static_assert(sizeof(InitialPageNumber) == 12);
+
 template <> struct AttributeTraits<InitialPageNumber> {
     static bool parse(InitialPageNumber& value, std::u16string_view text);
 };

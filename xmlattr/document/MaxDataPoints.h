@@ -27,6 +27,8 @@ private:
     int count = 0;
 };
 
+static_assert(sizeof(MaxDataPoints) == 8);
+
 template <> struct AttributeTraits<MaxDataPoints> {
     static bool parse(MaxDataPoints& value, std::u16string_view text);
     // Empty for a number that is no type.
