@@ -2,6 +2,8 @@
 
 #include "Support.h"
 
+#include <climits>
+
 namespace Xml {
 namespace {
 

@@ -36,7 +36,7 @@ public:
         auto const bSeconds = areInstants ? b.seconds - *b.offset : b.seconds;
         return aSeconds != bSeconds ? aSeconds <=> bSeconds : a.fraction <=> b.fraction;
     }
-    friend constexpr bool operator==(DateTimeEx const& a, DateTimeEx const& b) { return (a <=> b) == 0; }
+    friend constexpr bool operator==(DateTimeEx const& a, DateTimeEx const& b) { return std::is_eq(a <=> b); }
 
 private:
     std::chrono::local_seconds seconds{};

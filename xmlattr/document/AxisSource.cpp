@@ -27,7 +27,7 @@ bool AxisSource::hasFn(Core::String const& text) {
 
 bool AttributeTraits<AxisSource>::parse(AxisSource& value, std::u16string_view text) {
     std::size_t const open = text.find(u'('), close = text.rfind(u')');
-    if (open == text.npos || close == text.npos || !beginsWithFunction(text)) {
+    if (open == std::u16string_view::npos || close == std::u16string_view::npos || !beginsWithFunction(text)) {
         value = AxisSource(text, {});
         return true;
     }

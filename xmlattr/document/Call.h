@@ -14,7 +14,7 @@ inline std::optional<std::u16string_view> callArgument(std::u16string_view text,
     if (!text.starts_with(opening)) return std::nullopt;
     text.remove_prefix(opening.size());
     std::size_t const close = text.find(u')');
-    if (close == text.npos) return std::nullopt;
+    if (close == std::u16string_view::npos) return std::nullopt;
     return text.substr(0, close);
 }
 

@@ -26,7 +26,7 @@ constexpr OperatorRow operators[] = {
 bool appendSegment(DisplayCondition& value, std::u16string_view segment) {
     segment = Core::trim(segment);
     std::size_t const open = segment.find(u'('), close = segment.find(u')');
-    if (open == segment.npos || close == segment.npos) return false;
+    if (open == std::u16string_view::npos || close == std::u16string_view::npos) return false;
     if (close <= open + 1) return true;
     DisplayCondition::Condition condition;
     for (auto const& [word, op] : operators)

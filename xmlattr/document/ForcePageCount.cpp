@@ -38,6 +38,7 @@ bool read(std::u16string_view text, ForcePageCount& out) {
 
 } // namespace
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the signature is fixed
 bool ForcePageCount::parse(Core::String text, ForcePageCount& out) {
     return read(text, out);
 }

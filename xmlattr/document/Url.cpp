@@ -16,7 +16,7 @@ bool isSpaceOrQuote(char16_t unit) {
 std::u16string_view referenceIn(std::u16string_view text) {
     while (!text.empty() && isSpaceOrQuote(text.front())) text.remove_prefix(1);
     std::size_t const close = text.rfind(u')');
-    if (close == text.npos) return {};
+    if (close == std::u16string_view::npos) return {};
     text = text.substr(0, close);
     while (!text.empty() && isSpaceOrQuote(text.back())) text.remove_suffix(1);
     return text;
@@ -30,7 +30,7 @@ bool AttributeTraits<Url>::parse(Url& value, std::u16string_view text) {
         return true;
     }
     std::size_t const open = text.find(u'(');
-    if (open == text.npos) return false;
+    if (open == std::u16string_view::npos) return false;
     value = Url(referenceIn(text.substr(open + 1)));
     return true;
 }

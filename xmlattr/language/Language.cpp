@@ -42,7 +42,7 @@ Core::String Language::getFullLanguageNameById(Drawing::LanguageId language) {
 bool AttributeTraits<Language>::parse(Language& value, std::u16string_view text) {
     if (text.size() == 2) {
         std::size_t const place = codePlace(text[0], text[1]);
-        if (place == languageByCode.size() || languageByCode[place] == 0) return false;
+        if (place == pairCount || languageByCode[place] == 0) return false;
         value = Language(static_cast<Drawing::LanguageId>(languageByCode[place]), Drawing::CountryId::None);
         return true;
     }

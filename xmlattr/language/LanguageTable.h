@@ -180,17 +180,21 @@ inline constexpr LanguageTagRow languageTagRows[] = {
 // Entry n is country number n + 1.
 inline constexpr char16_t countrySuffixes[][3] = {u"US", u"GB", u"AU"};
 
-// The place of a two-letter code in languageByCode; its length when there is none.
+inline constexpr std::size_t letterCount = 26;
+inline constexpr std::size_t pairCount = letterCount * letterCount;
+
+// The place of a two-letter code among all pairs of letters; pairCount for any other two units.
 constexpr std::size_t codePlace(char16_t first, char16_t second) {
     auto const isLetter = [](char16_t unit) { return unit >= u'a' && unit <= u'z'; };
     first = Core::toLower(first);
     second = Core::toLower(second);
-    return isLetter(first) && isLetter(second) ? std::size_t(first - u'a') * 26 + std::size_t(second - u'a') : 26 * 26;
+    return isLetter(first) && isLetter(second) ? std::size_t(first - u'a') * letterCount + std::size_t(second - u'a')
+                                               : pairCount;
 }
 
 // The language of each pair of letters.
 inline constexpr auto languageByCode = [] {
-    std::array<std::uint8_t, 26 * 26> numbers{};
+    std::array<std::uint8_t, pairCount> numbers{};
     for (LanguageRow const& row : languageRows)
         numbers[codePlace(row.code[0], row.code[1])] = static_cast<std::uint8_t>(row.language);
     return numbers;
