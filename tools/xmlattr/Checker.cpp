@@ -1,0 +1,141 @@
+#include "Checker.h"
+
+#include "Shorthand.h"
+#include "StyleAttribute.h"
+#include "Text.h"
+
+#include "xmlattr/core/String.h"
+
+namespace Command {
+
+namespace {
+
+constexpr std::string_view xmlSpace = "http://www.w3.org/XML/1998/namespace";
+constexpr std::string_view xlinkSpace = "http://www.w3.org/1999/xlink";
+
+} // namespace
+
+struct Checker::Occurrence {
+    Tag& tag;
+    Xml::Vocabulary vocabulary;
+    std::string_view element;
+    std::size_t number; // of the attribute in its tag
+    std::string_view name, value;
+    std::size_t offset = 0;     // in the attribute's value
+    bool isDeclaration = false; // of a style attribute
+};
+
+void Checker::startElement(XmlElement const& element, Tag& tag) {
+    if (element.depth == 0) isPlainSvg = element.space.empty() && element.name == "svg";
+    counts.attributes += element.attributes.size();
+    auto vocabulary = Xml::Catalogue::vocabularyOf(element.space);
+    if (!vocabulary && isPlainSvg && element.space.empty()) vocabulary = Xml::Vocabulary::Svg;
+    if (!vocabulary) {
+        counts.foreign += element.attributes.size();
+        return;
+    }
+    for (std::size_t i = 0; i < element.attributes.size(); ++i) {
+        XmlAttributeText const& attribute = element.attributes[i];
+        Occurrence occurrence{tag, *vocabulary, element.name, i, attribute.name, attribute.value};
+        if (attribute.space == xmlSpace || attribute.space == xlinkSpace) {
+            prefixed.assign(attribute.space == xmlSpace ? "xml:" : "xlink:").append(attribute.name);
+            occurrence.name = prefixed;
+        } else if (!attribute.space.empty()) {
+            ++counts.foreign;
+            continue;
+        }
+        check(occurrence);
+    }
+}
+
+void Checker::check(Occurrence const& occurrence) {
+    Property const* const property = findProperty(occurrence.vocabulary, occurrence.element, occurrence.name);
+    if (!property || (occurrence.isDeclaration && !property->entry->isPresentation())) {
+        ++counts.unknown;
+        return;
+    }
+    switch (property->entry->kind) {
+    case Xml::AttributeKind::Typed: return checkTyped(occurrence, *property);
+    case Xml::AttributeKind::Shorthand: return checkShorthand(occurrence, *property);
+    case Xml::AttributeKind::Identifier: ++counts.identifiers; return;
+    case Xml::AttributeKind::None: ++counts.noType; return;
+    case Xml::AttributeKind::Text:
+        ++counts.texts;
+        if (occurrence.vocabulary == Xml::Vocabulary::Svg && occurrence.name == "style") checkStyle(occurrence);
+        return;
+    }
+}
+
+void Checker::checkTyped(Occurrence const& occurrence, Property const& property) {
+    toUtf16(occurrence.value, text);
+    switch (property.judge(text)) {
+    case Verdict::Checked: ++counts.checked; return;
+    case Verdict::PassedOver: ++counts.passedOver; return;
+    case Verdict::TypeMissing: ++counts.typeMissing; return;
+    case Verdict::Refused: break;
+    }
+    // CSS has no case; the value types, which read attributes, have.
+    if (occurrence.isDeclaration && property.judge(Core::String(text).toLower()) != Verdict::Refused) {
+        ++counts.passedOver;
+        return;
+    }
+    Finding finding;
+    finding.types.emplace_back(property.type->name);
+    finding.hints = hintsFor(*property.type, text);
+    refuse(occurrence, std::move(finding));
+}
+
+void Checker::checkShorthand(Occurrence const& occurrence, Property const& property) {
+    toUtf16(occurrence.value, text);
+    ShorthandVerdict verdict = judgeShorthand(*property.entry, text);
+    switch (verdict.verdict) {
+    case Verdict::Checked: ++counts.checked; return;
+    case Verdict::PassedOver: ++counts.passedOver; return;
+    case Verdict::TypeMissing: ++(verdict.problem.empty() ? counts.typeMissing : counts.noType); return;
+    case Verdict::Refused: break;
+    }
+    Finding finding;
+    finding.part = verdict.part;
+    finding.problem = verdict.problem;
+    for (ValueType const* const type : verdict.types) {
+        finding.types.emplace_back(type->name);
+        if (finding.hints.variant.empty() && finding.hints.nearest.empty())
+            finding.hints = hintsFor(*type, toUtf16(verdict.part));
+    }
+    if (verdict.types.size() > 1) finding.hints.accepted.clear(); // those of one type are not all
+    refuse(occurrence, std::move(finding));
+}
+
+void Checker::checkStyle(Occurrence const& occurrence) {
+    for (Declaration const& declaration : splitStyle(occurrence.value)) {
+        ++counts.declarations;
+        std::string const name = Core::String::fromUtf8(declaration.property).toLower().toUtf8();
+        check({occurrence.tag, occurrence.vocabulary, occurrence.element, occurrence.number, name, declaration.value,
+               declaration.offset, true});
+    }
+}
+
+void Checker::refuse(Occurrence const& occurrence, Finding finding) {
+    ++counts.refused;
+    RawTag& tag = occurrence.tag.raw();
+    finding.place =
+        occurrence.isDeclaration ? tag.inValue(occurrence.number, occurrence.offset) : tag.attribute(occurrence.number);
+    finding.element = tag.elementName();
+    if (finding.element.empty()) finding.element = occurrence.element;
+    finding.attribute = occurrence.name;
+    finding.text = occurrence.value;
+    report(finding);
+}
+
+std::string Finding::message() const {
+    std::string line = attribute + "=" + inQuotes(shown(text)) + " on " + element;
+    if (!problem.empty()) return line + " " + problem;
+    line += part.empty() ? " is no " : ": " + inQuotes(shown(part)) + " is no ";
+    line += joinWith(types, "or");
+    if (!hints.variant.empty()) line += "; " + inQuotes(hints.variant) + " is";
+    if (!hints.accepted.empty()) line += "; accepted: " + joinWith(hints.accepted, "and");
+    if (!hints.nearest.empty()) line += "; did you mean " + inQuotes(hints.nearest) + "?";
+    return line;
+}
+
+} // namespace Command

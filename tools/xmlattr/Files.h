@@ -1,0 +1,22 @@
+// Which documents a call of the command reads.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace Command {
+
+struct FileList {
+    std::vector<std::string> files;    // "-" is standard input
+    std::vector<std::string> problems; // what names no document
+};
+
+// Files as they are; a directory stands for every .fo, .xml and .svg file in it and below it, in
+// the order of their names.
+FileList gatherFiles(std::vector<std::string> const& paths);
+
+// The lines of a file that lists paths, empty ones left out; "-" is standard input. False when it
+// cannot be read; then `problem` says why.
+bool readPaths(std::string const& file, std::vector<std::string>& paths, std::string& problem);
+
+} // namespace Command

@@ -1,0 +1,73 @@
+#include "Hints.h"
+
+#include "Text.h"
+
+#include "xmlattr/core/Text.h"
+
+#include <algorithm>
+#include <iterator>
+#include <numeric>
+#include <utility>
+
+namespace Command {
+
+namespace {
+
+constexpr std::size_t longestGuess = 64; // a longer text is no mistyped word
+
+std::size_t editDistance(std::u16string_view a, std::u16string_view b) {
+    std::vector<std::size_t> row(b.size() + 1);
+    std::iota(row.begin(), row.end(), std::size_t{0});
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        std::size_t diagonal = std::exchange(row[0], i + 1);
+        for (std::size_t j = 0; j < b.size(); ++j) {
+            std::size_t const replaced = diagonal + (Core::toLower(a[i]) == Core::toLower(b[j]) ? 0 : 1);
+            diagonal = row[j + 1];
+            row[j + 1] = std::min({replaced, diagonal + 1, row[j] + 1});
+        }
+    }
+    return row.back();
+}
+
+// Texts that differ in what authors overlook: blanks, case, the decimal point, quotation marks, the unit.
+std::vector<std::u16string> variantsOf(std::u16string_view text) {
+    std::u16string const trimmed(Core::trim(text));
+    std::u16string lower = trimmed, solid, pointed = trimmed, bare = trimmed;
+    std::ranges::transform(lower, lower.begin(), Core::toLower);
+    std::ranges::copy_if(lower, std::back_inserter(solid), [](char16_t unit) { return !Core::isSpace(unit); });
+    std::ranges::replace(pointed, u',', u'.');
+    std::erase_if(bare, [](char16_t unit) { return unit == u'"' || unit == u'\''; });
+    return {trimmed, lower, solid, pointed, bare, solid + u"pt"};
+}
+
+} // namespace
+
+std::u16string_view nearestWord(std::u16string_view text, std::vector<std::u16string_view> const& words) {
+    if (text.size() > longestGuess) return {};
+    std::u16string_view nearest;
+    std::size_t smallest = longestGuess;
+    for (std::u16string_view const word : words) {
+        std::size_t const distance = editDistance(text, word);
+        if (distance * 2 < word.size() && distance < smallest) {
+            nearest = word;
+            smallest = distance;
+        }
+    }
+    return nearest;
+}
+
+Hints hintsFor(ValueType const& type, std::u16string_view text) {
+    Hints hints;
+    if (text.size() <= longestGuess)
+        for (std::u16string const& variant : variantsOf(text))
+            if (variant != text && type.accepts(variant)) {
+                hints.variant = toUtf8(variant);
+                break;
+            }
+    auto const words = type.keywords();
+    for (std::u16string_view const word : words) hints.accepted.push_back(toUtf8(word));
+    if (hints.variant.empty()) hints.nearest = toUtf8(nearestWord(Core::trim(text), words));
+    return hints;
+}
+
+} // namespace Command

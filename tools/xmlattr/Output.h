@@ -1,0 +1,31 @@
+// Standard output and the terminal.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace Command {
+
+// Standard output does not take any more: a closed pipe, a full disk.
+struct OutputClosed {
+    int error;
+};
+
+// Writes to standard output; throws OutputClosed.
+void print(std::string_view text);
+void flushOutput();
+// Writes to standard error, behind what was printed before.
+void printError(std::string_view text);
+
+enum class ColorMode { Auto, Always, Never };
+
+// Whether standard output shows colours: NO_COLOR and a dumb terminal say no.
+bool usesColor(ColorMode mode);
+// Whether it also shows any of 16 million.
+bool usesTrueColor(ColorMode mode);
+bool isErrorTerminal();
+
+// The text in bold or in a colour of the terminal ("1", "31"); itself when `on` is false.
+std::string colored(std::string_view text, std::string_view code, bool on);
+
+} // namespace Command

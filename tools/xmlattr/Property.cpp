@@ -1,0 +1,43 @@
+#include "Property.h"
+
+#include "AlsoLegal.h"
+#include "Expression.h"
+#include "Text.h"
+
+#include "xmlattr/core/Text.h"
+
+namespace Command {
+
+namespace {
+
+// White space around a list is part of the list's grammar in SVG 1.1.
+bool isList(std::string_view type) {
+    return type.starts_with("Core::Vector<") || type == "ViewBox";
+}
+
+} // namespace
+
+Verdict Property::judge(std::u16string_view text) const {
+    if (!type) return Verdict::TypeMissing;
+    if (type->accepts(text)) return Verdict::Checked;
+    text = Core::trim(text);
+    bool const isFo = entry->vocabulary == Xml::Vocabulary::Fo;
+    if (equalsWord(text, "inherit", !isFo)) return Verdict::PassedOver;
+    if (isAlsoLegal(*entry, text, type->accepts)) return Verdict::PassedOver;
+    if (isFo && (type->keywords().empty() ? isExpression(text) : isCall(text))) return Verdict::PassedOver;
+    if (isList(type->name) && type->accepts(text)) return Verdict::PassedOver;
+    return Verdict::Refused;
+}
+
+Property const* findProperty(Xml::Vocabulary vocabulary, std::string_view element, std::string_view attribute) {
+    static std::vector<Property> const properties = [] {
+        std::vector<Property> all;
+        for (Xml::CatalogueEntry const& entry : Xml::Catalogue::entries())
+            all.push_back({&entry, findValueType(entry.valueType)});
+        return all;
+    }();
+    Xml::CatalogueEntry const* const entry = Xml::Catalogue::find(vocabulary, element, attribute);
+    return entry ? &properties[static_cast<std::size_t>(entry - Xml::Catalogue::entries().data())] : nullptr;
+}
+
+} // namespace Command

@@ -1,0 +1,29 @@
+// An attribute of the catalogue together with the value type that reads it.
+#pragma once
+
+#include "ValueTypes.h"
+
+#include "xmlattr/catalogue/Catalogue.h"
+
+#include <string_view>
+
+namespace Command {
+
+enum class Verdict {
+    Checked,     // the value type reads the text
+    PassedOver,  // legal, but the formatter's business and not the type's
+    TypeMissing, // the value type is not in this build
+    Refused
+};
+
+struct Property {
+    Xml::CatalogueEntry const* entry;
+    ValueType const* type; // null when the row has none, or none that is in this build
+
+    Verdict judge(std::u16string_view text) const;
+};
+
+// Null when the vocabulary has no such attribute.
+Property const* findProperty(Xml::Vocabulary vocabulary, std::string_view element, std::string_view attribute);
+
+} // namespace Command

@@ -1,0 +1,66 @@
+// The start tag as it stands in the file, in which an attribute has a place of its own.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Command {
+
+// Counted from 1; a column is a code point, a tab is one.
+struct Place {
+    std::uint64_t line = 1, column = 1;
+    bool operator==(Place const&) const = default;
+};
+
+enum class ByteEncoding { Utf8, Utf16Big, Utf16Little, SingleByte };
+
+// The code points of a piece of a file whose bytes are known to be well-formed.
+std::u32string decode(std::string_view bytes, ByteEncoding encoding);
+
+// A well-formed start tag. Attributes are numbered in their order, declarations of namespaces left
+// out. What comes from an entity or a default has no tag of its own; its place is that of the tag.
+class RawTag {
+public:
+    RawTag() = default;
+    // The text begins at the "<"; an empty one has nothing but its place.
+    RawTag(std::u32string text, Place start);
+
+    // As the tag has it, prefix included; empty for an empty text.
+    std::string elementName() const;
+    std::string attributeName(std::size_t attribute) const;
+    // Where the name of the attribute begins.
+    Place attribute(std::size_t attribute) const;
+    // Where the code point stands that `offset` bytes of the value's UTF-8 precede. Asking for
+    // growing offsets takes time linear in the value. Behind an entity of the document's own, of
+    // which only the value is known, it is the place of the attribute.
+    Place inValue(std::size_t attribute, std::size_t offset);
+
+private:
+    struct Cursor {
+        std::size_t index = 0;
+        Place place;
+    };
+    struct Attribute {
+        Cursor name, value;
+        std::size_t nameLength = 0;
+    };
+
+    bool atEnd(Cursor const& cursor) const { return cursor.index >= text.size(); }
+    void advance(Cursor& cursor) const;
+    template <class Belongs> void skip(Cursor& cursor, Belongs belongs) const;
+    // Moves over one unit of a value and tells how many bytes it gives; 0 for an entity.
+    std::size_t advanceInValue(Cursor& cursor) const;
+
+    std::u32string text;
+    Place start;
+    std::vector<Attribute> attributes;
+
+    struct {
+        std::size_t attribute = SIZE_MAX, offset = 0;
+        Cursor cursor;
+    } last;
+};
+
+} // namespace Command

@@ -1,0 +1,121 @@
+#include "Text.h"
+
+#include "xmlattr/core/String.h"
+#include "xmlattr/core/Text.h"
+
+#include <algorithm>
+#include <charconv>
+
+namespace Command {
+
+void toUtf16(std::string_view utf8, std::u16string& out) {
+    out.resize(utf8.size());
+    for (std::size_t i = 0; i < utf8.size(); ++i) {
+        auto const byte = static_cast<unsigned char>(utf8[i]);
+        if (byte >= 0x80) {
+            out = std::u16string_view(Core::String::fromUtf8(utf8));
+            return;
+        }
+        out[i] = byte;
+    }
+}
+
+std::u16string toUtf16(std::string_view utf8) {
+    std::u16string text;
+    toUtf16(utf8, text);
+    return text;
+}
+
+std::string toUtf8(std::u16string_view text) {
+    return Core::String(text).toUtf8();
+}
+
+namespace {
+
+std::string escaped(unsigned char control) {
+    char digits[2];
+    std::to_chars_result const result = std::to_chars(digits, digits + 2, control, 16);
+    return "\\u{" + std::string(&digits[0], result.ptr) + "}";
+}
+
+} // namespace
+
+std::string shown(std::string_view utf8) {
+    constexpr std::size_t most = 80;
+    std::string text;
+    std::size_t count = 0;
+    for (std::size_t i = 0; i < utf8.size(); ++i) {
+        auto const byte = static_cast<unsigned char>(utf8[i]);
+        bool const startsCodePoint = (byte & 0xC0) != 0x80;
+        if (startsCodePoint && count++ == most) return text + "...";
+        // C1 controls are C2 80 to C2 9F.
+        bool const isC1 = byte == 0xC2 && i + 1 < utf8.size() && static_cast<unsigned char>(utf8[i + 1]) < 0xA0;
+        if (byte < 0x20 || byte == 0x7F) {
+            text += escaped(byte);
+        } else if (isC1) {
+            text += escaped(static_cast<unsigned char>(utf8[++i]));
+        } else {
+            text += utf8[i];
+        }
+    }
+    return text;
+}
+
+std::string inQuotes(std::string_view text) {
+    return std::string(1, '"').append(text).append(1, '"');
+}
+
+bool equalsWord(std::u16string_view text, std::string_view word, bool ignoreCase) {
+    return std::equal(text.begin(), text.end(), word.begin(), word.end(), [&](char16_t unit, char letter) {
+        auto const expected = static_cast<char16_t>(static_cast<unsigned char>(letter));
+        return ignoreCase ? Core::toLower(unit) == Core::toLower(expected) : unit == expected;
+    });
+}
+
+std::vector<std::u16string_view> splitValues(std::u16string_view text, bool commas) {
+    std::vector<std::u16string_view> values;
+    std::size_t start = 0;
+    int depth = 0;
+    char16_t quote = 0;
+    auto const take = [&](std::size_t end) {
+        if (end > start) values.push_back(text.substr(start, end - start));
+        start = end + 1;
+    };
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        char16_t const unit = text[i];
+        if (quote != 0) {
+            if (unit == quote) quote = 0;
+        } else if (unit == u'"' || unit == u'\'') {
+            quote = unit;
+        } else if (unit == u'(') {
+            ++depth;
+        } else if (unit == u')') {
+            depth = std::max(depth - 1, 0);
+        } else if (depth == 0 && (isSpace(unit) || (commas && unit == u','))) {
+            take(i);
+        }
+    }
+    take(text.size());
+    return values;
+}
+
+std::vector<std::string_view> splitWords(std::string_view text) {
+    std::vector<std::string_view> words;
+    while (!text.empty()) {
+        std::size_t const end = std::min(text.find(' '), text.size());
+        if (end > 0) words.push_back(text.substr(0, end));
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return words;
+}
+
+std::string joinWith(std::vector<std::string> const& words, std::string_view last) {
+    std::string text;
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        if (i > 0) text += i + 1 == words.size() ? std::string(" ").append(last) + " " : ", ";
+        text += words[i];
+    }
+    return text;
+}
+
+} // namespace Command

@@ -1,0 +1,72 @@
+#include "ValueTypes.h"
+
+#include "Describe.h"
+#include "Text.h"
+
+#include "xmlattr/Values.h"
+#include "xmlattr/attributes/TXmlAttribute.h"
+#include "xmlattr/keywords/KeywordTable.h"
+
+#include <algorithm>
+
+namespace Command {
+
+namespace {
+
+template <class T> bool acceptsText(std::u16string_view text) {
+    T value{};
+    return Xml::AttributeTraits<T>::parse(value, text);
+}
+
+template <class T> Shown showText(Core::String const& text, Core::String const* other) {
+    Shown shown;
+    Xml::TXmlAttribute<T> attribute;
+    shown.accepted = attribute.parseValue(text);
+    if (!shown.accepted) return shown;
+    describe(shown, attribute.getValue());
+    shown.printed = attribute.getValueAsString();
+    if (other) shown.equal = attribute.isEqual(*other);
+    return shown;
+}
+
+template <class T> std::vector<std::u16string_view> keywordsOf() {
+    std::vector<std::u16string_view> words;
+    if constexpr (Xml::KeywordEnumeration<T>)
+        for (auto const& row : Xml::Keywords<T>::rows) words.push_back(row.word);
+    return words;
+}
+
+} // namespace
+
+std::span<ValueType const> valueTypes() {
+    using namespace Xml;
+    static constexpr ValueType types[] = {
+#define XMLATTR_PUBLIC_VALUE(...)                                                                                      \
+    {#__VA_ARGS__, true, acceptsText<__VA_ARGS__>, showText<__VA_ARGS__>, keywordsOf<__VA_ARGS__>},
+#define XMLATTR_INTERNAL_VALUE(...)                                                                                    \
+    {#__VA_ARGS__, false, acceptsText<__VA_ARGS__>, showText<__VA_ARGS__>, keywordsOf<__VA_ARGS__>},
+#include "xmlattr/ValueTypes.inc"
+    };
+    return types;
+}
+
+ValueType const* findValueType(std::string_view name) {
+    for (ValueType const& type : valueTypes())
+        if (type.name == name) return &type;
+    return nullptr;
+}
+
+ValueType const* findTypedName(std::string_view name) {
+    if (ValueType const* const type = findValueType(name)) return type;
+    std::u16string const wanted = toUtf16(name);
+    for (ValueType const& type : valueTypes()) {
+        std::string_view bare = type.name;
+        if (bare.starts_with("SmartPtr<")) bare = bare.substr(9, bare.size() - 10);
+        if (equalsWord(wanted, type.name, true) || equalsWord(wanted, bare, true) ||
+            equalsWord(wanted, bare.substr(std::min(bare.rfind(':') + 1, bare.size())), true))
+            return &type;
+    }
+    return nullptr;
+}
+
+} // namespace Command
