@@ -6,9 +6,13 @@
 
 namespace Xml {
 
+// Transform.h has exported the attribute of SLength already, and g++ warns of saying so again.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wattributes"
 #define XMLATTR_PUBLIC_VALUE(...) template class XMLATTR_API TXmlAttribute<__VA_ARGS__>;
 #define XMLATTR_INTERNAL_VALUE(...) template class TXmlAttribute<__VA_ARGS__>;
 #include "xmlattr/ValueTypes.inc"
+#pragma GCC diagnostic pop
 
 // A line that is missing in the list, or a misspelt rule of a keyword table, changes a count.
 inline constexpr int keywordEnumerations = 0

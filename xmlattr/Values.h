@@ -48,3 +48,7 @@
 #include "xmlattr/svg/BoxShadow.h"
 #include "xmlattr/svg/STextDecoration.h"
 #include "xmlattr/svg/STextShadow.h"
+#include "xmlattr/svg/PathData.h"
+#include "xmlattr/svg/Point.h"
+#include "xmlattr/svg/SPreserveAspectRatio.h"
+#include "xmlattr/svg/Transform.h"

@@ -1,7 +1,6 @@
 #include "xmlattr/core/NumberReader.h"
 
 #include <algorithm>
-#include <bit>
 #include <cfloat>
 #include <charconv>
 #include <cmath>
@@ -12,13 +11,9 @@ namespace Core {
 
 namespace {
 
-constexpr int maxMantissaDigits = 19; // all of them fit into 64 bits
-
 // Far beyond any float, and small enough that sums of two such exponents do not overflow an int.
 constexpr int exponentLimit = 100'000'000;
 
-constexpr double powersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
-                                  1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 constexpr int exactPowers = static_cast<int>(std::size(powersOfTen)) - 1;
 
 // Takes digits into the mantissa while they fit and counts those that do not.
@@ -52,13 +47,11 @@ char16_t const* scanExponent(char16_t const* unit, char16_t const* end, int& exp
     return unit;
 }
 
-// A mantissa below 2^53 and a power of ten up to 10^22 are doubles, so their product or quotient
-// is the number rounded once to a double. Rounding that to a float gives the nearest float, but
-// for one case: when the double lies halfway between two floats, the first rounding may have
-// brought it there, and the tie is then broken without knowing from which side.
+// A mantissa up to 2^53 and a power of ten up to 10^22 are doubles, so their product or quotient is
+// the number rounded once to a double. Rounding that to a float gives the nearest float, but for the
+// halfway cases.
 bool scaleExactly(Decimal const& number, float& value) noexcept {
-    constexpr std::uint64_t largestMantissa = std::uint64_t{1} << 53;
-    if (number.truncated || number.mantissa > largestMantissa) return false;
+    if (number.truncated || number.mantissa > largestExactInteger) return false;
     auto scaled = static_cast<double>(number.mantissa);
     if (number.exponent < 0) {
         if (number.exponent < -exactPowers) return false;
@@ -67,9 +60,7 @@ bool scaleExactly(Decimal const& number, float& value) noexcept {
         if (number.exponent > exactPowers) return false;
         scaled *= powersOfTen[number.exponent];
     }
-    constexpr std::uint64_t belowFloat = (std::uint64_t{1} << 29) - 1; // a double's extra bits
-    constexpr std::uint64_t halfway = std::uint64_t{1} << 28;
-    if ((std::bit_cast<std::uint64_t>(scaled) & belowFloat) == halfway) return false;
+    if (isHalfwayBetweenFloats(scaled)) return false;
     if (scaled > FLT_MAX || (scaled < FLT_MIN && scaled != 0)) return false;
     value = static_cast<float>(number.negative ? -scaled : scaled);
     return true;

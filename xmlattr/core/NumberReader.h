@@ -3,6 +3,8 @@
 
 #include "xmlattr/core/Text.h"
 
+#include <bit>
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -17,6 +19,51 @@ struct Decimal {
     char16_t const* end = nullptr;    // behind the last code unit of the number; null: no number
     char16_t const* digits = nullptr; // the mantissa's first digit or its point
 };
+
+// 10^0 to 10^22, the powers of ten that are doubles.
+inline constexpr double powersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
+                                         1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+
+// All the decimal numbers of so many digits fit into 64 bits.
+inline constexpr int maxMantissaDigits = 19;
+
+// Up to here, every integer is a double.
+inline constexpr std::uint64_t largestExactInteger = std::uint64_t{1} << 53;
+
+// Whether a double lies halfway between two floats. When it is itself rounded, the rounding may have
+// brought it there, and the tie would be broken without knowing from which side.
+constexpr bool isHalfwayBetweenFloats(double value) noexcept {
+    constexpr std::uint64_t belowFloat = (std::uint64_t{1} << 29) - 1; // a double's extra bits
+    return (std::bit_cast<std::uint64_t>(value) & belowFloat) == std::uint64_t{1} << 28;
+}
+
+// Reads a plain number, [sign] digits [. digits], at the very start of the text: the short way for
+// what nearly every number of a long list is. Gives the place behind its last digit and the same
+// value as scanDecimal and toFloat give for the text up to there. Null where only those can tell
+// (no digit, a point without a digit behind it, very many digits); then `value` is untouched. An
+// exponent is not looked for: the caller sees from what follows whether the number ends there.
+inline char16_t const* scanPlain(char16_t const* unit, char16_t const* end, float& value) noexcept {
+    bool const negative = unit != end && *unit == u'-';
+    if (unit != end && (*unit == u'-' || *unit == u'+')) ++unit;
+    char16_t const* const whole = unit;
+    std::uint64_t mantissa = 0; // overflows harmlessly when there are too many digits
+    for (; unit != end && isDigit(*unit); ++unit) mantissa = mantissa * 10 + (*unit - u'0');
+    std::ptrdiff_t digits = unit - whole;
+    std::ptrdiff_t decimals = 0;
+    if (unit != end && *unit == u'.') {
+        char16_t const* const fraction = ++unit;
+        for (; unit != end && isDigit(*unit); ++unit) mantissa = mantissa * 10 + (*unit - u'0');
+        decimals = unit - fraction;
+        if (decimals == 0) return nullptr;
+        digits += decimals;
+    }
+    if (digits == 0 || digits > maxMantissaDigits || mantissa > largestExactInteger) return nullptr;
+    // Two exact doubles, divided: rounded once, and far within the range of a float.
+    double const scaled = static_cast<double>(static_cast<std::int64_t>(mantissa)) / powersOfTen[decimals];
+    if (isHalfwayBetweenFloats(scaled)) return nullptr;
+    value = static_cast<float>(negative ? -scaled : scaled);
+    return unit;
+}
 
 // Scans the longest number at the very start of the text: [sign] digits [. digits] [exponent].
 Decimal scanDecimal(std::u16string_view text) noexcept;

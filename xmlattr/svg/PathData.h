@@ -1,0 +1,57 @@
+// The path data of SVG.
+#pragma once
+
+#include "xmlattr/attributes/AttributeTraits.h"
+#include "xmlattr/measures/SLength.h"
+
+#include <cstdint>
+
+namespace Xml {
+
+// Unscoped, so that its enumerators compare with the integers they are, but only with their scope.
+namespace PathCommandKinds {
+enum XMLATTR_API PathCommandKind : std::int32_t {
+    MoveTo = 2,
+    ClosePath = 3,
+    LineTo = 4,
+    HorizontalLineTo = 5,
+    VerticalLineTo = 6,
+    CurveTo = 7,
+    SmoothCurveTo = 8,
+    QuadraticCurveTo = 9,
+    SmoothQuadraticCurveTo = 10,
+    ArcTo = 11,
+};
+} // namespace PathCommandKinds
+using PathCommandKinds::PathCommandKind;
+
+// One command as it was written: relative coordinates are not resolved. What its kind does not use
+// is zero.
+struct XMLATTR_API PathDataCommand {
+    std::int32_t kind = 0; // a PathCommandKind
+    bool relative = false; // a lower-case letter; "z" is not relative
+    SLength x1, y1, x2, y2, x, y, rx, ry;
+    float xAxisRotation = 0; // of an arc, in degrees
+    bool largeArc = false, sweep = false;
+
+    constexpr bool operator==(PathDataCommand const&) const = default;
+};
+
+static_assert(sizeof(PathDataCommand) == 80);
+
+// The commands of SVG 1.1; a letter may be left out where the last one is repeated, which is a line
+// after "M". Coordinates are SVG lengths, so they may have units. Never refuses a text: a number that
+// is no length and one that is missing are 0. White space and commas may stand between any two things.
+// A letter that begins no number, where no letter has set the command (at the start or after "Z"),
+// and everything else that is no command there ends the data: what was read before it is kept.
+// The list is replaced. There is no printer.
+//
+// Intended: the letters that end a number are those of the commands, but for "c" and "m" before an
+// "m" and "t" after a "p". The last "m" of "mm", "cm" and "em" therefore is a command: "10mm" at the
+// end of the text gives the number "10m" and a relative move to.
+template <> struct AttributeTraits<Core::Vector<PathDataCommand>> {
+    static bool parse(Core::Vector<PathDataCommand>& value, std::u16string_view text);
+    static constexpr bool refusesComparison = true;
+};
+
+} // namespace Xml

@@ -1,0 +1,37 @@
+// The point lists of SVG polylines and polygons.
+#pragma once
+
+#include "xmlattr/attributes/AttributeTraits.h"
+#include "xmlattr/measures/SLength.h"
+
+namespace Xml {
+
+struct XMLATTR_API Point {
+    SLength x, y;
+
+    constexpr Point() = default;
+    constexpr Point(SLength const& x, SLength const& y) : x(x), y(y) {}
+
+    constexpr bool operator==(Point const&) const = default;
+
+    // Pairs of SVG lengths. A length ends at white space, "," or a "-" that is not its first unit;
+    // between the two of a pair may stand white space and one "," before it. A lone length at the
+    // end is dropped. False when another length is bad or empty; then the list is untouched.
+    // Intended: exactly one unit behind each pair is skipped, whatever it is, so that
+    // "10,20-30,40" is (10, 20) and (30, 40) and a second "," makes an empty length.
+    static bool parsePointList(Core::Vector<Point>& list, Core::String const& text);
+    // "x y" pairs with commas between them, in pixels. Throws UnreacheableCodeException for a length
+    // whose unit is none.
+    static Core::String getPointListValueAsString(Core::Vector<Point> const& list);
+};
+
+static_assert(sizeof(Point) == 16);
+
+// Reads and prints as the two functions above.
+template <> struct AttributeTraits<Core::Vector<Point>> {
+    static bool parse(Core::Vector<Point>& value, std::u16string_view text);
+    static Core::String print(Core::Vector<Point> const& value);
+    static constexpr bool refusesComparison = true;
+};
+
+} // namespace Xml

@@ -1,0 +1,32 @@
+// How SVG fits a view box into its viewport.
+#pragma once
+
+#include "xmlattr/attributes/AttributeTraits.h"
+
+#include <cstdint>
+
+namespace Xml {
+
+// The bits of SVG 1.1's preserveAspectRatio: 1 none, 2 meet, 4 slice; 8, 16 and 32 align x at Min,
+// Mid and Max, and 64, 128 and 256 y. It is "xMidYMid meet" to begin with.
+class XMLATTR_API SPreserveAspectRatio {
+public:
+    constexpr SPreserveAspectRatio() = default;
+    constexpr SPreserveAspectRatio(int ratio) : ratio(ratio) {}
+
+    constexpr int getAspectRatio() const { return ratio; }
+
+    constexpr bool operator==(SPreserveAspectRatio const&) const = default;
+
+private:
+    std::int32_t ratio = 16 | 128 | 2;
+};
+
+// Two words, exact in case: "none", behind which nothing counts, or an alignment, then "meet" or
+// "slice". Never refuses a text: an unknown alignment, such as "defer", is "xMidYMid"; no second word
+// is "meet", and an unknown one is neither. What follows is ignored. There is no printer.
+template <> struct AttributeTraits<SPreserveAspectRatio> {
+    static bool parse(SPreserveAspectRatio& value, std::u16string_view text);
+};
+
+} // namespace Xml

@@ -1,0 +1,68 @@
+// The transform lists of SVG.
+#pragma once
+
+#include "xmlattr/attributes/TXmlAttribute.h"
+#include "xmlattr/measures/SLength.h"
+
+#include <cstdint>
+
+namespace Xml {
+
+enum class XMLATTR_API TransformType : std::int32_t {
+    Matrix = 1,
+    Translate = 2,
+    Scale = 3,
+    Rotate = 4,
+    SkewX = 5,
+    SkewY = 6,
+};
+
+// A Transform holds such attributes: the first mention of a class decides whether it is exported.
+extern template class XMLATTR_API TXmlAttribute<SLength>;
+
+// One transform as it was written, with the parameters of every kind side by side; only those of its
+// own kind mean anything, and the others are zero. Numbers have single precision when they were read.
+struct XMLATTR_API Transform {
+    TransformType type = TransformType::Translate;
+    double matrix[6] = {}; // a b c d e f
+    TXmlAttribute<SLength> tx, ty;
+    double sx = 0, sy = 0;
+    double angle = 0; // of a rotation, in degrees
+    TXmlAttribute<SLength> cx, cy;
+    double skewAngleX = 0, skewAngleY = 0; // a skew has its angle in both
+
+    // The identity: a translation by nothing.
+    constexpr Transform() = default;
+    constexpr Transform(double a, double b, double c, double d, double e, double f)
+        : type(TransformType::Matrix), matrix{a, b, c, d, e, f} {}
+    constexpr Transform(SLength const& tx, SLength const& ty) : tx(tx), ty(ty) {}
+    constexpr Transform(double sx, double sy) : type(TransformType::Scale), sx(sx), sy(sy) {}
+    constexpr Transform(double angle, SLength const& cx, SLength const& cy)
+        : type(TransformType::Rotate), angle(angle), cx(cx), cy(cy) {}
+    // A skew.
+    constexpr Transform(TransformType type, double angle) : type(type), skewAngleX(angle), skewAngleY(angle) {}
+
+    // The types and the parameters of the type are equal; a number that is no type equals nothing.
+    // Intended: skews compare the angle of a rotation, so that two of the same type from a text or
+    // the constructor are equal whatever their own angles.
+    bool operator==(Transform const& other) const;
+
+    // Reads one transform of SVG 1.1, with or without its ")": a keyword, exact in case, then the
+    // arguments, each ended by one white space, "," or ")". Translations and centres are SVG
+    // lengths; of the other numbers, those of a matrix are read whole, and of the rest what stands
+    // at the start counts ("45deg" is 45). Never fails: anything else gives the identity.
+    // Intended: two delimiters in a row hold an empty argument between them, unless the second
+    // is white space; behind the last argument, one white space is no harm and two are.
+    static Transform readTransform(Core::String const& text);
+};
+
+// Transforms, each up to its ")", with any mixture of white space and commas between them or nothing.
+// What cannot be read is an identity in its place; what has no ")" at the end of the text is dropped.
+// Never refuses a text. Intended: appends to the list, since callers who want a fresh one parse into
+// a fresh attribute. There is no printer.
+template <> struct AttributeTraits<Core::Vector<Transform>> {
+    static bool parse(Core::Vector<Transform>& value, std::u16string_view text);
+    static constexpr bool refusesComparison = true;
+};
+
+} // namespace Xml
