@@ -1,35 +1,51 @@
-// The only source that sees every value type: each instantiation of the attribute is compiled here,
-// and the public ones are exported.
+// The only source that compiles the attribute of each value type.
+#include "xmlattr/Instantiations.h"
 
-#include "xmlattr/Values.h"
 #include "xmlattr/attributes/TXmlAttributeImpl.h"
 
 namespace Xml {
 
-// Transform.h has exported the attribute of SLength already, and g++ warns of saying so again.
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wattributes"
-#define XMLATTR_PUBLIC_VALUE(...) template class XMLATTR_API TXmlAttribute<__VA_ARGS__>;
+#define XMLATTR_PUBLIC_VALUE(...) template class TXmlAttribute<__VA_ARGS__>;
 #define XMLATTR_INTERNAL_VALUE(...) template class TXmlAttribute<__VA_ARGS__>;
 #include "xmlattr/ValueTypes.inc"
-#pragma GCC diagnostic pop
 
-// A line that is missing in the list, or a misspelt rule of a keyword table, changes a count.
-inline constexpr int keywordEnumerations = 0
-#define XMLATTR_PUBLIC_VALUE(...) +KeywordEnumeration<__VA_ARGS__>
-#define XMLATTR_INTERNAL_VALUE(...)
+namespace {
+
+// What the types of the list add up to: a line that is missing, or a misspelt trait, changes a sum.
+struct Sums {
+    int types = 0, internal = 0, withoutPrinter = 0, refusing = 0;
+    int enumerations = 0, internalEnumerations = 0, enumerationsWithoutPrinter = 0;
+
+    template <class T> consteval void add(bool isInternal) {
+        constexpr bool isEnumeration = KeywordEnumeration<T>;
+        ++types;
+        internal += isInternal;
+        withoutPrinter += !Prints<T>;
+        refusing += RefusesComparison<T>;
+        enumerations += isEnumeration;
+        internalEnumerations += isEnumeration && isInternal;
+        enumerationsWithoutPrinter += isEnumeration && !Prints<T>;
+    }
+
+    bool operator==(Sums const&) const = default;
+};
+
+consteval Sums sumsOfTheList() {
+    Sums sums;
+#define XMLATTR_PUBLIC_VALUE(...) sums.add<__VA_ARGS__>(false);
+#define XMLATTR_INTERNAL_VALUE(...) sums.add<__VA_ARGS__>(true);
 #include "xmlattr/ValueTypes.inc"
-    ;
-inline constexpr int internalKeywordEnumerations = 0
-#define XMLATTR_PUBLIC_VALUE(...)
-#define XMLATTR_INTERNAL_VALUE(...) +KeywordEnumeration<__VA_ARGS__>
-#include "xmlattr/ValueTypes.inc"
-    ;
-inline constexpr int keywordsWithoutPrinter = 0
-#define XMLATTR_PUBLIC_VALUE(...) +(KeywordEnumeration<__VA_ARGS__> && !Prints<__VA_ARGS__>)
-#define XMLATTR_INTERNAL_VALUE(...) +(KeywordEnumeration<__VA_ARGS__> && !Prints<__VA_ARGS__>)
-#include "xmlattr/ValueTypes.inc"
-    ;
-static_assert(keywordEnumerations == 112 && internalKeywordEnumerations == 16 && keywordsWithoutPrinter == 49);
+    return sums;
+}
+
+static_assert(sumsOfTheList() == Sums{.types = 184,
+                                      .internal = 20,
+                                      .withoutPrinter = 76,
+                                      .refusing = 10,
+                                      .enumerations = 128,
+                                      .internalEnumerations = 16,
+                                      .enumerationsWithoutPrinter = 49});
+
+} // namespace
 
 } // namespace Xml

@@ -51,3 +51,4 @@
 #include "xmlattr/svg/STextDecoration.h"
 #include "xmlattr/svg/STextShadow.h"
 #include "xmlattr/svg/Transform.h"
+#include "xmlattr/svg/ViewBox.h"

@@ -1,13 +1,14 @@
 // xmlattr: typed values for the attributes of an XML document formatter.
 #pragma once
 
-#include "xmlattr/Values.h"
+#include "xmlattr/Instantiations.h"
 #include "xmlattr/attributes/ParseUtil.h"
-#include "xmlattr/attributes/TXmlAttribute.h"
 #include "xmlattr/core/Application.h"
 #include "xmlattr/core/Exceptions.h"
 #include "xmlattr/core/Format.h"
 #include "xmlattr/core/Log.h"
 #include "xmlattr/core/OSInfo.h"
 #include "xmlattr/core/StringFormatStream.h"
+#include "xmlattr/defaults/DefaultAttributes.h"
+#include "xmlattr/document/TabStop.h"
 #include "xmlattr/drawing/SpotColor.h"

@@ -21,7 +21,8 @@ template <class T> Core::String TXmlAttribute<T>::getValueAsString() const {
 }
 
 template <class T> bool TXmlAttribute<T>::isEqual(Core::String const& text) const {
-    return isEqual(text, int_to_type < RefusesComparison<T> ? 0 : 1 > ());
+    constexpr int comparison = RefusesComparison<T> ? 0 : 1;
+    return isEqual(text, int_to_type<comparison>());
 }
 
 template <class T> bool TXmlAttribute<T>::isEqual(Core::String const&, int_to_type<0>) const {

@@ -69,10 +69,10 @@ struct KeywordView {
 };
 
 // The row whose word is the text, or null. A word of another length is never compared.
-XMLATTR_API PackedKeyword const* findWord(KeywordView table, std::u16string_view text, Case rule);
+PackedKeyword const* findWord(KeywordView table, std::u16string_view text, Case rule);
 // The first row with the value, or null.
-XMLATTR_API PackedKeyword const* findValue(KeywordView table, std::int32_t value);
-[[noreturn]] XMLATTR_API void throwUnknownKeyword();
+PackedKeyword const* findValue(KeywordView table, std::int32_t value);
+[[noreturn]] void throwUnknownKeyword();
 
 template <auto const& rows> consteval std::size_t countLetters() {
     std::size_t count = 0;

@@ -1,0 +1,18 @@
+// Every value type and its attribute, which the library has compiled: who uses one compiles none of
+// it again.
+#pragma once
+
+#include "xmlattr/Values.h"
+#include "xmlattr/attributes/TXmlAttribute.h"
+
+namespace Xml {
+
+// Transform.h has already given the attribute of SLength its export mark, which GCC reports.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wattributes"
+#define XMLATTR_PUBLIC_VALUE(...) extern template class XMLATTR_API TXmlAttribute<__VA_ARGS__>;
+#define XMLATTR_INTERNAL_VALUE(...) extern template class TXmlAttribute<__VA_ARGS__>;
+#include "xmlattr/ValueTypes.inc"
+#pragma GCC diagnostic pop
+
+} // namespace Xml

@@ -1,0 +1,29 @@
+// The view box of SVG.
+#pragma once
+
+#include "xmlattr/measures/SLengthOrPercent.h"
+
+namespace Xml {
+
+// At first from 0% to 100% of each side.
+struct XMLATTR_API ViewBox {
+    SLengthOrPercent x{0.0f}, y{0.0f}, width{1.0f}, height{1.0f};
+
+    constexpr ViewBox() = default;
+    constexpr ViewBox(SLengthOrPercent const& x, SLengthOrPercent const& y, SLengthOrPercent const& width,
+                      SLengthOrPercent const& height)
+        : x(x), y(y), width(width), height(height) {}
+
+    constexpr bool operator==(ViewBox const&) const = default;
+};
+
+static_assert(sizeof(ViewBox) == 64);
+
+// Four words as SLength::parseSLengthOrPercent reads them; what follows is ignored. False when one
+// of them is bad or missing; then the value is untouched. There is no printer.
+// Intended: commas do not separate, unlike in SVG 1.1: "0,0,100,100" is one word and refused.
+template <> struct AttributeTraits<ViewBox> {
+    static bool parse(ViewBox& value, std::u16string_view text);
+};
+
+} // namespace Xml
