@@ -37,4 +37,24 @@ template <class T> std::string printed(Core::String const& text) {
     return attribute.parseValue(text) ? narrow(attribute.getValueAsString()) : "refused";
 }
 
+// A text and how its value prints; "refused" when the type refuses it.
+struct PrintRow {
+    char16_t const* text;
+    char const* prints;
+};
+
+// Reads each text into an attribute that holds `before`, which a refusal must not change.
+template <class T> void expectPrints(T const& before, std::initializer_list<PrintRow> rows) {
+    std::string const beforePrints = narrow(TXmlAttribute<T>(before).getValueAsString());
+    for (PrintRow const& row : rows) {
+        TXmlAttribute<T> attribute(before);
+        bool const accepted = attribute.parseValue(row.text);
+        std::string const prints = narrow(attribute.getValueAsString());
+        EXPECT_EQ(accepted ? prints : "refused", row.prints) << narrow(row.text);
+        if (!accepted) {
+            EXPECT_EQ(prints, beforePrints) << narrow(row.text);
+        }
+    }
+}
+
 } // namespace Xml
