@@ -6,6 +6,7 @@
 
 namespace Xml {
 
+// How a background image is scaled, or that a measure says its size.
 enum class XMLATTR_API BackgroundSizeType : std::int32_t {
     Cover = 0,
     Contain = 1,

@@ -7,6 +7,7 @@
 
 namespace Xml {
 
+// Where a baseline is shifted to, or that a measure says how far.
 enum class XMLATTR_API BaselineShiftMode : std::int32_t { Baseline = 0, Sub = 1, Super = 2, LengthOrPercent = 3 };
 template <> struct Keywords<BaselineShiftMode> {
     using enum BaselineShiftMode;

@@ -6,6 +6,7 @@
 
 namespace Xml {
 
+// How content is scaled, or that a measure says its size.
 enum class XMLATTR_API ContentScaleMode : std::int32_t {
     Auto = 0,
     ScaleToFit = 1,

@@ -8,6 +8,7 @@
 
 namespace Xml {
 
+// A font size relative to the parent's.
 enum class XMLATTR_API RelativeFontSize : std::int32_t { Larger = 0, Smaller = 1 };
 template <> struct Keywords<RelativeFontSize> {
     using enum RelativeFontSize;

@@ -7,6 +7,7 @@
 
 namespace Xml {
 
+// The words of a font stretch; all of them count as relative ones.
 enum class XMLATTR_API RelativeFontStretch : std::int32_t {
     Normal = 0,
     Wider = 1,

@@ -6,6 +6,7 @@
 
 namespace Xml {
 
+// What an indent is taken from.
 enum class XMLATTR_API IndentFunction : std::int32_t { None = 0, LengthOrPercent = 1, LabelEnd = 2, BodyStart = 3 };
 template <> struct Keywords<IndentFunction> {
     using enum IndentFunction;

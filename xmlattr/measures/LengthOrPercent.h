@@ -11,6 +11,7 @@ namespace Xml {
 // A number with "%", a number with a unit of Length, or a bare number, which is a ratio (1.5 is
 // 150%), unless the configuration says that "MeasurementUnit" is "Points": then it is in points.
 // "normal" is 120%, the normal line height. Words and units are exact in case, nothing is trimmed.
+// Intended: a pair of code units that is no unit counts as pixels, so that "12PT" is 12px.
 // Prints the percentage or the length.
 class XMLATTR_API LengthOrPercent : public MeasureOrPercent<Length> {
 public:

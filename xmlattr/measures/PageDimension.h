@@ -7,6 +7,7 @@
 
 namespace Xml {
 
+// How a page dimension is given.
 enum class XMLATTR_API PageDimensionType : std::int32_t { Auto = 0, Indefinite = 1, Length = 2 };
 template <> struct Keywords<PageDimensionType> {
     using enum PageDimensionType;

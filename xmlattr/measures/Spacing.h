@@ -7,6 +7,7 @@
 
 namespace Xml {
 
+// Whether a spacing is the normal one or a length.
 enum XMLATTR_API SpacingKind : std::int32_t { SpacingNormal = 0, SpacingLength = 1 };
 
 template <class LengthType> class SpacingOf : public TaggedMeasure<SpacingKind, SpacingLength, LengthType> {

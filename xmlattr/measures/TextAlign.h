@@ -7,6 +7,7 @@
 
 namespace Xml {
 
+// Where text is aligned; None prints like Left.
 enum class XMLATTR_API TextAlignType : std::int32_t {
     None = 0,
     Left = 1,
