@@ -1,19 +1,10 @@
 #include "xmlattr/color/SColor.h"
 
 #include "xmlattr/attributes/TextCursor.h"
-#include "xmlattr/core/Exceptions.h"
+
+#include <algorithm>
 
 namespace Xml {
-
-bool SColor::operator==(SColor const& other) const {
-    if (type != other.type) return false;
-    switch (type) {
-    case None: return true;
-    case Url: return url == other.url;
-    case Color: return color == other.color;
-    }
-    throw Core::UnreacheableCodeException("SColor", __LINE__);
-}
 
 bool SColor::parseSColor(SColor& value, Core::String const& text) {
     return AttributeTraits<SColor>::parse(value, text);

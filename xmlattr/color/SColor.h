@@ -24,7 +24,7 @@ public:
 
     // References are equal by their texts. Intended: colours are equal when they are one object, so
     // two that were parsed from the same text are not.
-    bool operator==(SColor const& other) const;
+    bool operator==(SColor const&) const = default;
 
     // False for a text that is no paint; then `value` is untouched.
     static bool parseSColor(SColor& value, Core::String const& text);

@@ -11,7 +11,7 @@ namespace Xml {
 class XMLATTR_API STextShadow {
 public:
     STextShadow() = default;
-    // Intended: the paint is absent for SNullableColor::isNull whatever the colour.
+    // Intended: the paint counts as absent, whatever the colour; see SNullableColor.
     STextShadow(SLength const& dx, SLength const& dy, SLength const& blurRadius, SmartPtr<Drawing::Color> const& color)
         : dx(dx), dy(dy), blurRadius(blurRadius), color(color) {}
 
