@@ -48,12 +48,12 @@ struct Table {
     consteval Table() {
         static_assert(std::size(colorNames) < free);
         slots.fill(free);
-        for (std::uint8_t i = 0; i < rows.size(); ++i) {
+        for (std::size_t i = 0; i < rows.size(); ++i) {
             rows[i].rgb = colorNames[i].rgb;
             if (!pack(colorNames[i].name, rows[i].word)) throw "a name is no word of letters";
             std::size_t slot = slotOf(rows[i].word);
             while (slots[slot] != free) slot = next(slot);
-            slots[slot] = i;
+            slots[slot] = static_cast<std::uint8_t>(i);
         }
     }
 

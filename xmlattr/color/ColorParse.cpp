@@ -59,7 +59,7 @@ bool readFallBack(std::u16string_view text, unsigned char& value) {
 bool readICC(ColorPtr& color, std::u16string_view text) {
     std::size_t const open = text.find(u'(');
     std::u16string_view fallBack[3], profile, components[4];
-    if (open != text.npos) {
+    if (open != std::u16string_view::npos) {
         TextCursor cursor{text, static_cast<int>(open)};
         for (std::u16string_view& argument : fallBack) argument = takeArgument(cursor);
         profile = takeArgument(cursor);
@@ -94,7 +94,7 @@ struct Cut {
     std::u16string_view first, rest;
     explicit Cut(std::u16string_view list) : first(list) {
         std::size_t const comma = list.find(u',');
-        if (comma == list.npos) return;
+        if (comma == std::u16string_view::npos) return;
         first = list.substr(0, comma);
         rest = Core::trim(list.substr(comma + 1));
     }
@@ -107,7 +107,7 @@ SmartPtr<Drawing::SpotColorFunction> blackFunction() {
 
 bool readSpot(ColorPtr& color, std::u16string_view text) {
     std::size_t const open = text.find(u'('), close = text.rfind(u')');
-    if (open == text.npos || close == text.npos || close < open + 2) return false;
+    if (open == std::u16string_view::npos || close == std::u16string_view::npos || close < open + 2) return false;
     Cut const list(Core::trim(text.substr(open + 1, close - open - 1)));
     std::u16string_view const name = list.first;
     if (name.empty()) return false;
@@ -209,6 +209,7 @@ bool ColorParse::parseRGB(Core::String const& text, Target* target) {
     return store(Drawing::readRGB, text, target);
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the signature is fixed
 bool ColorParse::parseCMYKString(Core::String text, Target* target) {
     return store(Drawing::readCMYK, text, target);
 }
@@ -225,7 +226,7 @@ bool ColorParse::parseColorName(Core::String const& text, Target* target) {
     return store(readName, text, target);
 }
 
-Core::String ColorParse::getColorAsString(ColorPtr color) {
+Core::String ColorParse::getColorAsString(ColorPtr const& color) {
     return AttributeTraits<ColorPtr>::print(color);
 }
 

@@ -61,7 +61,7 @@ public:
 
     // Empty for null, for a colour of another class, for an ICC colour that has not 1, 3 or 4
     // components, and for a spot colour whose function is not exponential with an RGB or CMYK end.
-    static Core::String getColorAsString(SmartPtr<Drawing::Color> color);
+    static Core::String getColorAsString(SmartPtr<Drawing::Color> const& color);
 };
 
 } // namespace Xml

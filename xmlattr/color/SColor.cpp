@@ -13,7 +13,7 @@ bool SColor::parseSColor(SColor& value, Core::String const& text) {
 bool AttributeTraits<SColor>::parse(SColor& value, std::u16string_view text) {
     if (text.size() > 3 && text.starts_with(u"url")) {
         std::size_t const hash = text.find(u'#', std::min(text.find(u'('), text.size()));
-        if (hash == text.npos) return false;
+        if (hash == std::u16string_view::npos) return false;
         TextCursor cursor{text, static_cast<int>(hash)};
         value = SColor(cursor.takeWhile([](char16_t unit) { return unit != u')' && !Core::isSpace(unit); }));
         return true;

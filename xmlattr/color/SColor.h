@@ -4,6 +4,7 @@
 #include "xmlattr/color/ColorParse.h"
 
 #include <cstdint>
+#include <utility>
 
 namespace Xml {
 
@@ -15,8 +16,8 @@ public:
     enum ColorType : std::int32_t { None = 0, Url = 1, Color = 2 };
 
     SColor() = default;
-    SColor(Core::String const& url) : type(Url), url(url) {}
-    SColor(SmartPtr<Drawing::Color> const& color) : type(Color), color(color) {} // null is a Color too
+    SColor(Core::String url) : type(Url), url(std::move(url)) {}
+    SColor(SmartPtr<Drawing::Color> color) : type(Color), color(std::move(color)) {} // null is a Color too
 
     ColorType getType() const { return type; }
     SmartPtr<Drawing::Color> getColor() const { return color; }
@@ -43,8 +44,8 @@ class XMLATTR_API SNullableColor : public SColor {
 public:
     // Intended: absent also with a reference or a colour; only a parse or setNull(false) ends that.
     SNullableColor() = default;
-    SNullableColor(Core::String const& url) : SColor(url) {}
-    SNullableColor(SmartPtr<Drawing::Color> const& color) : SColor(color) {}
+    SNullableColor(Core::String url) : SColor(std::move(url)) {}
+    SNullableColor(SmartPtr<Drawing::Color> color) : SColor(std::move(color)) {}
 
     bool isNull() const { return null; }
     void setNull(bool isNull) { null = isNull; }

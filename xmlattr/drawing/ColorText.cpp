@@ -12,12 +12,12 @@ namespace {
 template <std::size_t n> bool splitCall(std::u16string_view text, std::u16string_view (&components)[n]) {
     std::size_t at = text.find(u'(');
     for (std::size_t i = 0; i < n; ++i) {
-        if (at == text.npos) return false;
+        if (at == std::u16string_view::npos) return false;
         std::size_t const start = at + 1;
         at = text.find(i + 1 < n ? u',' : u')', start);
         components[i] = text.substr(start, at - start);
     }
-    return at != text.npos;
+    return at != std::u16string_view::npos;
 }
 
 bool readRGBComponent(std::u16string_view text, unsigned char& value) {

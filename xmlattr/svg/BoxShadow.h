@@ -4,6 +4,8 @@
 #include "xmlattr/color/ColorParse.h"
 #include "xmlattr/measures/Length.h"
 
+#include <utility>
+
 namespace Xml {
 
 // Offsets, blur radius and colour, divided by single blanks: up to three lengths, which fill dx, dy
@@ -12,8 +14,8 @@ namespace Xml {
 class XMLATTR_API BoxShadow {
 public:
     BoxShadow() = default;
-    BoxShadow(Length const& dx, Length const& dy, Length const& blurRadius, SmartPtr<Drawing::Color> const& color)
-        : dx(dx), dy(dy), blurRadius(blurRadius), color(color) {}
+    BoxShadow(Length const& dx, Length const& dy, Length const& blurRadius, SmartPtr<Drawing::Color> color)
+        : dx(dx), dy(dy), blurRadius(blurRadius), color(std::move(color)) {}
 
     Length getDx() const { return dx; }
     Length getDy() const { return dy; }

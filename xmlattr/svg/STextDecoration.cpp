@@ -9,7 +9,7 @@ bool AttributeTraits<STextDecoration>::parse(STextDecoration& value, std::u16str
     // Intended: "none" anywhere behind the first code unit means no decoration, and at the very
     // start it is a keyword like any unknown one, so "none" is refused and " none" is not.
     std::size_t const none = text.find(u"none");
-    if (none != text.npos && none > 0) {
+    if (none != std::u16string_view::npos && none > 0) {
         value = STextDecoration();
         return true;
     }

@@ -4,6 +4,8 @@
 #include "xmlattr/color/SColor.h"
 #include "xmlattr/measures/SLength.h"
 
+#include <utility>
+
 namespace Xml {
 
 // Like BoxShadow, but with SVG lengths and an SVG paint. What the text leaves out is 0 user units
@@ -12,8 +14,8 @@ class XMLATTR_API STextShadow {
 public:
     STextShadow() = default;
     // Intended: the paint counts as absent, whatever the colour; see SNullableColor.
-    STextShadow(SLength const& dx, SLength const& dy, SLength const& blurRadius, SmartPtr<Drawing::Color> const& color)
-        : dx(dx), dy(dy), blurRadius(blurRadius), color(color) {}
+    STextShadow(SLength const& dx, SLength const& dy, SLength const& blurRadius, SmartPtr<Drawing::Color> color)
+        : dx(dx), dy(dy), blurRadius(blurRadius), color(std::move(color)) {}
 
     SLength getDx() const { return dx; }
     SLength getDy() const { return dy; }

@@ -25,7 +25,7 @@ bool readShadow(std::u16string_view text, L* const (&lengths)[n], TakeColor take
             return true;
         else
             hasColor = true;
-        if (blank == text.npos) return true;
+        if (blank == std::u16string_view::npos) return true;
         text.remove_prefix(blank + 1);
     }
 }
