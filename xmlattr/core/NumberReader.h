@@ -43,8 +43,9 @@ constexpr bool isHalfwayBetweenFloats(double value) noexcept {
 // (no digit, a point without a digit behind it, very many digits); then `value` is untouched. An
 // exponent is not looked for: the caller sees from what follows whether the number ends there.
 inline char16_t const* scanPlain(char16_t const* unit, char16_t const* end, float& value) noexcept {
-    bool const negative = unit != end && *unit == u'-';
-    if (unit != end && (*unit == u'-' || *unit == u'+')) ++unit;
+    if (unit == end) return nullptr;
+    bool const negative = *unit == u'-';
+    unit += negative || *unit == u'+';
     char16_t const* const whole = unit;
     std::uint64_t mantissa = 0; // overflows harmlessly when there are too many digits
     for (; unit != end && isDigit(*unit); ++unit) mantissa = mantissa * 10 + (*unit - u'0');
@@ -61,7 +62,8 @@ inline char16_t const* scanPlain(char16_t const* unit, char16_t const* end, floa
     // Two exact doubles, divided: rounded once, and far within the range of a float.
     double const scaled = static_cast<double>(static_cast<std::int64_t>(mantissa)) / powersOfTen[decimals];
     if (isHalfwayBetweenFloats(scaled)) return nullptr;
-    value = static_cast<float>(negative ? -scaled : scaled);
+    value =
+        static_cast<float>(std::bit_cast<double>(std::bit_cast<std::uint64_t>(scaled) | std::uint64_t{negative} << 63));
     return unit;
 }
 

@@ -2,6 +2,7 @@
 
 #include "xmlattr/core/NumberReader.h"
 #include "xmlattr/core/Text.h"
+#include "xmlattr/svg/ListGrowth.h"
 
 #include <array>
 #include <cstddef>
@@ -82,6 +83,7 @@ public:
                 command = current;
                 if (command.kind == 0) break;
             }
+            if (commands.size() == commands.capacity()) growList<24>(commands, at - begin, end - begin);
             PathDataCommand& added = commands.emplace_back();
             added.kind = command.kind;
             added.relative = command.relative;
@@ -143,19 +145,16 @@ private:
             at = behind;
             return {number, SLength::UserUnit};
         }
-        return readRun(takeRun());
+        SLength length;
+        AttributeTraits<SLength>::parse(length, takeRun()); // zero when it is none
+        return length;
     }
 
-    // One unit, so that flags need no separators.
+    // One unit, so that flags need no separators; of those, only digits are lengths.
     bool readFlag() {
         skipSeparators();
-        return !!readRun(takeRun(1));
-    }
-
-    static SLength readRun(std::u16string_view run) {
-        SLength length;
-        AttributeTraits<SLength>::parse(length, run); // zero when it is none
-        return length;
+        std::u16string_view const run = takeRun(1);
+        return !run.empty() && run[0] != u'0' && Core::isDigit(run[0]);
     }
 
     // The same answer as takeRun gives behind a digit that belongs to no exponent.

@@ -39,16 +39,15 @@ struct XMLATTR_API PathDataCommand {
 
 static_assert(sizeof(PathDataCommand) == 80);
 
-// The commands of SVG 1.1; a letter may be left out where the last one is repeated, which is a line
-// after "M". Coordinates are SVG lengths, so they may have units. Never refuses a text: a number that
-// is no length and one that is missing are 0. White space and commas may stand between any two things.
-// A letter that begins no number, where no letter has set the command (at the start or after "Z"),
-// and everything else that is no command there ends the data: what was read before it is kept.
-// The list is replaced. There is no printer.
+// The commands of SVG 1.1. White space and commas may stand between any two things. A letter may be
+// left out where it repeats the one before; behind "M" that is a line. Coordinates are SVG lengths,
+// so they may have units. Never refuses a text: a number that is missing or no length is 0. Where no
+// letter holds, at the start and behind "Z", a unit that is no letter of a command ends the data, and
+// what was read before it is kept. The list is replaced. There is no printer.
 //
-// Intended: the letters that end a number are those of the commands, but for "c" and "m" before an
-// "m" and "t" after a "p". The last "m" of "mm", "cm" and "em" therefore is a command: "10mm" at the
-// end of the text gives the number "10m" and a relative move to.
+// Intended: every letter of a command ends a number, but for "c" and "m" before an "m" and "t" behind
+// a "p". The last "m" of "mm", "cm" and "em" therefore begins a command: at the end of the text,
+// "10mm" is the number "10m" and a relative move.
 template <> struct AttributeTraits<Core::Vector<PathDataCommand>> {
     static bool parse(Core::Vector<PathDataCommand>& value, std::u16string_view text);
     static constexpr bool refusesComparison = true;

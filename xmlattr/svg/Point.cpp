@@ -1,8 +1,11 @@
 #include "xmlattr/svg/Point.h"
 
-#include "xmlattr/attributes/TextCursor.h"
 #include "xmlattr/core/Format.h"
 #include "xmlattr/core/NumberReader.h"
+#include "xmlattr/core/Text.h"
+#include "xmlattr/svg/ListGrowth.h"
+
+#include <algorithm>
 
 namespace Xml {
 
@@ -12,22 +15,25 @@ bool endsCoordinate(char16_t unit) {
     return unit == u',' || unit == u'-' || Core::isSpace(unit);
 }
 
-// Takes one coordinate; false when it is no SVG length. One that is a plain number, as nearly all
-// are, needs no second look: no unit of such a number ends it early, and the length reader takes a
-// text that ends with a digit as a number of user units.
-bool takeCoordinate(TextCursor& cursor, SLength& out) {
-    char16_t const *const begin = cursor.text.data(), *const end = begin + cursor.text.size();
+void skipSpace(char16_t const*& at, char16_t const* end) {
+    while (at != end && Core::isSpace(*at)) ++at;
+}
+
+// Reads the coordinate at `at` and moves behind it; false when it is no SVG length. A plain number,
+// as nearly all are, needs no second look: none of its units ends it early, and when the unit behind
+// it does, the whole is what the length reader takes as user units because it ends with a digit.
+bool readCoordinate(char16_t const*& at, char16_t const* end, SLength& out) {
     float number = 0;
-    char16_t const* const behind = Core::scanPlain(begin + cursor.index, end, number);
+    char16_t const* const behind = Core::scanPlain(at, end, number);
     if (behind && (behind == end || endsCoordinate(*behind))) {
-        cursor.index = static_cast<int>(behind - begin);
+        at = behind;
         out = SLength(number, SLength::UserUnit);
         return true;
     }
-    int const start = cursor.index;
-    cursor.take(u'-');
-    cursor.takeWhile([](char16_t unit) { return !endsCoordinate(unit); });
-    return AttributeTraits<SLength>::parse(out, cursor.since(start));
+    char16_t const* const start = at;
+    if (at != end && *at == u'-') ++at;
+    at = std::find_if(at, end, endsCoordinate);
+    return AttributeTraits<SLength>::parse(out, {start, static_cast<std::size_t>(at - start)});
 }
 
 } // namespace
@@ -42,15 +48,19 @@ Core::String Point::getPointListValueAsString(Core::Vector<Point> const& list) {
 
 bool AttributeTraits<Core::Vector<Point>>::parse(Core::Vector<Point>& value, std::u16string_view text) {
     Core::Vector<Point> points;
-    for (TextCursor cursor{text};; ++cursor.index) {
-        cursor.skipSpace();
+    char16_t const* at = text.data();
+    char16_t const *const begin = at, *const end = at + text.size();
+    while (at != end) {
+        skipSpace(at, end);
         Point point;
-        bool const hasX = takeCoordinate(cursor, point.x);
-        if (cursor.atEnd()) break;
-        cursor.take(u',');
-        cursor.skipSpace();
-        if (!takeCoordinate(cursor, point.y) || !hasX) return false;
+        bool const hasX = readCoordinate(at, end, point.x);
+        if (at == end) break;
+        if (*at == u',') ++at;
+        skipSpace(at, end);
+        if (!readCoordinate(at, end, point.y) || !hasX) return false;
+        if (points.size() == points.capacity()) growList<12>(points, at - begin, end - begin);
         points.push_back(point);
+        if (at != end) ++at;
     }
     value = std::move(points);
     return true;

@@ -15,10 +15,10 @@ struct XMLATTR_API Point {
     constexpr bool operator==(Point const&) const = default;
 
     // Pairs of SVG lengths. A length ends at white space, "," or a "-" that is not its first unit;
-    // between the two of a pair may stand white space and one "," before it. A lone length at the
-    // end is dropped. False when another length is bad or empty; then the list is untouched.
-    // Intended: exactly one unit behind each pair is skipped, whatever it is, so that
-    // "10,20-30,40" is (10, 20) and (30, 40) and a second "," makes an empty length.
+    // between the two of a pair may stand one "," and then white space. A first one with which the
+    // text ends is dropped. False when another one is bad or empty; then the list is untouched.
+    // Intended: exactly one unit behind each pair is skipped, whatever it is, and white space, so
+    // that "10,20-30,40" is (10, 20) and (30, 40) and a second "," leaves an empty length.
     static bool parsePointList(Core::Vector<Point>& list, Core::String const& text);
     // "x y" pairs with commas between them, in pixels. Throws UnreacheableCodeException for a length
     // whose unit is none.

@@ -1,9 +1,10 @@
 #include "xmlattr/svg/Transform.h"
 
-#include "xmlattr/attributes/TextCursor.h"
 #include "xmlattr/core/Exceptions.h"
 #include "xmlattr/core/Format.h"
 #include "xmlattr/core/NumberReader.h"
+#include "xmlattr/core/Text.h"
+#include "xmlattr/svg/ListGrowth.h"
 
 #include <algorithm>
 
@@ -24,51 +25,57 @@ constexpr Form forms[] = {
     {u"skewX", TransformType::SkewX, 1, 1},   {u"skewY", TransformType::SkewY, 1, 1},
 };
 
-// One argument. A plain number is the same whatever reads it; everything else goes to the reader
-// of what the argument stands for.
-class Argument {
-public:
-    static Argument take(TextCursor& cursor) {
-        auto const ends = [](char16_t unit) { return unit == u',' || unit == u')' || Core::isSpace(unit); };
-        Argument argument;
-        char16_t const *const begin = cursor.text.data(), *const end = begin + cursor.text.size();
-        char16_t const* const behind = Core::scanPlain(begin + cursor.index, end, argument.number);
-        argument.isPlain = behind && (behind == end || ends(*behind));
-        if (argument.isPlain)
-            cursor.index = static_cast<int>(behind - begin);
-        else
-            argument.token = cursor.takeWhile([&](char16_t unit) { return !ends(unit); });
-        return argument;
+// Whether the unit ends an argument.
+bool ends(char16_t unit) {
+    return unit == u',' || unit == u')' || Core::isSpace(unit);
+}
+
+// One argument, up to the unit that ends it. A plain number is the same whatever reads it, since it
+// ends with a digit; every other token goes to the reader of what it stands for.
+struct Argument {
+    char16_t const* begin;
+    char16_t const* end;
+    float number = 0;
+    bool isPlain;
+
+    // Takes the argument at `begin`.
+    Argument(char16_t const* begin, char16_t const* textEnd) : begin(begin) {
+        end = Core::scanPlain(begin, textEnd, number);
+        isPlain = end && (end == textEnd || ends(*end));
+        if (!isPlain) end = std::find_if(begin, textEnd, ends);
     }
 
+    std::u16string_view token() const { return {begin, static_cast<std::size_t>(end - begin)}; }
+
+    // False for what is no number as a whole.
     bool readWhole(double& out) const {
         float whole = number;
-        if (!isPlain && !Core::Format::parseFloat(token, whole)) return false;
+        if (!isPlain && !Core::Format::parseFloat(token(), whole)) return false;
         out = whole;
         return true;
     }
 
-    double readStart() const { return isPlain ? number : Core::Format::parseFloat(token); }
+    // The number at the start, 0 when there is none.
+    double readStart() const { return isPlain ? number : Core::Format::parseFloat(token()); }
 
+    // Zero for what is no length.
     SLength readLength() const {
         if (isPlain) return {number, SLength::UserUnit};
         SLength length;
-        AttributeTraits<SLength>::parse(length, token); // zero when it is none
+        AttributeTraits<SLength>::parse(length, token());
         return length;
     }
-
-private:
-    std::u16string_view token;
-    float number = 0;
-    bool isPlain = false;
 };
 
-// False for a bad number of a matrix.
+// Stores the argument with an index. False when it is bad.
 bool store(Transform& transform, int index, Argument const& argument) {
     switch (transform.type) {
     case TransformType::Matrix: return argument.readWhole(transform.matrix[index]);
     case TransformType::Translate: (index == 0 ? transform.tx : transform.ty) = argument.readLength(); return true;
-    case TransformType::Scale: (index == 0 ? transform.sx : transform.sy) = argument.readStart(); return true;
+    case TransformType::Scale:
+        transform.sy = argument.readStart(); // stands for both when it is alone
+        if (index == 0) transform.sx = transform.sy;
+        return true;
     case TransformType::Rotate:
         if (index == 0)
             transform.angle = argument.readStart();
@@ -81,23 +88,35 @@ bool store(Transform& transform, int index, Argument const& argument) {
     throw Core::UnreacheableCodeException("TransformListAttribute", __LINE__);
 }
 
-// Reads into an identity. False when the text is no transform; then `transform` may hold parts of it.
-bool read(Transform& transform, std::u16string_view text) {
-    TextCursor cursor{text};
-    cursor.skipSpace();
-    auto const keyword = cursor.takeWhile([](char16_t unit) { return !Core::isSpace(unit) && unit != u'('; });
-    auto const* const form = std::ranges::find(forms, keyword, &Form::keyword);
-    cursor.skipSpace();
-    if (form == std::end(forms) || !cursor.take(u'(')) return false;
+// Reads one transform into an identity and moves `at` no further than to its ")" when it stands in a
+// list, to the end when it stands alone. False when there is none; then `transform` may hold parts
+// of one.
+bool read(Transform& transform, char16_t const*& at, char16_t const* end, bool inList) {
+    auto const skipSpace = [&] {
+        while (at != end && Core::isSpace(*at)) ++at;
+    };
+    auto const atEnd = [&] { return at == end || (inList && *at == u')'); };
+
+    skipSpace();
+    std::u16string_view const rest(at, static_cast<std::size_t>(end - at));
+    auto const* const form =
+        std::ranges::find_if(forms, [&](Form const& row) { return rest.starts_with(row.keyword); });
+    if (form == std::end(forms)) return false;
+    at += form->keyword.size();
+    skipSpace();
+    if (at == end || *at != u'(') return false;
+    ++at;
 
     transform.type = form->type;
     int count = 0;
-    for (; !cursor.atEnd(); ++cursor.index) {
-        cursor.skipSpace();
-        if (cursor.atEnd() || count == form->most) return false;
-        if (!store(transform, count++, Argument::take(cursor))) return false;
+    while (!atEnd()) {
+        skipSpace();
+        if (atEnd() || count == form->most) return false;
+        Argument const argument(at, end);
+        if (!store(transform, count++, argument)) return false;
+        at = argument.end;
+        if (!atEnd()) ++at;
     }
-    if (form->type == TransformType::Scale && count == 1) transform.sy = transform.sx;
     return count >= form->least;
 }
 
@@ -117,18 +136,29 @@ bool Transform::operator==(Transform const& other) const {
 }
 
 Transform Transform::readTransform(Core::String const& text) {
+    std::u16string_view const units = text;
+    char16_t const* at = units.data();
     Transform transform;
-    return read(transform, text) ? transform : Transform();
+    return read(transform, at, at + units.size(), false) ? transform : Transform();
 }
 
 bool AttributeTraits<Core::Vector<Transform>>::parse(Core::Vector<Transform>& value, std::u16string_view text) {
-    auto const separates = [](char16_t unit) { return unit == u',' || Core::isSpace(unit); };
-    for (TextCursor cursor{text};;) {
-        cursor.takeWhile(separates);
-        auto const element = cursor.takeWhile([](char16_t unit) { return unit != u')'; });
-        if (!cursor.take(u')')) return true;
-        Transform& transform = value.emplace_back();
-        if (!read(transform, element)) transform = Transform();
+    char16_t const* at = text.data();
+    char16_t const *const begin = at, *const end = at + text.size();
+    for (;;) {
+        while (at != end && (*at == u',' || Core::isSpace(*at))) ++at;
+        if (at == end) return true;
+        if (value.size() == value.capacity()) growList<24>(value, at - begin, end - begin);
+        Transform& transform = value.emplace_back(SLength(), SLength());
+        if (!read(transform, at, end, true)) {
+            transform = Transform();
+            at = std::find(at, end, u')');
+        }
+        if (at == end) {
+            value.pop_back();
+            return true;
+        }
+        ++at;
     }
 }
 
