@@ -12,7 +12,8 @@ namespace {
 
 struct Function {
     std::string_view name;
-    int least, most;
+    int least, most;          // arguments
+    bool copiesValue = false; // from another property, whatever its kind
 };
 
 constexpr Function functions[] = {
@@ -20,14 +21,14 @@ constexpr Function functions[] = {
     {"body-start", 0, 0},
     {"ceiling", 1, 1},
     {"floor", 1, 1},
-    {"from-nearest-specified-value", 0, 1},
-    {"from-page-master-region", 0, 1},
-    {"from-parent", 0, 1},
-    {"from-table-column", 0, 1},
-    {"inherited-property-value", 0, 1},
+    {"from-nearest-specified-value", 0, 1, true},
+    {"from-page-master-region", 0, 1, true},
+    {"from-parent", 0, 1, true},
+    {"from-table-column", 0, 1, true},
+    {"inherited-property-value", 0, 1, true},
     {"label-end", 0, 0},
     {"max", 2, 2},
-    {"merge-property-values", 0, 1},
+    {"merge-property-values", 0, 1, true},
     {"min", 2, 2},
     {"proportional-column-width", 1, 1},
     {"rgb", 3, 3},
@@ -43,7 +44,7 @@ public:
     explicit Parser(std::u16string_view text) : text(text) {}
 
     bool whole() { return sum() && (skipBlanks(), index == text.size()) && isMoreThanValue; }
-    bool wholeCall() { return primary() && (skipBlanks(), index == text.size()) && callEnd == index; }
+    bool wholeCopy() { return primary() && (skipBlanks(), index == text.size()) && copyEnd == index; }
 
 private:
     static constexpr int maxDepth = 100;
@@ -134,7 +135,7 @@ private:
         }
         --depth;
         isMoreThanValue = true;
-        callEnd = index;
+        if (function->copiesValue) copyEnd = index;
         return arguments >= function->least && arguments <= function->most;
     }
 
@@ -174,7 +175,7 @@ private:
     }
 
     std::u16string_view text;
-    std::size_t index = 0, callEnd = 0;
+    std::size_t index = 0, copyEnd = 0;
     int depth = 0;
     bool isMoreThanValue = false;
 };
@@ -185,8 +186,8 @@ bool isExpression(std::u16string_view text) {
     return Parser(text).whole();
 }
 
-bool isCall(std::u16string_view text) {
-    return Parser(Core::trim(text)).wholeCall();
+bool isCopy(std::u16string_view text) {
+    return Parser(Core::trim(text)).wholeCopy();
 }
 
 } // namespace Command

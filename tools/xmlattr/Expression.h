@@ -10,7 +10,8 @@ namespace Command {
 // an operator, parentheses or a call of one of its functions with as many arguments as it takes.
 bool isExpression(std::u16string_view text);
 
-// Whether it is one call alone, like from-parent(break-before): what a keyword can come from.
-bool isCall(std::u16string_view text);
+// Whether it is one call alone that copies a value, like from-parent(break-before): what a keyword
+// can come from.
+bool isCopy(std::u16string_view text);
 
 } // namespace Command

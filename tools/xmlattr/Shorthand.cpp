@@ -40,6 +40,7 @@ constexpr Rule rules[] = {
     {"vertical-align", 1, "baseline-shift", "top text-top middle bottom text-bottom"},
 };
 
+constexpr Rule fontRule{"font", SIZE_MAX, "font-style font-variant font-weight font-size line-height", ""};
 constexpr std::string_view systemFonts = "caption icon menu message-box small-caption status-bar";
 
 bool isWordOf(std::string_view words, std::u16string_view text, bool ignoreCase) {
@@ -55,33 +56,22 @@ public:
         if (parts.size() > rule.mostParts)
             return {Verdict::Refused, {}, {}, "has more than " + std::to_string(rule.mostParts) + " parts"};
         for (std::u16string const& part : parts)
-            if (!isOneOf(rule.longhands, part) && !pass(isWordOf(rule.words, part, ignoresCase())))
-                return refusal(part);
+            if (!isOneOf(rule.longhands, part) && !isWordOf(rule.words, part, ignoresCase())) return refusal(part);
         return accepted();
     }
 
     // [style, variant and weight in any order] size[/line-height] family
     ShorthandVerdict font(std::vector<std::u16string> const& parts) {
-        if (parts.size() == 1 && isWordOf(systemFonts, parts[0], ignoresCase()))
-            return {Verdict::PassedOver, {}, {}, {}};
+        bool const isWhole = parts.size() == 1 && (isWordOf(systemFonts, parts[0], ignoresCase()) || isCopy(parts[0]));
+        if (isWhole) return {Verdict::PassedOver, {}, {}, {}};
         std::size_t i = 0;
         while (i < parts.size() && isOneOf("font-style font-variant font-weight", parts[i])) ++i;
         if (i == parts.size()) return {Verdict::Refused, {}, {}, "has no font size"};
-
-        std::u16string_view size = parts[i], height;
-        if (std::size_t const slash = size.find(u'/'); slash != size.npos) {
-            height = size.substr(slash + 1);
-            size = size.substr(0, slash);
+        if (!isOneOf("font-size", parts[i])) return refusal(parts[i]);
+        if (++i + 1 < parts.size() && parts[i] == u"/") {
+            if (!isOneOf("line-height", parts[i + 1])) return refusal(parts[i + 1]);
+            i += 2;
         }
-        bool const isOpen = parts[i].ends_with(u'/');
-        ++i;
-        if (height.empty() && i < parts.size() && (isOpen || parts[i].starts_with(u'/'))) {
-            height = std::u16string_view(parts[i]).substr(isOpen ? 0 : 1);
-            if (height.empty() && ++i < parts.size()) height = parts[i];
-            ++i;
-        }
-        if (!isOneOf("font-size", size)) return refusal(size);
-        if (!height.empty() && !isOneOf("line-height", height)) return refusal(height);
         if (i >= parts.size()) return {Verdict::Refused, {}, {}, "has no font family"};
         return accepted();
     }
@@ -89,41 +79,46 @@ public:
 private:
     bool ignoresCase() const { return entry.vocabulary == Xml::Vocabulary::Svg; }
 
-    bool pass(bool isLegal) {
-        hasPassed |= isLegal;
-        return isLegal;
-    }
-
+    // What a type reads is its value, though another property could take it for an expression.
     bool isOneOf(std::string_view longhands, std::u16string_view part) {
+        bool hasPassed = false;
         tried.clear();
-        bool isMissing = false;
         for (std::string_view const name : splitWords(longhands)) {
             Property const* const property = findProperty(entry.vocabulary, "*", name);
-            if (!property) return pass(true); // a property that this vocabulary does not have
+            if (!property) return true; // this vocabulary does not have it
             // A URL can be any text; among other values only these two forms are one.
             bool const isAnyText = property->entry->valueType == "Url" && longhands.find(' ') != longhands.npos;
             if (isAnyText && !part.starts_with(u"url(") && part != u"none") continue;
-            switch (property->judge(part)) {
-            case Verdict::Checked: return hasChecked = true;
-            case Verdict::PassedOver: return pass(true);
-            case Verdict::TypeMissing: isMissing = true; break;
-            case Verdict::Refused: tried.push_back(property->type); break;
-            }
+            Verdict const verdict = property->judge(part);
+            if (verdict == Verdict::Checked) return hasChecked = true;
+            hasPassed |= verdict == Verdict::PassedOver;
+            tried.push_back(property->type);
         }
-        hasMissing |= isMissing;
-        return isMissing;
+        return hasPassed;
     }
 
     ShorthandVerdict refusal(std::u16string_view part) const { return {Verdict::Refused, toUtf8(part), tried, {}}; }
 
-    ShorthandVerdict accepted() const {
-        return {hasChecked ? Verdict::Checked : hasMissing ? Verdict::TypeMissing : Verdict::PassedOver, {}, {}, {}};
-    }
+    ShorthandVerdict accepted() const { return {hasChecked ? Verdict::Checked : Verdict::PassedOver, {}, {}, {}}; }
 
     Xml::CatalogueEntry const& entry;
     std::vector<ValueType const*> tried;
-    bool hasChecked = false, hasPassed = false, hasMissing = false;
+    bool hasChecked = false;
 };
+
+bool hasTypes(Xml::CatalogueEntry const& entry, Rule const& rule) {
+    return std::ranges::all_of(splitWords(rule.longhands), [&](std::string_view name) {
+        Property const* const property = findProperty(entry.vocabulary, "*", name);
+        return !property || property->type;
+    });
+}
+
+// "12pt/14pt" as three parts.
+std::u16string spacedSlashes(std::u16string_view text) {
+    std::u16string spaced;
+    for (char16_t const unit : text) unit == u'/' ? spaced.append(u" / ") : spaced.append(1, unit);
+    return spaced;
+}
 
 bool isOperator(std::u16string_view part) {
     return part == u"+" || part == u"-" || part == u"*" || part == u"div" || part == u"mod";
@@ -145,17 +140,15 @@ std::vector<std::u16string> splitParts(std::u16string_view text) {
 }
 
 ShorthandVerdict judgeShorthand(Xml::CatalogueEntry const& entry, std::u16string_view text) {
-    text = Core::trim(text);
-    bool const isSvg = entry.vocabulary == Xml::Vocabulary::Svg;
-    if (equalsWord(text, "inherit", isSvg) ||
-        (!isSvg && isCall(text) && entry.attribute.find("color") == std::string_view::npos))
+    if (equalsWord(Core::trim(text), "inherit", entry.vocabulary == Xml::Vocabulary::Svg))
         return {Verdict::PassedOver, {}, {}, {}};
-    std::vector<std::u16string> const parts = splitParts(text);
+    bool const isFont = entry.attribute == fontRule.attribute;
+    Rule const* const rule = isFont ? &fontRule : std::ranges::find(rules, entry.attribute, &Rule::attribute);
+    if (rule == std::end(rules)) return {Verdict::TypeMissing, {}, {}, "no part that a value type reads"};
+    if (!hasTypes(entry, *rule)) return {Verdict::TypeMissing, {}, {}, {}};
+    std::vector<std::u16string> const parts = splitParts(isFont ? spacedSlashes(text) : std::u16string(text));
     if (parts.empty()) return {Verdict::Refused, {}, {}, "is empty"};
-    if (entry.attribute == "font") return Judge(entry).font(parts);
-    for (Rule const& rule : rules)
-        if (rule.attribute == entry.attribute) return Judge(entry).byRule(rule, parts);
-    return {Verdict::TypeMissing, {}, {}, "no part that a value type reads"};
+    return isFont ? Judge(entry).font(parts) : Judge(entry).byRule(*rule, parts);
 }
 
 } // namespace Command
