@@ -29,15 +29,20 @@ std::size_t editDistance(std::u16string_view a, std::u16string_view b) {
     return row.back();
 }
 
+std::u16string without(std::u16string_view text, std::u16string_view units) {
+    std::u16string rest(text);
+    std::erase_if(rest, [&](char16_t unit) { return units.find(unit) != units.npos; });
+    return rest;
+}
+
 // Texts that differ in what authors overlook: blanks, case, the decimal point, quotation marks, the unit.
 std::vector<std::u16string> variantsOf(std::u16string_view text) {
-    std::u16string const trimmed(Core::trim(text));
-    std::u16string lower = trimmed, solid, pointed = trimmed, bare = trimmed;
+    std::u16string const trimmed(Core::trim(text)), solid = without(trimmed, u" \t\n\r\u00A0");
+    std::u16string lower = trimmed, solidLower = solid, pointed = trimmed;
     std::ranges::transform(lower, lower.begin(), Core::toLower);
-    std::ranges::copy_if(lower, std::back_inserter(solid), [](char16_t unit) { return !Core::isSpace(unit); });
+    std::ranges::transform(solidLower, solidLower.begin(), Core::toLower);
     std::ranges::replace(pointed, u',', u'.');
-    std::erase_if(bare, [](char16_t unit) { return unit == u'"' || unit == u'\''; });
-    return {trimmed, lower, solid, pointed, bare, solid + u"pt"};
+    return {trimmed, solid, solidLower, lower, pointed, without(trimmed, u"\"'"), solidLower + u"pt"};
 }
 
 } // namespace

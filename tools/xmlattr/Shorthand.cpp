@@ -48,6 +48,11 @@ bool isWordOf(std::string_view words, std::u16string_view text, bool ignoreCase)
                                [&](std::string_view word) { return equalsWord(text, word, ignoreCase); });
 }
 
+// A number is a weight only in hundreds, else a size, though the type reads any as a weight.
+bool mayBeStyle(std::u16string_view part) {
+    return !Core::isDigit(part[0]) || (part.size() == 3 && part.ends_with(u"00"));
+}
+
 class Judge {
 public:
     explicit Judge(Xml::CatalogueEntry const& entry) : entry(entry) {}
@@ -65,7 +70,8 @@ public:
         bool const isWhole = parts.size() == 1 && (isWordOf(systemFonts, parts[0], ignoresCase()) || isCopy(parts[0]));
         if (isWhole) return {Verdict::PassedOver, {}, {}, {}};
         std::size_t i = 0;
-        while (i < parts.size() && isOneOf("font-style font-variant font-weight", parts[i])) ++i;
+        while (i < parts.size() && mayBeStyle(parts[i]) && isOneOf("font-style font-variant font-weight", parts[i]))
+            ++i;
         if (i == parts.size()) return {Verdict::Refused, {}, {}, "has no font size"};
         if (!isOneOf("font-size", parts[i])) return refusal(parts[i]);
         if (++i + 1 < parts.size() && parts[i] == u"/") {

@@ -1,0 +1,217 @@
+// Runs the command as its users do.
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <sys/wait.h>
+
+namespace {
+
+using namespace std::string_literals;
+
+std::string const scratch =
+    (std::filesystem::path(testing::TempDir()) / ("xmlattr" + std::to_string(getpid()))).string();
+
+struct Result {
+    std::string output, errors;
+    int code;
+};
+
+std::string contentOf(std::string const& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::string write(std::string const& name, std::string const& content) {
+    std::filesystem::create_directories(scratch);
+    std::string const path = scratch + "/" + name;
+    std::ofstream(path, std::ios::binary) << content;
+    return path;
+}
+
+Result run(std::string const& arguments) {
+    std::string const errors = write("errors", "");
+    std::FILE* const pipe = popen((XMLATTR_COMMAND " "s + arguments + " 2>" + errors).c_str(), "r");
+    Result result{};
+    std::array<char, 4096> buffer;
+    while (std::size_t const count = std::fread(buffer.data(), 1, buffer.size(), pipe))
+        result.output.append(buffer.data(), count);
+    int const status = pclose(pipe);
+    result.code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    result.errors = contentOf(errors);
+    return result;
+}
+
+// The places of the findings, "line:column" each.
+std::string placesIn(std::string const& output, std::string const& file) {
+    std::string places;
+    for (std::size_t at = output.find(file); at != output.npos; at = output.find(file, at + 1)) {
+        std::size_t const first = at + file.size() + 1;
+        places += output.substr(first, output.find(": error: ", first) - first) + " ";
+    }
+    return places;
+}
+
+TEST(Command, RefusesNothingInSoundDocuments) {
+    for (std::string const& name : {"letter.fo"s, "invoice.fo"s, "drawing.svg"s}) {
+        Result const result = run("check " XMLATTR_SAMPLES "/" + name);
+        EXPECT_EQ(result.output, "") << name;
+        EXPECT_EQ(result.code, 0) << name;
+    }
+}
+
+TEST(Command, FindsEachPlantedFault) {
+    Result const result = run("check " XMLATTR_SAMPLES "/faults.fo");
+    EXPECT_EQ(result.code, 1);
+    EXPECT_EQ(placesIn(result.output, "faults.fo"),
+              "9:17 10:17 11:17 12:17 13:17 14:17 15:17 16:40 19:11 20:17 21:17 22:17 23:17 24:17 26:27 ");
+    for (std::string const& message :
+         {"space-before=\"12 q\" on fo:block is no Length [bad-value]"s,
+          "rule-thickness=\"1PT\" on fo:block is no Length; \"1pt\" is [bad-value]"s,
+          "font-weight=\"bald\" on fo:block is no FontWeight; accepted: normal, "s,
+          "did you mean \"bold\"? [bad-value]"s,
+          "border=\"1q solid red\" on fo:block: \"1q\" is no BorderWidth, BorderStyle or "s,
+          "padding=\"1pt 2pt 3pt 4pt 5pt\" on fo:block has more than 4 parts [bad-value]"s,
+          "stroke-width=\"broad\" on svg is no SLength [bad-value]"s})
+        EXPECT_NE(result.output.find(message), std::string::npos) << message;
+    EXPECT_NE(result.errors.find(" 15 refused"), std::string::npos) << result.errors;
+    EXPECT_EQ(run("check -q --max-findings 2 " XMLATTR_SAMPLES "/faults.fo | wc -l").output, "2\n");
+}
+
+TEST(Command, SpeaksJson) {
+    std::string const file = write("one.fo", "<b xmlns='http://www.w3.org/1999/XSL/Format' break-before='pages'/>");
+    Result const result = run("check --format json " + file);
+    EXPECT_EQ(
+        result.output,
+        "{\"file\":\"" + file +
+            "\",\"line\":1,\"column\":46,\"severity\":\"error\",\"id\":\"bad-value\",\"element\":\"b\","
+            "\"attribute\":\"break-before\",\"text\":\"pages\",\"types\":[\"Break\"],\"message\":"
+            "\"break-before=\\\"pages\\\" on b is no Break; accepted: auto, column, page, even-page and odd-page; "
+            "did you mean \\\"page\\\"?\",\"accepted\":[\"auto\",\"column\",\"page\",\"even-page\",\"odd-page\"],"
+            "\"nearest\":\"page\"}\n");
+    EXPECT_NE(result.errors.find("\"refused\":1"), std::string::npos);
+}
+
+TEST(Command, ReadsFiveEncodings) {
+    auto const utf16 = [](std::string const& text, bool isBig) {
+        std::string bytes = isBig ? "\xFE\xFF" : "\xFF\xFE";
+        for (char const c : text) bytes += isBig ? std::string{'\0', c} : std::string{c, '\0'};
+        return bytes;
+    };
+    std::string const element = "<svg xmlns='http://www.w3.org/2000/svg' id='";
+    std::string const fault = "' stroke-width='a'/>";
+    auto const declared = [](std::string const& name) { return "<?xml version='1.0' encoding='" + name + "'?>\n"; };
+    struct Row {
+        char const* name;
+        std::string content;
+    };
+    for (Row const& row :
+         {Row{"utf8", element + "\xC3\xA9" + fault}, Row{"bom", "\xEF\xBB\xBF\n" + element + "x" + fault},
+          Row{"latin1", declared("ISO-8859-1") + element + "\xE9" + fault},
+          Row{"1252", declared("Windows-1252") + element + "\x80" + fault},
+          Row{"big", utf16(declared("UTF-16") + element + "x" + fault, true)},
+          Row{"little", utf16(declared("UTF-16") + element + "x" + fault, false)}}) {
+        std::string const name = row.name + ".svg"s;
+        Result const result = run("check -q " + write(name, row.content));
+        EXPECT_EQ(placesIn(result.output, name), row.name == "utf8"s ? "1:48 " : "2:48 ") << row.name;
+        EXPECT_EQ(result.code, 1) << row.name;
+    }
+}
+
+TEST(Command, ReportsWhatItCannotReadAndGoesOn) {
+    std::string bomb = "<!DOCTYPE a [<!ENTITY e0 'ha'>";
+    for (int i = 1; i < 12; ++i) {
+        std::string const before = "&e" + std::to_string(i - 1) + ";";
+        bomb += "<!ENTITY e" + std::to_string(i) + " '";
+        for (int n = 0; n < 10; ++n) bomb += before;
+        bomb += "'>";
+    }
+    std::string deep;
+    for (int i = 0; i < 10'001; ++i) deep += "<a>";
+    struct Row {
+        char const* name;
+        std::string content;
+        char const* message;
+    };
+    std::string const sound = write("sound.fo", "<b xmlns='http://www.w3.org/1999/XSL/Format' span='al'/>");
+    for (Row const& row :
+         {Row{"empty", "", ":1:1: error: no element in the file [malformed]"},
+          Row{"cut", "<a>\n<b", ":2:1: error: the file ends too early: unclosed token [malformed]"},
+          Row{"open", "<a>\n", ":2:1: error: the file ends inside of an element [malformed]"},
+          Row{"text", "plain", ":1:1: error: no well-formed XML: syntax error [malformed]"},
+          Row{"twice", "<a b='' b=''/>", ":1:9: error: no well-formed XML: duplicate attribute [malformed]"},
+          Row{"utf8", "<a b='\xC3('/>", ":1:7: error: no well-formed XML: not well-formed (invalid token) [malformed]"},
+          Row{"nul", "<a b='"s + '\0' + "'/>",
+              ":1:7: error: no well-formed XML: not well-formed (invalid token) [malformed]"},
+          Row{"sjis", "<?xml version='1.0' encoding='Shift_JIS'?><a/>",
+              ":1:31: error: encoding Shift_JIS is not read; UTF-8, "},
+          Row{"bomb", bomb + "]><a>&e11;</a>",
+              ":1:653: error: entities expand to more than 100 times the size of the file [limit]"},
+          Row{"deep", deep, ":1:30001: error: elements nest more than 10000 deep [limit]"}}) {
+        Result const result = run("check " + write(row.name, row.content) + " " + sound);
+        EXPECT_NE(result.errors.find("/"s + row.name + row.message), std::string::npos)
+            << row.name << ": " << result.errors;
+        EXPECT_NE(result.output.find("sound.fo:1:46: "), std::string::npos) << "the files behind it are still read";
+        EXPECT_EQ(result.code, 2) << row.name;
+    }
+    std::filesystem::create_directory(scratch + "/bare");
+    for (std::string const& path : {"/nowhere.fo"s, "/bare"s})
+        EXPECT_EQ(run("check " + scratch + path).code, 2) << path;
+}
+
+TEST(Command, LoadsNoExternalEntity) {
+    std::string const secret = write("secret.txt", "1pt");
+    std::string const file =
+        write("external.svg", "<!DOCTYPE svg SYSTEM '" + secret + "' [<!ENTITY e SYSTEM '" + secret +
+                                  "'>]><svg xmlns='http://www.w3.org/2000/svg'>&e;</svg>");
+    EXPECT_EQ(run("check " + file).code, 0);
+}
+
+TEST(Command, GathersFiles) {
+    std::filesystem::remove_all(scratch);
+    std::filesystem::create_directories(scratch + "/tree/below");
+    std::string const fault = "<b xmlns='http://www.w3.org/1999/XSL/Format' span='al'/>";
+    for (char const* const name : {"tree/b.fo", "tree/a.SVG", "tree/below/c.xml", "tree/d.txt"}) write(name, fault);
+    Result const result = run("check -q " + scratch + "/tree");
+    EXPECT_EQ(placesIn(result.output, ""s + "/tree/a.SVG") + placesIn(result.output, "/b.fo") +
+                  placesIn(result.output, "/c.xml") + placesIn(result.output, "/d.txt"),
+              "1:46 1:46 1:46 ");
+    EXPECT_EQ(run("check - --stdin-name in.fo <" + scratch + "/tree/b.fo").output.find("in.fo:1:46: "), 0u);
+    std::string const list = write("list", scratch + "/tree/b.fo\r\n\n");
+    EXPECT_NE(run("check --files-from " + list).errors.find("1 file: 1 attribute;"), std::string::npos);
+}
+
+TEST(Command, ShowsListsAndExplains) {
+    struct Row {
+        char const *arguments, *output;
+        int code;
+    };
+    for (Row const& row :
+         {Row{"show Length 12pc --equal 12pc", "equal       \"12pc\": yes\n", 0},
+          Row{"show length -5pt", "prints      \"-5pt\"\n", 0},
+          Row{"show Length 12", "near        \"12pt\" is accepted\n", 1}, Row{"show Lenght 1pt", "", 2},
+          Row{"show Length", "", 2}, Row{"show --format json Break page", "\"prints\":\"page\"", 0},
+          Row{"types Break", "Break                           auto, column, page, even-page or odd-page\n", 0},
+          Row{"types --format json", "{\"type\":\"int\",\"public\":false,", 0}, Row{"types nonsense", "", 2},
+          Row{"properties --vocabulary svg --type Core::String", "svg  *       font-family ", 0},
+          Row{"properties margin-top --format json", "\"valueType\":\"Margin\",\"alsoLegal\":\"auto\"", 0},
+          Row{"properties nonsense", "", 2}, Row{"--explain bad-value", "bad-value\n\n", 0}, Row{"--explain x", "", 2},
+          Row{"check", "", 2}, Row{"frobnicate", "", 2}, Row{"--version", "xmlattr ", 0}}) {
+        Result const result = run(row.arguments);
+        EXPECT_NE(result.output.find(row.output), std::string::npos) << row.arguments << ": " << result.output;
+        EXPECT_EQ(result.code, row.code) << row.arguments;
+    }
+}
+
+TEST(Command, EndsCleanlyWhenNobodyReads) {
+    Result const closed = run("properties >&-");
+    EXPECT_EQ(closed.code, 2);
+    EXPECT_NE(closed.errors.find("standard output"), std::string::npos);
+    EXPECT_EQ(run("properties | head -n 1 >/dev/null").errors, "");
+}
+
+} // namespace

@@ -1,0 +1,45 @@
+#include "RawTag.h"
+
+#include <gtest/gtest.h>
+
+namespace Command {
+
+inline void PrintTo(Place const& place, std::ostream* out) {
+    *out << place.line << ':' << place.column;
+}
+
+namespace {
+
+TEST(RawTag, NumbersAttributesWithoutNamespaces) {
+    RawTag tag(U"<fo:b xmlns:fo = 'x'\n  a=\"1 > 2\"\r\n\tb = '/'\rc='é' xmlns='y' d=''/>", {7, 5});
+    EXPECT_EQ(tag.elementName(), "fo:b");
+    EXPECT_EQ(tag.attribute(0), (Place{8, 3}));
+    EXPECT_EQ(tag.attribute(1), (Place{9, 2})) << "a tab is one column, CR LF one line";
+    EXPECT_EQ(tag.attribute(2), (Place{10, 1})) << "so is a lone CR";
+    EXPECT_EQ(tag.attribute(3), (Place{10, 17})) << "columns are code points";
+    EXPECT_EQ(tag.attribute(4), (Place{7, 5})) << "an attribute by default is where its tag is";
+    EXPECT_EQ(RawTag(U"&entity;", {3, 4}).attribute(0), (Place{3, 4}));
+}
+
+TEST(RawTag, FindsOffsetsInTheValue) {
+    RawTag tag(U"<a s='&lt;&#233;é\U0001F600\r\nz&own;y'/>", {1, 1});
+    struct Row {
+        std::size_t offset;
+        Place place;
+    };
+    // The value is "<éé", a letter of four bytes, a blank, "z" and what the entity holds.
+    for (Row const& row : {Row{0, {1, 7}}, Row{1, {1, 11}}, Row{3, {1, 17}}, Row{5, {1, 18}}, Row{9, {1, 19}},
+                           Row{10, {2, 1}}, Row{11, {2, 2}}, Row{12, {1, 4}}, Row{3, {1, 17}}})
+        EXPECT_EQ(tag.inValue(0, row.offset), row.place) << row.offset;
+}
+
+TEST(RawTag, DecodesEachEncoding) {
+    using namespace std::string_view_literals;
+    EXPECT_EQ(decode("<\xC3\xA9\xF0\x9F\x98\x80", ByteEncoding::Utf8), U"<é\U0001F600");
+    EXPECT_EQ(decode("\0<\xD8\x3D\xDE\0"sv, ByteEncoding::Utf16Big), U"<\U0001F600");
+    EXPECT_EQ(decode("<\0\x3D\xD8\0\xDE"sv, ByteEncoding::Utf16Little), U"<\U0001F600");
+    EXPECT_EQ(decode("<\xE9", ByteEncoding::SingleByte), U"<é");
+}
+
+} // namespace
+} // namespace Command
