@@ -67,7 +67,7 @@ TEST(Expression, IsMoreThanAValue) {
 TEST(Shorthand, SplitsBetweenBlanksAndKeepsExpressions) {
     struct Row {
         char16_t const* text;
-        std::vector<std::u16string> parts;
+        std::vector<std::u16string_view> parts;
     };
     for (Row const& row : {Row{u" 1pt  solid rgb(1, 2, 3)", {u"1pt", u"solid", u"rgb(1, 2, 3)"}},
                            Row{u"3mm + 1mm 3mm", {u"3mm + 1mm", u"3mm"}}, Row{u"1 div 2 mod 3", {u"1 div 2 mod 3"}},

@@ -6,6 +6,8 @@
 
 #include "xmlattr/core/String.h"
 
+#include <algorithm>
+
 namespace Command {
 
 namespace {
@@ -74,7 +76,7 @@ void Checker::checkTyped(Occurrence const& occurrence, Property const& property)
     case Verdict::TypeMissing: ++counts.typeMissing; return;
     case Verdict::Refused: break;
     }
-    // CSS has no case; the value types, which read attributes, have.
+    // The value types read attributes, which have a case.
     if (occurrence.isDeclaration && property.judge(Core::String(text).toLower()) != Verdict::Refused) {
         ++counts.passedOver;
         return;
@@ -109,7 +111,9 @@ void Checker::checkShorthand(Occurrence const& occurrence, Property const& prope
 void Checker::checkStyle(Occurrence const& occurrence) {
     for (Declaration const& declaration : splitStyle(occurrence.value)) {
         ++counts.declarations;
-        std::string const name = Core::String::fromUtf8(declaration.property).toLower().toUtf8();
+        std::string name(declaration.property); // CSS has no case
+        std::ranges::transform(name, name.begin(),
+                               [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c; });
         check({occurrence.tag, occurrence.vocabulary, occurrence.element, occurrence.number, name, declaration.value,
                declaration.offset, true});
     }

@@ -24,7 +24,7 @@ Verdict Property::judge(std::u16string_view text) const {
     bool const isFo = entry->vocabulary == Xml::Vocabulary::Fo;
     if (equalsWord(text, "inherit", !isFo)) return Verdict::PassedOver;
     if (isAlsoLegal(*entry, text, type->accepts)) return Verdict::PassedOver;
-    if (isFo && (type->keywords().empty() ? isExpression(text) : isCopy(text))) return Verdict::PassedOver;
+    if (isFo && (type->isEnumeration ? isCopy(text) : isExpression(text))) return Verdict::PassedOver;
     if (isList(type->name) && type->accepts(text)) return Verdict::PassedOver;
     return Verdict::Refused;
 }

@@ -6,6 +6,8 @@
 #include "xmlattr/core/Text.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <iterator>
 
 namespace Command {
 
@@ -40,12 +42,45 @@ constexpr Rule rules[] = {
     {"vertical-align", 1, "baseline-shift", "top text-top middle bottom text-bottom"},
 };
 
-constexpr Rule fontRule{"font", SIZE_MAX, "font-style font-variant font-weight font-size line-height", ""};
+constexpr Rule fontRule{"font", SIZE_MAX, "font-style font-variant font-weight", ""};
 constexpr std::string_view systemFonts = "caption icon menu message-box small-caption status-bar";
 
-bool isWordOf(std::string_view words, std::u16string_view text, bool ignoreCase) {
-    return std::ranges::any_of(splitWords(words),
-                               [&](std::string_view word) { return equalsWord(text, word, ignoreCase); });
+using Longhands = std::vector<Property const*>;
+
+// A rule for one vocabulary, with what it names looked up.
+struct Shorthand {
+    Xml::CatalogueEntry const* entry;
+    Rule const* rule; // null when no value type reads a part
+    Longhands longhands;
+    std::vector<std::string_view> words;
+    Longhands size, height; // of a font
+};
+
+Longhands longhandsOf(Xml::CatalogueEntry const& entry, std::string_view names) {
+    Longhands longhands;
+    for (std::string_view const name : splitWords(names))
+        if (Property const* const property = findProperty(entry.vocabulary, "*", name)) longhands.push_back(property);
+    return longhands;
+}
+
+Shorthand const& shorthandOf(Xml::CatalogueEntry const& entry) {
+    static std::vector<Shorthand> const shorthands = [] {
+        std::vector<Shorthand> all;
+        for (Xml::CatalogueEntry const& row : Xml::Catalogue::entries()) {
+            if (row.kind != Xml::AttributeKind::Shorthand) continue;
+            Shorthand& added = all.emplace_back(&row, nullptr, Longhands(), std::vector<std::string_view>(),
+                                                longhandsOf(row, "font-size"), longhandsOf(row, "line-height"));
+            auto const* const rule = row.attribute == fontRule.attribute
+                                         ? &fontRule
+                                         : std::ranges::find(rules, row.attribute, &Rule::attribute);
+            if (rule == std::end(rules)) continue;
+            added.rule = rule;
+            added.longhands = longhandsOf(row, rule->longhands);
+            added.words = splitWords(rule == &fontRule ? systemFonts : rule->words);
+        }
+        return all;
+    }();
+    return *std::ranges::find(shorthands, &entry, &Shorthand::entry);
 }
 
 // A number is a weight only in hundreds, else a size, though the type reads any as a weight.
@@ -55,27 +90,26 @@ bool mayBeStyle(std::u16string_view part) {
 
 class Judge {
 public:
-    explicit Judge(Xml::CatalogueEntry const& entry) : entry(entry) {}
+    explicit Judge(Shorthand const& shorthand) : shorthand(shorthand) {}
 
-    ShorthandVerdict byRule(Rule const& rule, std::vector<std::u16string> const& parts) {
-        if (parts.size() > rule.mostParts)
-            return {Verdict::Refused, {}, {}, "has more than " + std::to_string(rule.mostParts) + " parts"};
-        for (std::u16string const& part : parts)
-            if (!isOneOf(rule.longhands, part) && !isWordOf(rule.words, part, ignoresCase())) return refusal(part);
+    ShorthandVerdict byRule(std::vector<std::u16string_view> const& parts) {
+        if (parts.size() > shorthand.rule->mostParts)
+            return {Verdict::Refused, {}, {}, "has more than " + std::to_string(shorthand.rule->mostParts) + " parts"};
+        for (std::u16string_view const part : parts)
+            if (!isOneOf(shorthand.longhands, part) && !isWord(part)) return refusal(part);
         return accepted();
     }
 
     // [style, variant and weight in any order] size[/line-height] family
-    ShorthandVerdict font(std::vector<std::u16string> const& parts) {
-        bool const isWhole = parts.size() == 1 && (isWordOf(systemFonts, parts[0], ignoresCase()) || isCopy(parts[0]));
-        if (isWhole) return {Verdict::PassedOver, {}, {}, {}};
+    ShorthandVerdict font(std::vector<std::u16string_view> const& parts) {
+        if (parts.size() == 1 && (isWord(parts[0]) || isCopy(parts[0]))) return {Verdict::PassedOver, {}, {}, {}};
         std::size_t i = 0;
-        while (i < parts.size() && mayBeStyle(parts[i]) && isOneOf("font-style font-variant font-weight", parts[i]))
-            ++i;
+        while (i < parts.size() && mayBeStyle(parts[i]) && isOneOf(shorthand.longhands, parts[i])) ++i;
         if (i == parts.size()) return {Verdict::Refused, {}, {}, "has no font size"};
-        if (!isOneOf("font-size", parts[i])) return refusal(parts[i]);
+        if (!isOneOf(shorthand.size, parts[i])) return refusal(parts[i]);
         if (++i + 1 < parts.size() && parts[i] == u"/") {
-            if (!isOneOf("line-height", parts[i + 1])) return refusal(parts[i + 1]);
+            bool const isHeight = shorthand.height.empty() || isOneOf(shorthand.height, parts[i + 1]);
+            if (!isHeight) return refusal(parts[i + 1]);
             i += 2;
         }
         if (i >= parts.size()) return {Verdict::Refused, {}, {}, "has no font family"};
@@ -83,17 +117,19 @@ public:
     }
 
 private:
-    bool ignoresCase() const { return entry.vocabulary == Xml::Vocabulary::Svg; }
+    bool isWord(std::u16string_view part) const {
+        bool const ignoresCase = shorthand.entry->vocabulary == Xml::Vocabulary::Svg;
+        return std::ranges::any_of(shorthand.words,
+                                   [&](std::string_view word) { return equalsWord(part, word, ignoresCase); });
+    }
 
     // What a type reads is its value, though another property could take it for an expression.
-    bool isOneOf(std::string_view longhands, std::u16string_view part) {
+    bool isOneOf(Longhands const& longhands, std::u16string_view part) {
         bool hasPassed = false;
         tried.clear();
-        for (std::string_view const name : splitWords(longhands)) {
-            Property const* const property = findProperty(entry.vocabulary, "*", name);
-            if (!property) return true; // this vocabulary does not have it
+        for (Property const* const property : longhands) {
             // A URL can be any text; among other values only these two forms are one.
-            bool const isAnyText = property->entry->valueType == "Url" && longhands.find(' ') != longhands.npos;
+            bool const isAnyText = property->entry->valueType == "Url" && longhands.size() > 1;
             if (isAnyText && !part.starts_with(u"url(") && part != u"none") continue;
             Verdict const verdict = property->judge(part);
             if (verdict == Verdict::Checked) return hasChecked = true;
@@ -107,17 +143,10 @@ private:
 
     ShorthandVerdict accepted() const { return {hasChecked ? Verdict::Checked : Verdict::PassedOver, {}, {}, {}}; }
 
-    Xml::CatalogueEntry const& entry;
+    Shorthand const& shorthand;
     std::vector<ValueType const*> tried;
     bool hasChecked = false;
 };
-
-bool hasTypes(Xml::CatalogueEntry const& entry, Rule const& rule) {
-    return std::ranges::all_of(splitWords(rule.longhands), [&](std::string_view name) {
-        Property const* const property = findProperty(entry.vocabulary, "*", name);
-        return !property || property->type;
-    });
-}
 
 // "12pt/14pt" as three parts.
 std::u16string spacedSlashes(std::u16string_view text) {
@@ -132,14 +161,14 @@ bool isOperator(std::u16string_view part) {
 
 } // namespace
 
-std::vector<std::u16string> splitParts(std::u16string_view text) {
-    std::vector<std::u16string> parts;
+std::vector<std::u16string_view> splitParts(std::u16string_view text) {
+    std::vector<std::u16string_view> parts;
     bool joins = false;
     for (std::u16string_view const value : splitValues(text)) {
         if (!parts.empty() && (joins || isOperator(value)))
-            parts.back().append(u" ").append(value);
+            parts.back() = {parts.back().data(), value.data() + value.size()};
         else
-            parts.emplace_back(value);
+            parts.push_back(value);
         joins = isOperator(value);
     }
     return parts;
@@ -148,13 +177,13 @@ std::vector<std::u16string> splitParts(std::u16string_view text) {
 ShorthandVerdict judgeShorthand(Xml::CatalogueEntry const& entry, std::u16string_view text) {
     if (equalsWord(Core::trim(text), "inherit", entry.vocabulary == Xml::Vocabulary::Svg))
         return {Verdict::PassedOver, {}, {}, {}};
-    bool const isFont = entry.attribute == fontRule.attribute;
-    Rule const* const rule = isFont ? &fontRule : std::ranges::find(rules, entry.attribute, &Rule::attribute);
-    if (rule == std::end(rules)) return {Verdict::TypeMissing, {}, {}, "no part that a value type reads"};
-    if (!hasTypes(entry, *rule)) return {Verdict::TypeMissing, {}, {}, {}};
-    std::vector<std::u16string> const parts = splitParts(isFont ? spacedSlashes(text) : std::u16string(text));
+    Shorthand const& shorthand = shorthandOf(entry);
+    if (!shorthand.rule) return {Verdict::TypeMissing, {}, {}, "no part that a value type reads"};
+    bool const isFont = shorthand.rule == &fontRule;
+    std::u16string const spaced = isFont ? spacedSlashes(text) : std::u16string();
+    auto const parts = splitParts(isFont ? spaced : text);
     if (parts.empty()) return {Verdict::Refused, {}, {}, "is empty"};
-    return isFont ? Judge(entry).font(parts) : Judge(entry).byRule(*rule, parts);
+    return isFont ? Judge(shorthand).font(parts) : Judge(shorthand).byRule(parts);
 }
 
 } // namespace Command

@@ -10,7 +10,7 @@
 namespace Command {
 
 // What became of a shorthand: Checked when a value type read one part at least, TypeMissing when
-// none was there to.
+// there is none for any part.
 struct ShorthandVerdict {
     Verdict verdict;
     // Of a refusal: the part, and the types none of which reads it. No types: the whole is wrong,
@@ -20,8 +20,8 @@ struct ShorthandVerdict {
     std::string problem;
 };
 
-// The parts of a value: what stands between blanks, expressions of XSL-FO kept whole.
-std::vector<std::u16string> splitParts(std::u16string_view text);
+// The parts of a value, slices of it: what stands between blanks, expressions of XSL-FO kept whole.
+std::vector<std::u16string_view> splitParts(std::u16string_view text);
 
 ShorthandVerdict judgeShorthand(Xml::CatalogueEntry const& entry, std::u16string_view text);
 

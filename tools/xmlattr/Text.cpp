@@ -10,14 +10,13 @@ namespace Command {
 
 void toUtf16(std::string_view utf8, std::u16string& out) {
     out.resize(utf8.size());
+    unsigned all = 0; // whether all is ASCII is asked once, so that the loop is a plain copy
     for (std::size_t i = 0; i < utf8.size(); ++i) {
         auto const byte = static_cast<unsigned char>(utf8[i]);
-        if (byte >= 0x80) {
-            out = std::u16string_view(Core::String::fromUtf8(utf8));
-            return;
-        }
+        all |= byte;
         out[i] = byte;
     }
+    if (all >= 0x80) out = std::u16string_view(Core::String::fromUtf8(utf8));
 }
 
 std::u16string toUtf16(std::string_view utf8) {

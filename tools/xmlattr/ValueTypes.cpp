@@ -36,15 +36,17 @@ template <class T> std::vector<std::u16string_view> keywordsOf() {
     return words;
 }
 
+template <class T> constexpr ValueType typeOf(std::string_view name, bool isPublic) {
+    return {name, isPublic, Xml::KeywordEnumeration<T>, acceptsText<T>, showText<T>, keywordsOf<T>};
+}
+
 } // namespace
 
 std::span<ValueType const> valueTypes() {
     using namespace Xml;
     static constexpr ValueType types[] = {
-#define XMLATTR_PUBLIC_VALUE(...)                                                                                      \
-    {#__VA_ARGS__, true, acceptsText<__VA_ARGS__>, showText<__VA_ARGS__>, keywordsOf<__VA_ARGS__>},
-#define XMLATTR_INTERNAL_VALUE(...)                                                                                    \
-    {#__VA_ARGS__, false, acceptsText<__VA_ARGS__>, showText<__VA_ARGS__>, keywordsOf<__VA_ARGS__>},
+#define XMLATTR_PUBLIC_VALUE(...) typeOf<__VA_ARGS__>(#__VA_ARGS__, true),
+#define XMLATTR_INTERNAL_VALUE(...) typeOf<__VA_ARGS__>(#__VA_ARGS__, false),
 #include "xmlattr/ValueTypes.inc"
     };
     return types;

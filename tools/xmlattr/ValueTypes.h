@@ -27,7 +27,7 @@ struct Shown {
 
 struct ValueType {
     std::string_view name; // as ValueTypes.inc writes it
-    bool isPublic;
+    bool isPublic, isEnumeration;
     bool (*accepts)(std::u16string_view text);
     Shown (*show)(Core::String const& text, Core::String const* other);
     // The keywords of an enumeration; empty for every other type.
