@@ -3,149 +3,165 @@
 
 namespace Xml {
 
-constinit const TXmlAttribute<AFPEncoding> DefaultAFPEncoding(AFPEncoding::Ascii);
-constinit const TXmlAttribute<AFPPrinterLayout> DefaultAFPPrinterLayout(AFPPrinterLayout::Portrait90);
-constinit const TXmlAttribute<AbsolutePosition> DefaultAbsolutePosition(AbsolutePosition::Auto);
-constinit const TXmlAttribute<AlignmentBaseline> DefaultAlignmentBaseline(AlignmentBaseline::Auto);
-constinit const TXmlAttribute<AlignmentConstraint> DefaultAlignmentConstraintAttribute(AlignmentConstraint::None);
-constinit const TXmlAttribute<AnchorX> DefaultAnchorXAttribute(AnchorX::Auto);
-constinit const TXmlAttribute<AnchorY> DefaultAnchorYAttribute(AnchorY::Auto);
-constinit const TXmlAttribute<AxisDataType> DefaultAxisDataType(AxisDataType::Auto);
-constinit const TXmlAttribute<AxisIntersection> DefaultAxisIntersection(AxisIntersection::Auto);
-constinit const TXmlAttribute<AxisOrientation> DefaultAxisOrientation(AxisOrientation::Auto);
-constinit const TXmlAttribute<AxisPosition> DefaultAxisPosition(AxisPosition::Left);
-constinit const TXmlAttribute<AxisDataType> DefaultAxisStringDataType(AxisDataType::String);
-constinit const TXmlAttribute<BackgroundRepeat> DefaultBackgroundRepeat(BackgroundRepeat::Repeat);
-constinit const TXmlAttribute<BarShapeType> DefaultBarShapeType(BarShapeType::Bar);
-constinit const TXmlAttribute<BarcodeType> DefaultBarcodeType(BarcodeType::Auto);
-constinit const TXmlAttribute<BarcodeValueType> DefaultBarcodeValueType(BarcodeValueType::Text);
-constinit const TXmlAttribute<BlankOrNotBlank> DefaultBlankOrNotBlank(BlankOrNotBlank::Any);
-constinit const TXmlAttribute<BookmarkStartingState> DefaultBookmarkStartingState(BookmarkStartingState::Show);
-constinit const TXmlAttribute<BorderCollapse> DefaultBorderCollapse(BorderCollapse::Collapse);
-constinit const TXmlAttribute<BorderConditionality> DefaultBorderConditionality(BorderConditionality::Discard);
-constinit const TXmlAttribute<BorderStyle> DefaultBorderStyle(BorderStyle::None);
-constinit const TXmlAttribute<Break> DefaultBreak(Break::Auto);
-constinit const TXmlAttribute<CaptionPlacement> DefaultCaptionPlacement(CaptionPlacement::Auto);
-constinit const TXmlAttribute<ChartStyle> DefaultChartStyle(ChartStyle::Clustered);
-constinit const TXmlAttribute<ChartTheme> DefaultChartTheme(ChartTheme::Style31);
-constinit const TXmlAttribute<ChartType> DefaultChartType(ChartType::Bar);
-constinit const TXmlAttribute<Clear> DefaultClearAttribute(Clear::None);
-constinit const TXmlAttribute<Code128CodeSet> DefaultCode128CodeSet(Code128CodeSet::CodeSetB);
-constinit const TXmlAttribute<CommandBehaviorType> DefaultCommandBehaviorTypeAttribute(CommandBehaviorType::SchemaOnly);
-constinit const TXmlAttribute<CsvEncodingType> DefaultCsvEncodingTypeAttribute(CsvEncodingType::Auto);
-constinit const TXmlAttribute<OrbelDocumentOutputType> DefaultOrbelDocumentOutputTypeAttribute(OrbelDocumentOutputType::Xml);
-constinit const TXmlAttribute<DBParamScope> DefaultDBParamScopeAttribute(DBParamScope::In);
-constinit const TXmlAttribute<DMEncoding> DefaultDMEncoding(DMEncoding::Auto);
-constinit const TXmlAttribute<DMFormat> DefaultDMFormat(DMFormat::Auto);
-constinit const TXmlAttribute<DimensionType> DefaultDimensionTypeAttribute(DimensionType::String);
-constinit const TXmlAttribute<DisplayAlign> DefaultDisplayAlign(DisplayAlign::Before);
-constinit const TXmlAttribute<DisplayStrategyConstraint> DefaultDisplayStrategyAttribute(DisplayStrategyConstraint::OncePerPage);
-constinit const TXmlAttribute<DisplayValOrientation> DefaultDisplayValOrientation(DisplayValOrientation::Horizontal);
-constinit const TXmlAttribute<DisplayValPlacement> DefaultDisplayValPlacement(DisplayValPlacement::Auto);
-constinit const TXmlAttribute<DominantBaseline> DefaultDominantBaseline(DominantBaseline::Auto);
-constinit const TXmlAttribute<LightingScheme> DefaultFOLightingSchemeAttribute(LightingScheme::Artwork);
-constinit const TXmlAttribute<Visibility> DefaultFOVisibilityAttribute(Visibility::Visible);
-constinit const TXmlAttribute<Drawing::FillMode> DefaultFillModeAttribute(Drawing::FillMode::NonZero);
-constinit const TXmlAttribute<FloatPosition> DefaultFloatPositionAttribute(FloatPosition::Left);
-constinit const TXmlAttribute<FontSelectionStrategy> DefaultFontSelectionStrategy(FontSelectionStrategy::Auto);
-constinit const TXmlAttribute<FontStyle> DefaultFontStyle(FontStyle::Normal);
-constinit const TXmlAttribute<FontVariant> DefaultFontVariant(FontVariant::Normal);
-constinit const TXmlAttribute<FontWeight> DefaultFontWeight(FontWeight::Normal);
-constinit const TXmlAttribute<FootnoteRestartRule> DefaultFootnoteRestartRule(FootnoteRestartRule::Auto);
-constinit const TXmlAttribute<FormActionType> DefaultFormActionTypeAttribute(FormActionType::Unset);
-constinit const TXmlAttribute<FormCheckStyle> DefaultFormCheckStyleAttribute(FormCheckStyle::Check);
-constinit const TXmlAttribute<BorderStyle> DefaultFormControlBorderStyle(BorderStyle::Solid);
-constinit const TXmlAttribute<FormControlStyle> DefaultFormControlStyleAttribute(FormControlStyle::Default);
-constinit const TXmlAttribute<FormControlType> DefaultFormControlTypeAttribute(FormControlType::Unset); // Intended: a number without a keyword
-constinit const TXmlAttribute<FormTriggerAction> DefaultFormTriggerActionAttribute(FormTriggerAction::Unset);
-constinit const TXmlAttribute<GridlineType> DefaultGridlineType(GridlineType::Major);
-constinit const TXmlAttribute<JavaScriptType> DefaultJavaScriptTypeAttribute(JavaScriptType::All);
-constinit const TXmlAttribute<JoinFunctionType> DefaultJoinFunctionTypeAttribute(JoinFunctionType::Inner);
-constinit const TXmlAttribute<Keep> DefaultKeep(Keep::Auto);
-constinit const TXmlAttribute<LabelsPosition> DefaultLabelsPosition(LabelsPosition::Exclusive);
-constinit const TXmlAttribute<LeaderAlignment> DefaultLeaderAlignment(LeaderAlignment::None);
-constinit const TXmlAttribute<LeaderPattern> DefaultLeaderPattern(LeaderPattern::Space);
-constinit const TXmlAttribute<BorderStyle> DefaultLeaderRuleStyle(BorderStyle::Solid);
-constinit const TXmlAttribute<MarkerType> DefaultLegendMarkerType(MarkerType::Square);
-constinit const TXmlAttribute<LegendPlacement> DefaultLegendPlacement(LegendPlacement::Custom);
-constinit const TXmlAttribute<LineHeightShiftAdjustment> DefaultLineHeightShiftAdjustment(LineHeightShiftAdjustment::ConsiderShifts);
-constinit const TXmlAttribute<LineStackingStrategy> DefaultLineStackingStrategy(LineStackingStrategy::MaxHeight);
-constinit const TXmlAttribute<LinefeedTreatment> DefaultLinefeedTreatmentAttribute(LinefeedTreatment::TreatAsSpace);
-constinit const TXmlAttribute<LegendPlacement> DefaultManagedChartPosition(LegendPlacement::Right);
-constinit const TXmlAttribute<PositionX> DefaultManagedHPositionAttribute(PositionX::Center);
-constinit const TXmlAttribute<Visibility> DefaultManagedVisibilityAttribute(Visibility::Visible);
-constinit const TXmlAttribute<MarginaliaDestinationArea> DefaultMarginaliaDestinationArea(MarginaliaDestinationArea::Start);
-constinit const TXmlAttribute<MarginaliaRelativeAlign> DefaultMarginaliaRelativeAlign(MarginaliaRelativeAlign::Before);
-constinit const TXmlAttribute<MarkerType> DefaultMarkerType(MarkerType::Unset);
-constinit const TXmlAttribute<MarkupType> DefaultMarkupTypeAttribute(MarkupType::FormatText);
-constinit const TXmlAttribute<MaxicodeModes> DefaultMaxicodeMode(MaxicodeModes::StandardSymbol);
-constinit const TXmlAttribute<OriginalInputFormat> DefaultOriginalInputFormatAttribute(OriginalInputFormat::Fo);
-constinit const TXmlAttribute<Overflow> DefaultOverflow(Overflow::Visible);
-constinit const TXmlAttribute<PDFConformance> DefaultPDFConformance(PDFConformance::Default);
-constinit const TXmlAttribute<PageAnnotationContext> DefaultPageAnnotationContextAttribute(PageAnnotationContext::Page);
-constinit const TXmlAttribute<PageConstraint> DefaultPageConstraintAttribute(PageConstraint::Any);
-constinit const TXmlAttribute<PagePosition> DefaultPagePosition(PagePosition::Any);
-constinit const TXmlAttribute<PageRegionConstraint> DefaultPageRegionConstraintAttribute(PageRegionConstraint::None);
-constinit const TXmlAttribute<Parity> DefaultParity(Parity::Any);
-constinit const TXmlAttribute<PieShapeType> DefaultPieShapeType(PieShapeType::Pie);
-constinit const TXmlAttribute<PlayMediaObject> DefaultPlayMediaObject(PlayMediaObject::OnClick);
-constinit const TXmlAttribute<PositionX> DefaultPositionXAttribute(PositionX::Auto);
-constinit const TXmlAttribute<PositionY> DefaultPositionYAttribute(PositionY::Auto);
-constinit const TXmlAttribute<ProtectionObject> DefaultProtectionObject(ProtectionObject::PdfOutput);
-constinit const TXmlAttribute<QRECL> DefaultQRECLAttribute(QRECL::LevelL);
-constinit const TXmlAttribute<ReferenceOrientation> DefaultReferenceOrientation(ReferenceOrientation::Degrees0);
-constinit const TXmlAttribute<RelativePosition> DefaultRelativePosition(RelativePosition::Static);
-constinit const TXmlAttribute<RetrieveBoundary> DefaultRetrieveBoundary(RetrieveBoundary::PageSequence);
-constinit const TXmlAttribute<RetrieveBoundaryWithinTable> DefaultRetrieveBoundaryWithinTable(RetrieveBoundaryWithinTable::Table);
-constinit const TXmlAttribute<RetrievePosition> DefaultRetrievePosition(RetrievePosition::FirstStartingWithinPage);
-constinit const TXmlAttribute<RetrievePositionWithinTable> DefaultRetrievePositionWithinTable(RetrievePositionWithinTable::FirstStarting);
-constinit const TXmlAttribute<SDisplay> DefaultSDisplay(SDisplay::Inline);
-constinit const TXmlAttribute<Drawing::GradientSpreadMethod> DefaultSGradientSpreadMethod(Drawing::GradientSpreadMethod::Repeat);
-constinit const TXmlAttribute<Drawing::GradientUnits> DefaultSGradientUnits(Drawing::GradientUnits::ObjectBoundingBox);
-constinit const TXmlAttribute<SLineCap> DefaultSLineCap(SLineCap::Butt);
-constinit const TXmlAttribute<SLineJoin> DefaultSLineJoin(SLineJoin::Miter);
-constinit const TXmlAttribute<STextAnchor> DefaultSTextAnchor(STextAnchor::Start);
-constinit const TXmlAttribute<SVGEObjectType> DefaultSVGEObjectType(SVGEObjectType::Other); // Intended: what an unknown object leaves
-constinit const TXmlAttribute<SVisibility> DefaultSVisibility(SVisibility::Visible);
-constinit const TXmlAttribute<Scaling> DefaultScaling(Scaling::Uniform);
-constinit const TXmlAttribute<ScalingReference> DefaultScalingReferenceAttribute(ScalingReference::Line);
-constinit const TXmlAttribute<ScriptType> DefaultScriptTypeAttribute(ScriptType::Other); // Intended: what an unknown script leaves
-constinit const TXmlAttribute<SearchWhiteSpaceConstraint> DefaultSearchWhiteSpaceStrategyAttribute(SearchWhiteSpaceConstraint::Empty);
-constinit const TXmlAttribute<SerieGrouping> DefaultSerieGrouping(SerieGrouping::Overlapped);
-constinit const TXmlAttribute<SliceOrientation> DefaultSliceOrientation(SliceOrientation::CounterClockwise);
-constinit const TXmlAttribute<SortTypes> DefaultSortAttribute(SortTypes::None);
-constinit const TXmlAttribute<Span> DefaultSpanAttribute(Span::None);
-constinit const TXmlAttribute<SqlCommandExecType> DefaultSqlCommandExecTypeAttribute(SqlCommandExecType::Transaction);
-constinit const TXmlAttribute<Core::IO::SqlQueryParamType> DefaultSqlQueryParamTypeAttribute(Core::IO::SqlQueryParamType::Numeric);
-constinit const TXmlAttribute<TTFEmbedMode> DefaultTTFEmbedMode(TTFEmbedMode::Subset);
-constinit const TXmlAttribute<TabPattern> DefaultTabPattern(TabPattern::None);
-constinit const TXmlAttribute<TabStopType> DefaultTabStopType(TabStopType::Left);
-constinit const TXmlAttribute<TableLayout> DefaultTableLayout(TableLayout::Auto);
-constinit const TXmlAttribute<TextDirection> DefaultTextDirection(TextDirection::Ltr);
-constinit const TXmlAttribute<TextEncoding> DefaultTextEncoding(TextEncoding::Latin1);
-constinit const TXmlAttribute<TextLineStyle> DefaultTextLineStyle(TextLineStyle::None);
-constinit const TXmlAttribute<TextTransform> DefaultTextTransform(TextTransform::None);
-constinit const TXmlAttribute<ThreeState> DefaultThreeStateBoolAttribute(ThreeState::Other); // Intended: neither on nor off
-constinit const TXmlAttribute<TickMarkStyle> DefaultTickMarkStyle(TickMarkStyle::Outside);
-constinit const TXmlAttribute<TickMarkType> DefaultTickMarkType(TickMarkType::Major);
-constinit const TXmlAttribute<ValueCoertionDest> DefaultValueCoertionDestAttribute(ValueCoertionDest::EmptyString);
-constinit const TXmlAttribute<ValueCoertionSource> DefaultValueCoertionSourceAttribute(ValueCoertionSource::EmptyString);
-constinit const TXmlAttribute<Core::Variant::VariantType> DefaultVariantTypeAttribute(Core::Variant::VariantType::IntegerValue);
-constinit const TXmlAttribute<WSBindingStyle> DefaultWSBindingStyleTypeAttribute(WSBindingStyle::None);
-constinit const TXmlAttribute<WSOperationUsage> DefaultWSOperationUsageTypeAttribute(WSOperationUsage::None);
-constinit const TXmlAttribute<WSProtocol> DefaultWSProtocolTypeAttribute(WSProtocol::None);
-constinit const TXmlAttribute<WhiteSpaceTreatment> DefaultWhiteSpaceTreatmentAttribute(WhiteSpaceTreatment::IgnoreIfSurroundingLinefeed);
-constinit const TXmlAttribute<Wrap> DefaultWrap(Wrap::Inline);
-constinit const TXmlAttribute<WrapOption> DefaultWrapOptionAttribute(WrapOption::Wrap);
+constinit TXmlAttribute<AFPEncoding> const DefaultAFPEncoding(AFPEncoding::Ascii);
+constinit TXmlAttribute<AFPPrinterLayout> const DefaultAFPPrinterLayout(AFPPrinterLayout::Portrait90);
+constinit TXmlAttribute<AbsolutePosition> const DefaultAbsolutePosition(AbsolutePosition::Auto);
+constinit TXmlAttribute<AlignmentBaseline> const DefaultAlignmentBaseline(AlignmentBaseline::Auto);
+constinit TXmlAttribute<AlignmentConstraint> const DefaultAlignmentConstraintAttribute(AlignmentConstraint::None);
+constinit TXmlAttribute<AnchorX> const DefaultAnchorXAttribute(AnchorX::Auto);
+constinit TXmlAttribute<AnchorY> const DefaultAnchorYAttribute(AnchorY::Auto);
+constinit TXmlAttribute<AxisDataType> const DefaultAxisDataType(AxisDataType::Auto);
+constinit TXmlAttribute<AxisIntersection> const DefaultAxisIntersection(AxisIntersection::Auto);
+constinit TXmlAttribute<AxisOrientation> const DefaultAxisOrientation(AxisOrientation::Auto);
+constinit TXmlAttribute<AxisPosition> const DefaultAxisPosition(AxisPosition::Left);
+constinit TXmlAttribute<AxisDataType> const DefaultAxisStringDataType(AxisDataType::String);
+constinit TXmlAttribute<BackgroundRepeat> const DefaultBackgroundRepeat(BackgroundRepeat::Repeat);
+constinit TXmlAttribute<BarShapeType> const DefaultBarShapeType(BarShapeType::Bar);
+constinit TXmlAttribute<BarcodeType> const DefaultBarcodeType(BarcodeType::Auto);
+constinit TXmlAttribute<BarcodeValueType> const DefaultBarcodeValueType(BarcodeValueType::Text);
+constinit TXmlAttribute<BlankOrNotBlank> const DefaultBlankOrNotBlank(BlankOrNotBlank::Any);
+constinit TXmlAttribute<BookmarkStartingState> const DefaultBookmarkStartingState(BookmarkStartingState::Show);
+constinit TXmlAttribute<BorderCollapse> const DefaultBorderCollapse(BorderCollapse::Collapse);
+constinit TXmlAttribute<BorderConditionality> const DefaultBorderConditionality(BorderConditionality::Discard);
+constinit TXmlAttribute<BorderStyle> const DefaultBorderStyle(BorderStyle::None);
+constinit TXmlAttribute<Break> const DefaultBreak(Break::Auto);
+constinit TXmlAttribute<CaptionPlacement> const DefaultCaptionPlacement(CaptionPlacement::Auto);
+constinit TXmlAttribute<ChartStyle> const DefaultChartStyle(ChartStyle::Clustered);
+constinit TXmlAttribute<ChartTheme> const DefaultChartTheme(ChartTheme::Style31);
+constinit TXmlAttribute<ChartType> const DefaultChartType(ChartType::Bar);
+constinit TXmlAttribute<Clear> const DefaultClearAttribute(Clear::None);
+constinit TXmlAttribute<Code128CodeSet> const DefaultCode128CodeSet(Code128CodeSet::CodeSetB);
+constinit TXmlAttribute<CommandBehaviorType> const DefaultCommandBehaviorTypeAttribute(CommandBehaviorType::SchemaOnly);
+constinit TXmlAttribute<CsvEncodingType> const DefaultCsvEncodingTypeAttribute(CsvEncodingType::Auto);
+constinit TXmlAttribute<OrbelDocumentOutputType> const
+    DefaultOrbelDocumentOutputTypeAttribute(OrbelDocumentOutputType::Xml);
+constinit TXmlAttribute<DBParamScope> const DefaultDBParamScopeAttribute(DBParamScope::In);
+constinit TXmlAttribute<DMEncoding> const DefaultDMEncoding(DMEncoding::Auto);
+constinit TXmlAttribute<DMFormat> const DefaultDMFormat(DMFormat::Auto);
+constinit TXmlAttribute<DimensionType> const DefaultDimensionTypeAttribute(DimensionType::String);
+constinit TXmlAttribute<DisplayAlign> const DefaultDisplayAlign(DisplayAlign::Before);
+constinit TXmlAttribute<DisplayStrategyConstraint> const
+    DefaultDisplayStrategyAttribute(DisplayStrategyConstraint::OncePerPage);
+constinit TXmlAttribute<DisplayValOrientation> const DefaultDisplayValOrientation(DisplayValOrientation::Horizontal);
+constinit TXmlAttribute<DisplayValPlacement> const DefaultDisplayValPlacement(DisplayValPlacement::Auto);
+constinit TXmlAttribute<DominantBaseline> const DefaultDominantBaseline(DominantBaseline::Auto);
+constinit TXmlAttribute<LightingScheme> const DefaultFOLightingSchemeAttribute(LightingScheme::Artwork);
+constinit TXmlAttribute<Visibility> const DefaultFOVisibilityAttribute(Visibility::Visible);
+constinit TXmlAttribute<Drawing::FillMode> const DefaultFillModeAttribute(Drawing::FillMode::NonZero);
+constinit TXmlAttribute<FloatPosition> const DefaultFloatPositionAttribute(FloatPosition::Left);
+constinit TXmlAttribute<FontSelectionStrategy> const DefaultFontSelectionStrategy(FontSelectionStrategy::Auto);
+constinit TXmlAttribute<FontStyle> const DefaultFontStyle(FontStyle::Normal);
+constinit TXmlAttribute<FontVariant> const DefaultFontVariant(FontVariant::Normal);
+constinit TXmlAttribute<FontWeight> const DefaultFontWeight(FontWeight::Normal);
+constinit TXmlAttribute<FootnoteRestartRule> const DefaultFootnoteRestartRule(FootnoteRestartRule::Auto);
+constinit TXmlAttribute<FormActionType> const DefaultFormActionTypeAttribute(FormActionType::Unset);
+constinit TXmlAttribute<FormCheckStyle> const DefaultFormCheckStyleAttribute(FormCheckStyle::Check);
+constinit TXmlAttribute<BorderStyle> const DefaultFormControlBorderStyle(BorderStyle::Solid);
+constinit TXmlAttribute<FormControlStyle> const DefaultFormControlStyleAttribute(FormControlStyle::Default);
+constinit TXmlAttribute<FormControlType> const
+    DefaultFormControlTypeAttribute(FormControlType::Unset); // Intended: a number without a keyword
+constinit TXmlAttribute<FormTriggerAction> const DefaultFormTriggerActionAttribute(FormTriggerAction::Unset);
+constinit TXmlAttribute<GridlineType> const DefaultGridlineType(GridlineType::Major);
+constinit TXmlAttribute<JavaScriptType> const DefaultJavaScriptTypeAttribute(JavaScriptType::All);
+constinit TXmlAttribute<JoinFunctionType> const DefaultJoinFunctionTypeAttribute(JoinFunctionType::Inner);
+constinit TXmlAttribute<Keep> const DefaultKeep(Keep::Auto);
+constinit TXmlAttribute<LabelsPosition> const DefaultLabelsPosition(LabelsPosition::Exclusive);
+constinit TXmlAttribute<LeaderAlignment> const DefaultLeaderAlignment(LeaderAlignment::None);
+constinit TXmlAttribute<LeaderPattern> const DefaultLeaderPattern(LeaderPattern::Space);
+constinit TXmlAttribute<BorderStyle> const DefaultLeaderRuleStyle(BorderStyle::Solid);
+constinit TXmlAttribute<MarkerType> const DefaultLegendMarkerType(MarkerType::Square);
+constinit TXmlAttribute<LegendPlacement> const DefaultLegendPlacement(LegendPlacement::Custom);
+constinit TXmlAttribute<LineHeightShiftAdjustment> const
+    DefaultLineHeightShiftAdjustment(LineHeightShiftAdjustment::ConsiderShifts);
+constinit TXmlAttribute<LineStackingStrategy> const DefaultLineStackingStrategy(LineStackingStrategy::MaxHeight);
+constinit TXmlAttribute<LinefeedTreatment> const DefaultLinefeedTreatmentAttribute(LinefeedTreatment::TreatAsSpace);
+constinit TXmlAttribute<LegendPlacement> const DefaultManagedChartPosition(LegendPlacement::Right);
+constinit TXmlAttribute<PositionX> const DefaultManagedHPositionAttribute(PositionX::Center);
+constinit TXmlAttribute<Visibility> const DefaultManagedVisibilityAttribute(Visibility::Visible);
+constinit TXmlAttribute<MarginaliaDestinationArea> const
+    DefaultMarginaliaDestinationArea(MarginaliaDestinationArea::Start);
+constinit TXmlAttribute<MarginaliaRelativeAlign> const DefaultMarginaliaRelativeAlign(MarginaliaRelativeAlign::Before);
+constinit TXmlAttribute<MarkerType> const DefaultMarkerType(MarkerType::Unset);
+constinit TXmlAttribute<MarkupType> const DefaultMarkupTypeAttribute(MarkupType::FormatText);
+constinit TXmlAttribute<MaxicodeModes> const DefaultMaxicodeMode(MaxicodeModes::StandardSymbol);
+constinit TXmlAttribute<OriginalInputFormat> const DefaultOriginalInputFormatAttribute(OriginalInputFormat::Fo);
+constinit TXmlAttribute<Overflow> const DefaultOverflow(Overflow::Visible);
+constinit TXmlAttribute<PDFConformance> const DefaultPDFConformance(PDFConformance::Default);
+constinit TXmlAttribute<PageAnnotationContext> const DefaultPageAnnotationContextAttribute(PageAnnotationContext::Page);
+constinit TXmlAttribute<PageConstraint> const DefaultPageConstraintAttribute(PageConstraint::Any);
+constinit TXmlAttribute<PagePosition> const DefaultPagePosition(PagePosition::Any);
+constinit TXmlAttribute<PageRegionConstraint> const DefaultPageRegionConstraintAttribute(PageRegionConstraint::None);
+constinit TXmlAttribute<Parity> const DefaultParity(Parity::Any);
+constinit TXmlAttribute<PieShapeType> const DefaultPieShapeType(PieShapeType::Pie);
+constinit TXmlAttribute<PlayMediaObject> const DefaultPlayMediaObject(PlayMediaObject::OnClick);
+constinit TXmlAttribute<PositionX> const DefaultPositionXAttribute(PositionX::Auto);
+constinit TXmlAttribute<PositionY> const DefaultPositionYAttribute(PositionY::Auto);
+constinit TXmlAttribute<ProtectionObject> const DefaultProtectionObject(ProtectionObject::PdfOutput);
+constinit TXmlAttribute<QRECL> const DefaultQRECLAttribute(QRECL::LevelL);
+constinit TXmlAttribute<ReferenceOrientation> const DefaultReferenceOrientation(ReferenceOrientation::Degrees0);
+constinit TXmlAttribute<RelativePosition> const DefaultRelativePosition(RelativePosition::Static);
+constinit TXmlAttribute<RetrieveBoundary> const DefaultRetrieveBoundary(RetrieveBoundary::PageSequence);
+constinit TXmlAttribute<RetrieveBoundaryWithinTable> const
+    DefaultRetrieveBoundaryWithinTable(RetrieveBoundaryWithinTable::Table);
+constinit TXmlAttribute<RetrievePosition> const DefaultRetrievePosition(RetrievePosition::FirstStartingWithinPage);
+constinit TXmlAttribute<RetrievePositionWithinTable> const
+    DefaultRetrievePositionWithinTable(RetrievePositionWithinTable::FirstStarting);
+constinit TXmlAttribute<SDisplay> const DefaultSDisplay(SDisplay::Inline);
+constinit TXmlAttribute<Drawing::GradientSpreadMethod> const
+    DefaultSGradientSpreadMethod(Drawing::GradientSpreadMethod::Repeat);
+constinit TXmlAttribute<Drawing::GradientUnits> const DefaultSGradientUnits(Drawing::GradientUnits::ObjectBoundingBox);
+constinit TXmlAttribute<SLineCap> const DefaultSLineCap(SLineCap::Butt);
+constinit TXmlAttribute<SLineJoin> const DefaultSLineJoin(SLineJoin::Miter);
+constinit TXmlAttribute<STextAnchor> const DefaultSTextAnchor(STextAnchor::Start);
+constinit TXmlAttribute<SVGEObjectType> const
+    DefaultSVGEObjectType(SVGEObjectType::Other); // Intended: what an unknown object leaves
+constinit TXmlAttribute<SVisibility> const DefaultSVisibility(SVisibility::Visible);
+constinit TXmlAttribute<Scaling> const DefaultScaling(Scaling::Uniform);
+constinit TXmlAttribute<ScalingReference> const DefaultScalingReferenceAttribute(ScalingReference::Line);
+constinit TXmlAttribute<ScriptType> const
+    DefaultScriptTypeAttribute(ScriptType::Other); // Intended: what an unknown script leaves
+constinit TXmlAttribute<SearchWhiteSpaceConstraint> const
+    DefaultSearchWhiteSpaceStrategyAttribute(SearchWhiteSpaceConstraint::Empty);
+constinit TXmlAttribute<SerieGrouping> const DefaultSerieGrouping(SerieGrouping::Overlapped);
+constinit TXmlAttribute<SliceOrientation> const DefaultSliceOrientation(SliceOrientation::CounterClockwise);
+constinit TXmlAttribute<SortTypes> const DefaultSortAttribute(SortTypes::None);
+constinit TXmlAttribute<Span> const DefaultSpanAttribute(Span::None);
+constinit TXmlAttribute<SqlCommandExecType> const DefaultSqlCommandExecTypeAttribute(SqlCommandExecType::Transaction);
+constinit TXmlAttribute<Core::IO::SqlQueryParamType> const
+    DefaultSqlQueryParamTypeAttribute(Core::IO::SqlQueryParamType::Numeric);
+constinit TXmlAttribute<TTFEmbedMode> const DefaultTTFEmbedMode(TTFEmbedMode::Subset);
+constinit TXmlAttribute<TabPattern> const DefaultTabPattern(TabPattern::None);
+constinit TXmlAttribute<TabStopType> const DefaultTabStopType(TabStopType::Left);
+constinit TXmlAttribute<TableLayout> const DefaultTableLayout(TableLayout::Auto);
+constinit TXmlAttribute<TextDirection> const DefaultTextDirection(TextDirection::Ltr);
+constinit TXmlAttribute<TextEncoding> const DefaultTextEncoding(TextEncoding::Latin1);
+constinit TXmlAttribute<TextLineStyle> const DefaultTextLineStyle(TextLineStyle::None);
+constinit TXmlAttribute<TextTransform> const DefaultTextTransform(TextTransform::None);
+constinit TXmlAttribute<ThreeState> const
+    DefaultThreeStateBoolAttribute(ThreeState::Other); // Intended: neither on nor off
+constinit TXmlAttribute<TickMarkStyle> const DefaultTickMarkStyle(TickMarkStyle::Outside);
+constinit TXmlAttribute<TickMarkType> const DefaultTickMarkType(TickMarkType::Major);
+constinit TXmlAttribute<ValueCoertionDest> const DefaultValueCoertionDestAttribute(ValueCoertionDest::EmptyString);
+constinit TXmlAttribute<ValueCoertionSource> const
+    DefaultValueCoertionSourceAttribute(ValueCoertionSource::EmptyString);
+constinit TXmlAttribute<Core::Variant::VariantType> const
+    DefaultVariantTypeAttribute(Core::Variant::VariantType::IntegerValue);
+constinit TXmlAttribute<WSBindingStyle> const DefaultWSBindingStyleTypeAttribute(WSBindingStyle::None);
+constinit TXmlAttribute<WSOperationUsage> const DefaultWSOperationUsageTypeAttribute(WSOperationUsage::None);
+constinit TXmlAttribute<WSProtocol> const DefaultWSProtocolTypeAttribute(WSProtocol::None);
+constinit TXmlAttribute<WhiteSpaceTreatment> const
+    DefaultWhiteSpaceTreatmentAttribute(WhiteSpaceTreatment::IgnoreIfSurroundingLinefeed);
+constinit TXmlAttribute<Wrap> const DefaultWrap(Wrap::Inline);
+constinit TXmlAttribute<WrapOption> const DefaultWrapOptionAttribute(WrapOption::Wrap);
 
-constinit const TXmlAttribute<float> DefaultAspect3DShading(0.75f);
-constinit const TXmlAttribute<int> DefaultBarColumnCount(1);
-constinit const TXmlAttribute<int> DefaultBarRowCount(3);
-constinit const TXmlAttribute<int> DefaultColumnCount(1);
-constinit const TXmlAttribute<int> DefaultDotSize(4);
-constinit const TXmlAttribute<int> DefaultHyphenationCharCount(2);
-constinit const TXmlAttribute<float> DefaultMaxFloat(2147483648.0f);
-constinit const TXmlAttribute<float> DefaultMinFloat(-2147483648.0f);
-constinit const TXmlAttribute<int> DefaultWidowsAndOrphans(2);
+constinit TXmlAttribute<float> const DefaultAspect3DShading(0.75f);
+constinit TXmlAttribute<int> const DefaultBarColumnCount(1);
+constinit TXmlAttribute<int> const DefaultBarRowCount(3);
+constinit TXmlAttribute<int> const DefaultColumnCount(1);
+constinit TXmlAttribute<int> const DefaultDotSize(4);
+constinit TXmlAttribute<int> const DefaultHyphenationCharCount(2);
+constinit TXmlAttribute<float> const DefaultMaxFloat(2147483648.0f);
+constinit TXmlAttribute<float> const DefaultMinFloat(-2147483648.0f);
+constinit TXmlAttribute<int> const DefaultWidowsAndOrphans(2);
 
 } // namespace Xml

@@ -17,38 +17,39 @@ FontSize configuredFontSize() {
 
 } // namespace
 
-const TXmlAttribute<AxisSource> DefaultAxisSourceAttribute;
-const TXmlAttribute<BoxShadow> DefaultBoxShadow;
-const TXmlAttribute<Core::String> DefaultFontFamily(Core::Application::getStringConfigValue(u"DefaultFontFamily", u"Times"));
-const TXmlAttribute<Core::String> DefaultHyphenationCharacter(Core::String(u"\u2010"));
-const TXmlAttribute<Core::String> DefaultManagedFontFamily(Core::String(u"Segoe UI"));
-const TXmlAttribute<Core::String> DefaultNumberFormat(Core::String(u"1"));
-const TXmlAttribute<Core::Vector<PathDataCommand>> DefaultPathData;
-const TXmlAttribute<Core::Vector<Point>> DefaultPointList;
-const TXmlAttribute<Core::Vector<SLength>> DefaultSDashPattern;
-const TXmlAttribute<Core::Vector<Transform>> DefaultTransformList;
-const TXmlAttribute<DisplayCondition> DefaultDisplayConditionAttribute;
-const TXmlAttribute<FontSize> DefaultFontSize(configuredFontSize());
-const TXmlAttribute<Language> DefaultLanguage;
-const TXmlAttribute<SColor> DefaultSColor;
-const TXmlAttribute<SColor> DefaultSFillColor(SColor(rgb(0, 0, 0)));
-const TXmlAttribute<SColor> DefaultSStrokeColor;
-const TXmlAttribute<SNullableColor> DefaultSNullableFillColor(SNullableColor(rgb(0, 0, 0)));
-const TXmlAttribute<SNullableColor> DefaultSNullableStrokeColor;
-const TXmlAttribute<STextShadow> DefaultSTextShadow;
-const TXmlAttribute<SmartPtr<Drawing::Color>> DefaultBackgroundColor;
-const TXmlAttribute<SmartPtr<Drawing::Color>> DefaultBorderColor(rgb(0, 0, 0));
-const TXmlAttribute<SmartPtr<Drawing::Color>> DefaultFillColor(rgb(0, 0, 0));
-const TXmlAttribute<SmartPtr<Drawing::Color>> DefaultFormControlBorderColor(rgb(112, 112, 112));
-const TXmlAttribute<SmartPtr<Drawing::Color>> DefaultGradientStopColor(rgb(0, 0, 0));
-const TXmlAttribute<SmartPtr<Drawing::Color>> DefaultManagedBackground(rgb(255, 255, 255));
-const TXmlAttribute<SmartPtr<Drawing::Color>> DefaultManagedStrokeColor(rgb(0, 0, 0));
-const TXmlAttribute<SmartPtr<Drawing::Color>> DefaultStrokeColor;
-const TXmlAttribute<TPRule> DefaultTPRuleAttribute;
-const TXmlAttribute<TextAlign> DefaultTextAlign(TextAlign(TextAlignType::Start, {}));
-const TXmlAttribute<Url> DefaultUrl;
-const TXmlAttribute<Value> DefaultMaxValue(Value(2147483648.0f));
-const TXmlAttribute<Value> DefaultMinValue(Value(-2147483648.0f));
-const TXmlAttribute<Value> DefaultValue;
+TXmlAttribute<AxisSource> const DefaultAxisSourceAttribute;
+TXmlAttribute<BoxShadow> const DefaultBoxShadow;
+TXmlAttribute<Core::String> const DefaultFontFamily(Core::Application::getStringConfigValue(u"DefaultFontFamily",
+                                                                                            u"Times"));
+TXmlAttribute<Core::String> const DefaultHyphenationCharacter(Core::String(u"\u2010"));
+TXmlAttribute<Core::String> const DefaultManagedFontFamily(Core::String(u"Segoe UI"));
+TXmlAttribute<Core::String> const DefaultNumberFormat(Core::String(u"1"));
+TXmlAttribute<Core::Vector<PathDataCommand>> const DefaultPathData;
+TXmlAttribute<Core::Vector<Point>> const DefaultPointList;
+TXmlAttribute<Core::Vector<SLength>> const DefaultSDashPattern;
+TXmlAttribute<Core::Vector<Transform>> const DefaultTransformList;
+TXmlAttribute<DisplayCondition> const DefaultDisplayConditionAttribute;
+TXmlAttribute<FontSize> const DefaultFontSize(configuredFontSize());
+TXmlAttribute<Language> const DefaultLanguage;
+TXmlAttribute<SColor> const DefaultSColor;
+TXmlAttribute<SColor> const DefaultSFillColor(SColor(rgb(0, 0, 0)));
+TXmlAttribute<SColor> const DefaultSStrokeColor;
+TXmlAttribute<SNullableColor> const DefaultSNullableFillColor(SNullableColor(rgb(0, 0, 0)));
+TXmlAttribute<SNullableColor> const DefaultSNullableStrokeColor;
+TXmlAttribute<STextShadow> const DefaultSTextShadow;
+TXmlAttribute<SmartPtr<Drawing::Color>> const DefaultBackgroundColor;
+TXmlAttribute<SmartPtr<Drawing::Color>> const DefaultBorderColor(rgb(0, 0, 0));
+TXmlAttribute<SmartPtr<Drawing::Color>> const DefaultFillColor(rgb(0, 0, 0));
+TXmlAttribute<SmartPtr<Drawing::Color>> const DefaultFormControlBorderColor(rgb(112, 112, 112));
+TXmlAttribute<SmartPtr<Drawing::Color>> const DefaultGradientStopColor(rgb(0, 0, 0));
+TXmlAttribute<SmartPtr<Drawing::Color>> const DefaultManagedBackground(rgb(255, 255, 255));
+TXmlAttribute<SmartPtr<Drawing::Color>> const DefaultManagedStrokeColor(rgb(0, 0, 0));
+TXmlAttribute<SmartPtr<Drawing::Color>> const DefaultStrokeColor;
+TXmlAttribute<TPRule> const DefaultTPRuleAttribute;
+TXmlAttribute<TextAlign> const DefaultTextAlign(TextAlign(TextAlignType::Start, {}));
+TXmlAttribute<Url> const DefaultUrl;
+TXmlAttribute<Value> const DefaultMaxValue(Value(2147483648.0f));
+TXmlAttribute<Value> const DefaultMinValue(Value(-2147483648.0f));
+TXmlAttribute<Value> const DefaultValue;
 
 } // namespace Xml
