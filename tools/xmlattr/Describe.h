@@ -1,58 +1,71 @@
 // What a value consists of, for the value types whose printed text does not say it all. A type joins
-// with an overload here.
+// with an overload here; every other one has no parts.
 #pragma once
 
 #include "ValueTypes.h"
 
 #include "xmlattr/Values.h"
-#include "xmlattr/core/Format.h"
 
-#include <concepts>
+#include <type_traits>
 
 namespace Command {
 
-inline std::string number(float value) {
-    return Core::Format::toShortest(value).toUtf8();
-}
+void describe(Shown& shown, Xml::Length const& length);
+void describe(Shown& shown, Xml::DLength const& lengths);
+void describe(Shown& shown, Xml::SLength const& length);
+void describe(Shown& shown, Xml::LengthOrPercent const& measure);
+void describe(Shown& shown, Xml::SLengthOrPercent const& measure);
+void describe(Shown& shown, Xml::AutoOrMeasure const& measure);
+void describe(Shown& shown, Xml::BorderWidth const& width);
+void describe(Shown& shown, Xml::PageDimension const& dimension);
+void describe(Shown& shown, Xml::SSpacing const& spacing);
+void describe(Shown& shown, Xml::SBaselineShift const& shift);
+void describe(Shown& shown, Xml::FloatOrPercent const& number);
+void describe(Shown& shown, Drawing::RectF const& rectangle);
 
-inline void describe(Shown& shown, Xml::SLength const& length) {
-    constexpr char const* units[] = {"", "pt", "", "cm", "mm", "in", "em", "ex", "pc", "%"};
-    bool const isPercentage = length.getUnit() == Xml::SLength::Percent;
-    shown.parts.push_back(
-        {"size", number(isPercentage ? length.getSize() * 100 : length.getSize()) + units[length.getUnit()]});
-    if (!isPercentage) shown.parts.push_back({"pixels", number(length.pxSize())});
-}
+void describe(Shown& shown, Xml::SmartPtr<Drawing::Color> const& color);
+void describe(Shown& shown, Xml::SColor const& paint);
+void describe(Shown& shown, Xml::BoxShadow const& shadow);
+void describe(Shown& shown, Xml::STextShadow const& shadow);
+void describe(Shown& shown, Xml::STextDecoration const& decoration);
 
-inline void describe(Shown& shown, Xml::Length const& length) {
-    shown.parts.push_back({"pixels", number(length.pxSize())});
-}
+void describe(Shown& shown, Xml::Transform const& transform);
+void describe(Shown& shown, Xml::PathDataCommand const& command);
+void describe(Shown& shown, Xml::Point const& point);
+void describe(Shown& shown, Xml::SPreserveAspectRatio const& ratio);
 
-inline void describe(Shown& shown, Xml::DLength const& lengths) {
-    describe(shown, lengths.getFirst());
-    describe(shown, lengths.getSecond());
-}
+void describe(Shown& shown, Xml::Language const& language);
+void describe(Shown& shown, Xml::InitialPageNumber const& number);
+void describe(Shown& shown, Xml::InitialSheetNumber const& number);
+void describe(Shown& shown, Xml::ForcePageCount const& count);
+void describe(Shown& shown, Xml::TPRule const& rule);
+void describe(Shown& shown, Xml::AxisUnits const& units);
+void describe(Shown& shown, Xml::Value const& value);
 
-inline void describe(Shown& shown, Drawing::RectF const& rectangle) {
-    shown.parts.push_back({"top", number(rectangle.getTop())});
-    shown.parts.push_back({"right", number(rectangle.getRight())});
-    shown.parts.push_back({"bottom", number(rectangle.getBottom())});
-    shown.parts.push_back({"left", number(rectangle.getLeft())});
-}
+// What has no overload of its own or of a base.
+struct Plain {
+    template <class T> Plain(T const&) {}
+};
+inline void describe(Shown&, Plain) {}
 
-// A list is shown by its items.
-template <class T> void describe(Shown& shown, Core::Vector<T> const& items) {
-    shown.parts.push_back({"items", std::to_string(items.size())});
-    for (T const& item : items) describe(shown, item);
-}
-
-// An enumeration has a number, which documents never show.
+// The number of an enumerator, which no document shows.
 template <class T>
 requires std::is_enum_v<T>
 void describe(Shown& shown, T const& value) {
     shown.parts.push_back({"number", std::to_string(static_cast<std::int32_t>(value))});
 }
 
-// Every other type.
-template <class T> void describe(Shown&, T const&) {}
+template <class Measure> void describe(Shown& shown, Xml::FontSizeOf<Measure> const& size) {
+    if (size.isRelativeSize())
+        shown.parts.push_back(
+            {"relative", size.getRelativeSize() == Xml::RelativeFontSize::Larger ? "larger" : "smaller"});
+    else
+        describe(shown, size.getAbsoluteSize());
+}
+
+template <class T> void describe(Shown& shown, Core::Vector<T> const& items) {
+    shown.parts.push_back({"items", std::to_string(items.size())});
+    for (T const& item : items) describe(shown, item);
+}
 
 } // namespace Command
