@@ -22,7 +22,7 @@ std::string text(Xml::SLength const& length) {
     return text(isPercentage ? length.getSize() * 100 : length.getSize()) + units[length.getUnit()];
 }
 
-template <class Measure> std::string text(Xml::MeasureOrPercent<Measure> const& measure) {
+std::string text(Xml::SLengthOrPercent const& measure) {
     return measure.isPercent() ? text(measure.getPercent() * 100) + "%" : text(measure.getLength());
 }
 
@@ -34,7 +34,7 @@ template <class Measure> void addMeasure(Shown& shown, Measure const& measure) {
     if (measure.isPercent())
         add(shown, "fraction", text(measure.getPercent()));
     else
-        describe(shown, measure.getLength());
+        describe(shown, &measure.getLength());
 }
 
 void addColor(Shown& shown, std::string kind, std::uint32_t r, std::uint32_t g, std::uint32_t b) {
@@ -56,198 +56,209 @@ template <class Shadow> void addOffsets(Shown& shown, Shadow const& shadow) {
 
 } // namespace
 
-void describe(Shown& shown, Xml::Length const& length) {
-    add(shown, "pixels", text(length.pxSize()));
+void describe(Shown& shown, Xml::Length const* length) {
+    add(shown, "pixels", text(length->pxSize()));
 }
 
-void describe(Shown& shown, Xml::DLength const& lengths) {
-    describe(shown, lengths.getFirst());
-    describe(shown, lengths.getSecond());
+void describe(Shown& shown, Xml::DLength const* lengths) {
+    describe(shown, &lengths->getFirst());
+    describe(shown, &lengths->getSecond());
 }
 
-void describe(Shown& shown, Xml::SLength const& length) {
-    add(shown, "size", text(length));
-    if (length.getUnit() != Xml::SLength::Percent) add(shown, "pixels", text(length.pxSize()));
+void describe(Shown& shown, Xml::SLength const* length) {
+    add(shown, "size", text(*length));
+    if (length->getUnit() != Xml::SLength::Percent) add(shown, "pixels", text(length->pxSize()));
 }
 
-void describe(Shown& shown, Xml::LengthOrPercent const& measure) {
-    addMeasure(shown, measure);
+void describe(Shown& shown, Xml::LengthOrPercent const* measure) {
+    addMeasure(shown, *measure);
 }
 
-void describe(Shown& shown, Xml::SLengthOrPercent const& measure) {
-    addMeasure(shown, measure);
+void describe(Shown& shown, Xml::SLengthOrPercent const* measure) {
+    addMeasure(shown, *measure);
 }
 
-void describe(Shown& shown, Xml::AutoOrMeasure const& measure) {
-    if (measure.isAuto())
+void describe(Shown& shown, Xml::AutoOrMeasure const* measure) {
+    if (measure->isAuto())
         add(shown, "automatic", "yes");
     else
-        describe(shown, measure.getLengthOrPercent());
+        describe(shown, &measure->getLengthOrPercent());
 }
 
-void describe(Shown& shown, Xml::BorderWidth const& width) {
-    describe(shown, width.getLength());
+void describe(Shown& shown, Xml::BorderWidth const* width) {
+    describe(shown, &width->getLength());
 }
 
-void describe(Shown& shown, Xml::PageDimension const& dimension) {
-    if (dimension.getType() == Xml::PageDimensionType::Length) describe(shown, dimension.getLength());
+void describe(Shown& shown, Xml::PageDimension const* dimension) {
+    if (dimension->getType() == Xml::PageDimensionType::Length) describe(shown, &dimension->getLength());
 }
 
-void describe(Shown& shown, Xml::SSpacing const& spacing) {
-    if (!spacing.isNormal()) describe(shown, spacing.getSLength());
+void describe(Shown& shown, Xml::SSpacing const* spacing) {
+    if (!spacing->isNormal()) describe(shown, &spacing->getSLength());
 }
 
-void describe(Shown& shown, Xml::SBaselineShift const& shift) {
-    if (shift.getMode() == Xml::BaselineShiftMode::LengthOrPercent) describe(shown, shift.getLengthOrPercent());
+void describe(Shown& shown, Xml::SBaselineShift const* shift) {
+    if (shift->getMode() == Xml::BaselineShiftMode::LengthOrPercent) describe(shown, &shift->getLengthOrPercent());
 }
 
-void describe(Shown& shown, Xml::FloatOrPercent const& number) {
-    add(shown, "number", text(number.getValue()));
+void describe(Shown& shown, Xml::FloatOrPercent const* number) {
+    add(shown, "number", text(number->getValue()));
 }
 
-void describe(Shown& shown, Drawing::RectF const& rectangle) {
-    add(shown, "top", text(rectangle.getTop()));
-    add(shown, "right", text(rectangle.getRight()));
-    add(shown, "bottom", text(rectangle.getBottom()));
-    add(shown, "left", text(rectangle.getLeft()));
+void describe(Shown& shown, Drawing::RectF const* rectangle) {
+    add(shown, "top", text(rectangle->getTop()));
+    add(shown, "right", text(rectangle->getRight()));
+    add(shown, "bottom", text(rectangle->getBottom()));
+    add(shown, "left", text(rectangle->getLeft()));
 }
 
-void describe(Shown& shown, Xml::SmartPtr<Drawing::Color> const& color) {
-    if (!color) return add(shown, "kind", "no colour");
-    if (auto const* const rgb = dynamic_cast<Drawing::RGBColor const*>(&*color))
+void describe(Shown& shown, Xml::SmartPtr<Drawing::Color> const* color) {
+    if (!*color) return add(shown, "kind", "no colour");
+    if (auto const* const rgb = dynamic_cast<Drawing::RGBColor const*>(&**color))
         return addColor(shown, "RGB", rgb->getR(), rgb->getG(), rgb->getB());
-    if (auto const* const cmyk = dynamic_cast<Drawing::CMYKColor const*>(&*color)) {
+    if (auto const* const cmyk = dynamic_cast<Drawing::CMYKColor const*>(&**color)) {
         double const c = cmyk->getC(), m = cmyk->getM(), y = cmyk->getY(), k = cmyk->getK();
         add(shown, "kind", "CMYK");
         add(shown, "cmyk", text(c) + " " + text(m) + " " + text(y) + " " + text(k));
         shown.rgb = shade(c, k) << 16 | shade(m, k) << 8 | shade(y, k);
-    } else if (auto const* const icc = dynamic_cast<Drawing::ICCColor const*>(&*color)) {
+    } else if (auto const* const icc = dynamic_cast<Drawing::ICCColor const*>(&**color)) {
         addColor(shown, "ICC", icc->getFallBackR(), icc->getFallBackG(), icc->getFallBackB());
         add(shown, "profile", icc->getColorSpace()->getProfileName().toUtf8());
         for (int i = 0; i < icc->getCount(); ++i) add(shown, "component", text(icc->getColor(i)));
-    } else if (auto const* const spot = dynamic_cast<Drawing::SpotColor const*>(&*color)) {
+    } else if (auto const* const spot = dynamic_cast<Drawing::SpotColor const*>(&**color)) {
         add(shown, "kind", "spot");
         add(shown, "name", spot->getColorName().toUtf8());
         add(shown, "tint", text(spot->getTint()));
     }
 }
 
-void describe(Shown& shown, Xml::SColor const& paint) {
-    switch (paint.getType()) {
+void describe(Shown& shown, Xml::SColor const* paint) {
+    switch (paint->getType()) {
     case Xml::SColor::None: return add(shown, "kind", "no paint");
-    case Xml::SColor::Url: return add(shown, "reference", paint.getUrl().toUtf8());
-    case Xml::SColor::Color: return describe(shown, paint.getColor());
+    case Xml::SColor::Url: return add(shown, "reference", paint->getUrl().toUtf8());
+    case Xml::SColor::Color: break;
     }
+    auto const color = paint->getColor();
+    describe(shown, &color);
 }
 
-void describe(Shown& shown, Xml::BoxShadow const& shadow) {
-    addOffsets(shown, shadow);
-    describe(shown, shadow.getColor());
+void describe(Shown& shown, Xml::BoxShadow const* shadow) {
+    addOffsets(shown, *shadow);
+    auto const color = shadow->getColor();
+    describe(shown, &color);
 }
 
-void describe(Shown& shown, Xml::STextShadow const& shadow) {
-    addOffsets(shown, shadow);
-    describe(shown, shadow.getColor());
+void describe(Shown& shown, Xml::STextShadow const* shadow) {
+    addOffsets(shown, *shadow);
+    auto const color = shadow->getColor();
+    describe(shown, &color);
 }
 
-void describe(Shown& shown, Xml::STextDecoration const& decoration) {
-    if (decoration.isUnderline()) add(shown, "line", "underline");
-    if (decoration.isOverline()) add(shown, "line", "overline");
-    if (decoration.isLineThrough()) add(shown, "line", "line-through");
+void describe(Shown& shown, Xml::STextDecoration const* decoration) {
+    if (decoration->isUnderline()) add(shown, "line", "underline");
+    if (decoration->isOverline()) add(shown, "line", "overline");
+    if (decoration->isLineThrough()) add(shown, "line", "line-through");
 }
 
-void describe(Shown& shown, Xml::Transform const& transform) {
-    switch (transform.type) {
+void describe(Shown& shown, Xml::Transform const* transform) {
+    switch (transform->type) {
     case Xml::TransformType::Matrix: {
         std::string numbers;
-        for (double const number : transform.matrix) numbers.append(numbers.empty() ? "" : " ").append(text(number));
+        for (double const number : transform->matrix) numbers.append(numbers.empty() ? "" : " ").append(text(number));
         return add(shown, "matrix", numbers);
     }
     case Xml::TransformType::Translate:
-        return add(shown, "translate", text(transform.tx.getValue()) + " " + text(transform.ty.getValue()));
-    case Xml::TransformType::Scale: return add(shown, "scale", text(transform.sx) + " " + text(transform.sy));
+        return add(shown, "translate", text(transform->tx.getValue()) + " " + text(transform->ty.getValue()));
+    case Xml::TransformType::Scale: return add(shown, "scale", text(transform->sx) + " " + text(transform->sy));
     case Xml::TransformType::Rotate:
         return add(shown, "rotate",
-                   text(transform.angle) + " around " + text(transform.cx.getValue()) + " " +
-                       text(transform.cy.getValue()));
-    case Xml::TransformType::SkewX: return add(shown, "skewX", text(transform.skewAngleX));
-    case Xml::TransformType::SkewY: return add(shown, "skewY", text(transform.skewAngleY));
+                   text(transform->angle) + " around " + text(transform->cx.getValue()) + " " +
+                       text(transform->cy.getValue()));
+    case Xml::TransformType::SkewX: return add(shown, "skewX", text(transform->skewAngleX));
+    case Xml::TransformType::SkewY: return add(shown, "skewY", text(transform->skewAngleY));
     }
 }
 
-void describe(Shown& shown, Xml::PathDataCommand const& command) {
-    auto const pair = [](Xml::SLength const& x, Xml::SLength const& y) { return " " + text(x) + "," + text(y); };
-    auto const name = [&](std::string const& word) { return command.relative ? word + ", rel." : word; };
-    std::string const end = pair(command.x, command.y).substr(1);
-    switch (static_cast<Xml::PathCommandKind>(command.kind)) {
+void describe(Shown& shown, Xml::PathDataCommand const* command) {
+    auto const pair = [](Xml::SLength const& x, Xml::SLength const& y) { return text(x) + "," + text(y); };
+    auto const name = [&](std::string const& word) { return command->relative ? word + ", rel." : word; };
+    std::string const end = pair(command->x, command->y);
+    switch (static_cast<Xml::PathCommandKind>(command->kind)) {
         using namespace Xml::PathCommandKinds;
     case MoveTo: return add(shown, name("move"), end);
     case ClosePath: return add(shown, "close", "");
     case LineTo: return add(shown, name("line"), end);
-    case HorizontalLineTo: return add(shown, name("across"), text(command.x));
-    case VerticalLineTo: return add(shown, name("down"), text(command.y));
+    case HorizontalLineTo: return add(shown, name("across"), text(command->x));
+    case VerticalLineTo: return add(shown, name("down"), text(command->y));
     case CurveTo:
-        return add(shown, name("curve"), end + " by" + pair(command.x1, command.y1) + pair(command.x2, command.y2));
-    case SmoothCurveTo: return add(shown, name("smooth"), end + " by" + pair(command.x2, command.y2));
-    case QuadraticCurveTo: return add(shown, name("quad"), end + " by" + pair(command.x1, command.y1));
+        return add(shown, name("curve"),
+                   end + " by " + pair(command->x1, command->y1) + " " + pair(command->x2, command->y2));
+    case SmoothCurveTo: return add(shown, name("smooth"), end + " by " + pair(command->x2, command->y2));
+    case QuadraticCurveTo: return add(shown, name("quad"), end + " by " + pair(command->x1, command->y1));
     case SmoothQuadraticCurveTo: return add(shown, name("smooth quad"), end);
     case ArcTo:
         return add(shown, name("arc"),
-                   end + " radii" + pair(command.rx, command.ry) + " turned " + text(command.xAxisRotation) +
-                       (command.largeArc ? " large" : " small") + (command.sweep ? " sweep" : ""));
+                   end + " radii " + pair(command->rx, command->ry) + " turned " + text(command->xAxisRotation) +
+                       (command->largeArc ? " large" : " small") + (command->sweep ? " sweep" : ""));
     }
 }
 
-void describe(Shown& shown, Xml::Point const& point) {
-    add(shown, "point", text(point.x) + "," + text(point.y));
+void describe(Shown& shown, Xml::Point const* point) {
+    add(shown, "point", text(point->x) + "," + text(point->y));
 }
 
-void describe(Shown& shown, Xml::SPreserveAspectRatio const& ratio) {
+void describe(Shown& shown, Xml::ViewBox const* box) {
+    add(shown, "corner", text(box->x) + " " + text(box->y));
+    add(shown, "size", text(box->width) + " " + text(box->height));
+}
+
+void describe(Shown& shown, Xml::SPreserveAspectRatio const* ratio) {
     constexpr char const* words[] = {"none", "meet", "slice", "xMin", "xMid", "xMax", "YMin", "YMid", "YMax"};
     std::string held;
     for (int bit = 0; bit < 9; ++bit)
-        if (ratio.getAspectRatio() >> bit & 1) held.append(held.empty() ? "" : " ").append(words[bit]);
+        if (ratio->getAspectRatio() >> bit & 1) held.append(held.empty() ? "" : " ").append(words[bit]);
     add(shown, "fit", held);
 }
 
-void describe(Shown& shown, Xml::Language const& language) {
-    add(shown, "tag", Xml::Language::getISO639LanguageName(language).toUtf8());
-    add(shown, "language", Xml::Language::getFullLanguageNameById(language.getLanguage()).toUtf8());
+void describe(Shown& shown, Xml::Language const* language) {
+    add(shown, "tag", Xml::Language::getISO639LanguageName(*language).toUtf8());
+    add(shown, "language", Xml::Language::getFullLanguageNameById(language->getLanguage()).toUtf8());
 }
 
-void describe(Shown& shown, Xml::InitialPageNumber const& number) {
+void describe(Shown& shown, Xml::InitialPageNumber const* number) {
     constexpr char const* types[] = {"auto", "auto-odd", "auto-even", "number", "multiple"};
-    add(shown, "kind", types[static_cast<int>(number.getType())]);
-    if (number.getType() == Xml::InitialPageNumberType::Number) add(shown, "page", text(number.getNumber()));
-    if (number.getType() == Xml::InitialPageNumberType::MultipleOf) add(shown, "multiple", text(number.getMultiple()));
+    add(shown, "kind", types[static_cast<int>(number->getType())]);
+    if (number->getType() == Xml::InitialPageNumberType::Number) add(shown, "page", text(number->getNumber()));
+    if (number->getType() == Xml::InitialPageNumberType::MultipleOf)
+        add(shown, "multiple", text(number->getMultiple()));
 }
 
-void describe(Shown& shown, Xml::InitialSheetNumber const& number) {
-    bool const isAuto = number.getType() == Xml::InitialSheetNumberType::Auto;
-    add(shown, "sheet", isAuto ? "auto" : text(number.getNumber()));
+void describe(Shown& shown, Xml::InitialSheetNumber const* number) {
+    bool const isAuto = number->getType() == Xml::InitialSheetNumberType::Auto;
+    add(shown, "sheet", isAuto ? "auto" : text(number->getNumber()));
 }
 
-void describe(Shown& shown, Xml::ForcePageCount const& count) {
+void describe(Shown& shown, Xml::ForcePageCount const* count) {
     constexpr char const* types[] = {"auto",       "even",     "odd",         "end-on-even",
                                      "end-on-odd", "no-force", "multiple-of", "end-on-multiple-of"};
-    add(shown, "kind", types[static_cast<int>(count.getType())]);
-    if (count.getCount() != -1) add(shown, "count", text(count.getCount()));
+    add(shown, "kind", types[static_cast<int>(count->getType())]);
+    if (count->getCount() != -1) add(shown, "count", text(count->getCount()));
 }
 
-void describe(Shown& shown, Xml::TPRule const& rule) {
-    if (rule.getType() == Xml::TPRuleType::FindKeyword) add(shown, "keyword", rule.getKeyword().toUtf8());
+void describe(Shown& shown, Xml::TPRule const* rule) {
+    if (rule->getType() == Xml::TPRuleType::FindKeyword) add(shown, "keyword", rule->getKeyword().toUtf8());
 }
 
-void describe(Shown& shown, Xml::AxisUnits const& units) {
+void describe(Shown& shown, Xml::AxisUnits const* units) {
     constexpr char const* types[] = {"auto", "days", "months", "years"};
-    bool const isNumber = units.getType() == Xml::AxisUnits::Numeric;
-    add(shown, "units", isNumber ? text(units.getNumericVal()) : types[units.getType()]);
+    bool const isNumber = units->getType() == Xml::AxisUnits::Numeric;
+    add(shown, "units", isNumber ? text(units->getNumericVal()) : types[units->getType()]);
 }
 
-void describe(Shown& shown, Xml::Value const& value) {
+void describe(Shown& shown, Xml::Value const* value) {
     constexpr char const* types[] = {"none", "number", "date", "string"};
-    add(shown, "kind", types[static_cast<int>(value.getType())]);
-    add(shown, "value", value.getValue().toUtf8());
+    add(shown, "kind", types[static_cast<int>(value->getType())]);
+    add(shown, "value", value->getValue().toUtf8());
 }
 
 } // namespace Command

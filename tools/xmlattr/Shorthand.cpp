@@ -49,8 +49,8 @@ using Longhands = std::vector<Property const*>;
 
 // A rule for one vocabulary, with what it names looked up.
 struct Shorthand {
-    Xml::CatalogueEntry const* entry;
-    Rule const* rule; // null when no value type reads a part
+    Xml::CatalogueEntry const* entry = nullptr;
+    Rule const* rule = nullptr; // null when no value type reads a part
     Longhands longhands;
     std::vector<std::string_view> words;
     Longhands size, height; // of a font
@@ -68,8 +68,10 @@ Shorthand const& shorthandOf(Xml::CatalogueEntry const& entry) {
         std::vector<Shorthand> all;
         for (Xml::CatalogueEntry const& row : Xml::Catalogue::entries()) {
             if (row.kind != Xml::AttributeKind::Shorthand) continue;
-            Shorthand& added = all.emplace_back(&row, nullptr, Longhands(), std::vector<std::string_view>(),
-                                                longhandsOf(row, "font-size"), longhandsOf(row, "line-height"));
+            Shorthand& added = all.emplace_back();
+            added.entry = &row;
+            added.size = longhandsOf(row, "font-size");
+            added.height = longhandsOf(row, "line-height");
             auto const* const rule = row.attribute == fontRule.attribute
                                          ? &fontRule
                                          : std::ranges::find(rules, row.attribute, &Rule::attribute);

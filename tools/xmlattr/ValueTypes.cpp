@@ -23,7 +23,7 @@ template <class T> Shown showText(Core::String const& text, Core::String const* 
     Xml::TXmlAttribute<T> attribute;
     shown.accepted = attribute.parseValue(text);
     if (!shown.accepted) return shown;
-    describe(shown, attribute.getValue());
+    describe(shown, &attribute.getValue());
     shown.printed = attribute.getValueAsString();
     if (other) shown.equal = attribute.isEqual(*other);
     return shown;
