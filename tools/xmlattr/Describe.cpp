@@ -12,18 +12,22 @@ template <class Number> std::string text(Number value) {
     return Core::Format::toShortest(value).toUtf8();
 }
 
+std::string percentage(float fraction) {
+    return Core::Format::toMeasure(double{fraction} * 100, u"%").toUtf8();
+}
+
 std::string text(Xml::Length const& length) {
     return Xml::Length::getValueAsString(length).toUtf8();
 }
 
 std::string text(Xml::SLength const& length) {
-    constexpr char const* units[] = {"", "pt", "", "cm", "mm", "in", "em", "ex", "pc", "%"};
-    bool const isPercentage = length.getUnit() == Xml::SLength::Percent;
-    return text(isPercentage ? length.getSize() * 100 : length.getSize()) + units[length.getUnit()];
+    constexpr char const* units[] = {"", "pt", "", "cm", "mm", "in", "em", "ex", "pc"};
+    if (length.getUnit() == Xml::SLength::Percent) return percentage(length.getSize());
+    return text(length.getSize()) + units[length.getUnit()];
 }
 
 std::string text(Xml::SLengthOrPercent const& measure) {
-    return measure.isPercent() ? text(measure.getPercent() * 100) + "%" : text(measure.getLength());
+    return measure.isPercent() ? percentage(measure.getPercent()) : text(measure.getLength());
 }
 
 void add(Shown& shown, std::string name, std::string value) {
