@@ -102,7 +102,7 @@ private:
 
     void noteUtf16(unsigned char const* bytes, std::size_t count) {
         if (count < 2) return;
-        unsigned const pair = bytes[0] << 8u | bytes[1];
+        int const pair = bytes[0] << 8 | bytes[1];
         if (pair == 0xFEFF || pair == '<') encoding = ByteEncoding::Utf16Big;
         if (pair == 0xFFFE || pair == '<' << 8) encoding = ByteEncoding::Utf16Little;
     }
@@ -119,7 +119,9 @@ private:
         split(element.space, element.name);
         attributes.clear();
         for (; texts[0]; texts += 2) {
-            XmlAttributeText& attribute = attributes.emplace_back(std::string_view(), texts[0], texts[1]);
+            XmlAttributeText& attribute = attributes.emplace_back();
+            attribute.name = texts[0];
+            attribute.value = texts[1];
             split(attribute.space, attribute.name);
         }
         element.attributes = attributes;
