@@ -15,6 +15,9 @@ namespace {
 constexpr std::string_view xmlSpace = "http://www.w3.org/XML/1998/namespace";
 constexpr std::string_view xlinkSpace = "http://www.w3.org/1999/xlink";
 
+// The values of a list take up to twenty times the memory of its text.
+constexpr std::size_t longestList = 4 << 20;
+
 } // namespace
 
 struct Checker::Occurrence {
@@ -69,6 +72,10 @@ void Checker::check(Occurrence const& occurrence) {
 }
 
 void Checker::checkTyped(Occurrence const& occurrence, Property const& property) {
+    if (property.isList() && occurrence.value.size() > longestList) {
+        ++counts.tooLong;
+        return;
+    }
     toUtf16(occurrence.value, text);
     switch (property.judge(text)) {
     case Verdict::Checked: ++counts.checked; return;
@@ -132,7 +139,7 @@ void Checker::refuse(Occurrence const& occurrence, Finding finding) {
 }
 
 std::string Finding::message() const {
-    std::string line = attribute + "=" + inQuotes(shown(text)) + " on " + element;
+    std::string line = attribute + "=" + inQuotes(shown(text)) + " on " + shown(element);
     if (!problem.empty()) return line + " " + problem;
     line += part.empty() ? " is no " : ": " + inQuotes(shown(part)) + " is no ";
     line += joinWith(types, "or");

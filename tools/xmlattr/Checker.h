@@ -33,9 +33,9 @@ struct Counts {
     std::uint64_t attributes = 0, declarations = 0;
     std::uint64_t checked = 0, passedOver = 0, refused = 0, identifiers = 0, texts = 0;
     // Not covered, by reason.
-    std::uint64_t noType = 0, typeMissing = 0, foreign = 0, unknown = 0;
+    std::uint64_t noType = 0, typeMissing = 0, foreign = 0, tooLong = 0, unknown = 0;
 
-    std::uint64_t notCovered() const { return noType + typeMissing + foreign + unknown; }
+    std::uint64_t notCovered() const { return noType + typeMissing + foreign + tooLong + unknown; }
 };
 
 class Checker final : public XmlHandler {

@@ -8,14 +8,9 @@
 
 namespace Command {
 
-namespace {
-
-// White space around a list is part of the list's grammar in SVG 1.1.
-bool isList(std::string_view type) {
-    return type.starts_with("Core::Vector<") || type == "ViewBox";
+bool Property::isList() const {
+    return type && (type->name.starts_with("Core::Vector<") || type->name == "ViewBox");
 }
-
-} // namespace
 
 Verdict Property::judge(std::u16string_view text) const {
     if (!type) return Verdict::TypeMissing;
@@ -25,8 +20,8 @@ Verdict Property::judge(std::u16string_view text) const {
     if (equalsWord(text, "inherit", !isFo)) return Verdict::PassedOver;
     if (isAlsoLegal(*entry, text, type->accepts)) return Verdict::PassedOver;
     if (isFo && (type->isEnumeration ? isCopy(text) : isExpression(text))) return Verdict::PassedOver;
-    if (isList(type->name) && type->accepts(text)) return Verdict::PassedOver;
-    return Verdict::Refused;
+    // White space around a list is part of its grammar in SVG 1.1.
+    return isList() && type->accepts(text) ? Verdict::PassedOver : Verdict::Refused;
 }
 
 Property const* findProperty(Xml::Vocabulary vocabulary, std::string_view element, std::string_view attribute) {

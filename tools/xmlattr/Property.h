@@ -20,6 +20,8 @@ struct Property {
     Xml::CatalogueEntry const* entry;
     ValueType const* type; // null when the row has none, or none that is in this build
 
+    // A long text can give many times its memory.
+    bool isList() const;
     Verdict judge(std::u16string_view text) const;
 };
 

@@ -46,6 +46,7 @@ public:
         reason(counts.noType, "without a value type");
         reason(counts.typeMissing, "whose type is not available yet");
         reason(counts.foreign, "of other vocabularies");
+        reason(counts.tooLong, "too long");
         reason(counts.unknown, "unknown");
         if (!reasons.empty()) line += reasons + ")";
         line += ", " + std::to_string(counts.refused) + " refused";
@@ -103,6 +104,7 @@ public:
                            {{"noType", counts.noType},
                             {"typeMissing", counts.typeMissing},
                             {"foreign", counts.foreign},
+                            {"tooLong", counts.tooLong},
                             {"unknown", counts.unknown}}},
                           {"refused", counts.refused},
                           {"shown", shown}}));

@@ -1,5 +1,7 @@
 #include "XmlReader.h"
 
+#include "Text.h"
+
 #include "xmlattr/core/Text.h"
 
 #include <algorithm>
@@ -18,7 +20,7 @@ namespace Command {
 namespace {
 
 constexpr int maxDepth = 10'000;
-constexpr std::int64_t maxTag = 64 << 20;
+constexpr std::int64_t maxTag = 32 << 20;
 constexpr int blockSize = 64 << 10;
 constexpr char separator = '\x1F'; // between a namespace and a name; no document can contain it
 
@@ -69,8 +71,8 @@ public:
             // A tag is read anew with each block until it is whole: blocks that grow with it keep
             // the time linear.
             std::int64_t const pending = total - XML_GetCurrentByteIndex(parser.get());
-            if (pending > maxTag) return failed("limit", "a tag or comment of more than 64 MiB");
-            size = static_cast<int>(std::max<std::int64_t>(blockSize, pending));
+            if (pending > maxTag) return failed("limit", "a tag or comment of more than 32 MiB");
+            size = static_cast<int>(std::clamp<std::int64_t>(pending, blockSize, maxTag - pending + blockSize));
         }
     }
 
@@ -166,11 +168,11 @@ private:
         case XML_ERROR_UNKNOWN_ENCODING:
         case XML_ERROR_INCORRECT_ENCODING:
             return failed("encoding", unknownEncoding.empty() ? "the file is not in the encoding that it declares"
-                                                              : "encoding " + unknownEncoding + " is not read; " +
-                                                                    std::string(readEncodings));
+                                                              : "encoding " + shown(unknownEncoding) +
+                                                                    " is not read; " + std::string(readEncodings));
         case XML_ERROR_AMPLIFICATION_LIMIT_BREACH:
             return failed("limit", "entities expand to more than 100 times the size of the file");
-        case XML_ERROR_NO_MEMORY: return failed("limit", "out of memory");
+        case XML_ERROR_NO_MEMORY: return failed("limit", "more memory than the size of the file explains");
         case XML_ERROR_NO_ELEMENTS:
             return failed("malformed", depth > 0 ? "the file ends inside of an element" : "no element in the file");
         case XML_ERROR_UNCLOSED_TOKEN:
