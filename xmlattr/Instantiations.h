@@ -11,7 +11,8 @@ namespace Xml {
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wattributes"
 #define XMLATTR_PUBLIC_VALUE(...) extern template class XMLATTR_API TXmlAttribute<__VA_ARGS__>;
-#define XMLATTR_INTERNAL_VALUE(...) extern template class TXmlAttribute<__VA_ARGS__>;
+// The constants of internal types stay readable without the library's help.
+#define XMLATTR_INTERNAL_VALUE(...)
 #include "xmlattr/ValueTypes.inc"
 #pragma GCC diagnostic pop
 

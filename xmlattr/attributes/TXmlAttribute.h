@@ -27,6 +27,9 @@ public:
 
     constexpr bool operator==(T const& other) const { return stored.value == other; }
     constexpr bool operator!=(T const& other) const { return !(stored.value == other); }
+    // The attribute on the right; by itself the language would exchange the operands, and not every
+    // value type's comparison is symmetric.
+    friend constexpr bool operator==(T const& left, TXmlAttribute const& right) { return left == right.stored.value; }
     // Without these two, comparing two attributes would be ambiguous between their conversions.
     constexpr bool operator==(TXmlAttribute const& other) const { return *this == other.stored.value; }
     constexpr bool operator!=(TXmlAttribute const& other) const { return !(*this == other); }

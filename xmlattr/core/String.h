@@ -4,6 +4,7 @@
 
 #include "xmlattr/core/Export.h"
 
+#include <concepts>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -66,8 +67,13 @@ public:
     static String loadString(int id);
 
     friend bool operator==(String const& a, String const& b) noexcept { return a.units == b.units; }
-    friend bool operator==(String const& a, std::u16string_view b) noexcept { return a.units == b; }
-    friend bool operator==(String const& a, char16_t const* b) noexcept { return a.units == b; }
+    // For texts alone: an attribute that converts to one has comparisons of its own.
+    template <std::same_as<String> S> friend bool operator==(S const& a, std::u16string_view b) noexcept {
+        return a.units == b;
+    }
+    template <std::same_as<String> S> friend bool operator==(S const& a, char16_t const* b) noexcept {
+        return a.units == b;
+    }
     friend bool operator<(String const& a, String const& b) noexcept { return a.units < b.units; }
 
 private:

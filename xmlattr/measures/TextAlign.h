@@ -42,7 +42,10 @@ template <> struct Keywords<TextAlignType> {
 class XMLATTR_API TextAlign {
 public:
     TextAlign() = default;
-    TextAlign(TextAlignType type, Core::String text) : text(std::move(text)), type(type) {}
+    // The text is dropped unless the type is AlignmentString.
+    TextAlign(TextAlignType type, Core::String text) : type(type) {
+        if (type == TextAlignType::AlignmentString) this->text = std::move(text);
+    }
 
     // Empty for everything but an alignment string.
     Core::String const& getText() const { return text; }

@@ -9,10 +9,11 @@
 
 namespace Xml {
 
-// A double rounded to the nearest float; what is too large for one becomes the largest, so that a
-// finite text never gives an infinity.
+// A double rounded to the nearest float; a finite one that is too large becomes the largest float, so
+// that a text never gives an infinity.
 constexpr float roundToFloat(double value) {
-    return static_cast<float>(std::clamp(value, -double{FLT_MAX}, double{FLT_MAX}));
+    bool const isFinite = value >= -DBL_MAX && value <= DBL_MAX;
+    return static_cast<float>(isFinite ? std::clamp(value, -double{FLT_MAX}, double{FLT_MAX}) : value);
 }
 
 // Scales a size in double precision, first the product, then the quotient, and rounds once.
