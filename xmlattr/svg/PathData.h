@@ -30,7 +30,7 @@ using PathCommandKinds::PathCommandKind;
 struct XMLATTR_API PathDataCommand {
     std::int32_t kind = 0; // a PathCommandKind
     bool relative = false; // a lower-case letter; "z" is not relative
-    SLength x1, y1, x2, y2, x, y, rx, ry;
+    SLength x1{}, y1{}, x2{}, y2{}, x{}, y{}, rx{}, ry{};
     float xAxisRotation = 0; // of an arc, in degrees
     bool largeArc = false, sweep = false;
 
