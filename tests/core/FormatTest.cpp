@@ -82,7 +82,7 @@ TEST(Format, ReadsAMillionNumbersLikeTheStandardLibrary) {
         float plain = 42;
         char16_t const *const begin = units.data(), *const behind = scanPlain(begin, begin + units.size(), plain);
         ASSERT_TRUE(!behind || isDigit(behind[-1])) << text;
-        ASSERT_TRUE(!behind || Format::parseFloat(std::u16string_view(begin, behind), slow)) << text;
+        ASSERT_TRUE(!behind || toFloat(scanDecimal({begin, behind}), slow)) << text;
         ASSERT_EQ(std::bit_cast<std::uint32_t>(plain), std::bit_cast<std::uint32_t>(behind ? slow : 42)) << text;
     }
 }

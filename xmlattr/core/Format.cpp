@@ -67,6 +67,12 @@ bool Format::parseFloat(std::u16string_view text, float& value) noexcept {
         return true;
     }
     std::u16string_view const trimmed = trim(text);
+    char16_t const* const end = trimmed.data() + trimmed.size();
+    float plain = 0;
+    if (!trimmed.empty() && scanPlain(trimmed.data(), end, plain) == end) {
+        value = plain;
+        return true;
+    }
     Decimal const number = scanDecimal(trimmed);
     return number.end && endsNumber(number.end, trimmed) && toFloat(number, value);
 }
