@@ -12,7 +12,7 @@ constexpr SLength user(float size) {
 }
 
 Transform const identity;
-SLength const one = user(1), inch(1, SLength::In);
+constexpr SLength one = user(1), inch(1, SLength::In);
 
 TEST(TransformList, SplitsAtParentheses) {
     using Row = std::pair<char16_t const*, List>;

@@ -25,7 +25,7 @@ enum class Role : std::uint8_t {
 
 struct Unit {
     Role role = Role::Other;
-    std::int8_t kind = 0; // of the command, 0: none
+    std::uint8_t kind = 0; // of the command, 0: none
     bool relative = false;
 };
 
@@ -51,8 +51,8 @@ constexpr auto units = [] {
           Command{u't', PathCommandKind::SmoothQuadraticCurveTo, Role::EndsBut_p},
           Command{u'a', PathCommandKind::ArcTo, Role::Ends}}) {
         bool const canBeRelative = command.kind != PathCommandKind::ClosePath;
-        table[command.letter] = {command.role, static_cast<std::int8_t>(command.kind), canBeRelative};
-        table[command.letter - u'a' + u'A'] = {command.role, static_cast<std::int8_t>(command.kind), false};
+        table[command.letter] = {command.role, static_cast<std::uint8_t>(command.kind), canBeRelative};
+        table[command.letter - u'a' + u'A'] = {command.role, static_cast<std::uint8_t>(command.kind), false};
     }
     return table;
 }();
