@@ -19,7 +19,9 @@ std::size_t numberLength(std::u16string_view text) {
         while (i < text.size() && Core::isDigit(text[i])) ++i;
         return i - first;
     };
-    auto const isAt = [&](std::u16string_view units) { return i < text.size() && units.find(text[i]) != units.npos; };
+    auto const isAt = [&](std::u16string_view units) {
+        return i < text.size() && units.find(text[i]) != std::u16string_view::npos;
+    };
     if (isAt(u"+-")) ++i;
     std::size_t digits = skipDigits();
     if (isAt(u".")) {

@@ -76,11 +76,14 @@ void Checker::checkTyped(Occurrence const& occurrence, Property const& property)
         ++counts.tooLong;
         return;
     }
-    toUtf16(occurrence.value, text);
-    switch (property.judge(text)) {
+    Verdict const verdict = cache.find(property, occurrence.value, [&] {
+        toUtf16(occurrence.value, text);
+        return property.judge(text);
+    });
+    switch (verdict) {
     case Verdict::Checked: ++counts.checked; return;
     case Verdict::PassedOver: ++counts.passedOver; return;
-    case Verdict::TypeMissing: ++counts.typeMissing; return;
+    case Verdict::NotCovered: ++counts.noType; return;
     case Verdict::Refused: break;
     }
     // The value types read attributes, which have a case.
@@ -95,23 +98,27 @@ void Checker::checkTyped(Occurrence const& occurrence, Property const& property)
 }
 
 void Checker::checkShorthand(Occurrence const& occurrence, Property const& property) {
-    toUtf16(occurrence.value, text);
-    ShorthandVerdict verdict = judgeShorthand(*property.entry, text);
-    switch (verdict.verdict) {
+    ShorthandVerdict found;
+    Verdict const verdict = cache.find(property, occurrence.value, [&] {
+        toUtf16(occurrence.value, text);
+        found = judgeShorthand(*property.entry, text);
+        return found.verdict;
+    });
+    switch (verdict) {
     case Verdict::Checked: ++counts.checked; return;
     case Verdict::PassedOver: ++counts.passedOver; return;
-    case Verdict::TypeMissing: ++(verdict.problem.empty() ? counts.typeMissing : counts.noType); return;
+    case Verdict::NotCovered: ++counts.noType; return;
     case Verdict::Refused: break;
     }
     Finding finding;
-    finding.part = verdict.part;
-    finding.problem = verdict.problem;
-    for (ValueType const* const type : verdict.types) {
+    finding.part = found.part;
+    finding.problem = found.problem;
+    for (ValueType const* const type : found.types) {
         finding.types.emplace_back(type->name);
         if (finding.hints.variant.empty() && finding.hints.nearest.empty())
-            finding.hints = hintsFor(*type, toUtf16(verdict.part));
+            finding.hints = hintsFor(*type, toUtf16(found.part));
     }
-    if (verdict.types.size() > 1) finding.hints.accepted.clear(); // those of one type are not all
+    if (found.types.size() > 1) finding.hints.accepted.clear(); // those of one type are not all
     refuse(occurrence, std::move(finding));
 }
 

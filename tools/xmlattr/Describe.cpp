@@ -4,6 +4,8 @@
 #include "xmlattr/drawing/ColorSpace.h"
 #include "xmlattr/drawing/SpotColor.h"
 
+#include <cmath>
+
 namespace Command {
 
 namespace {
@@ -50,7 +52,7 @@ void addColor(Shown& shown, std::string kind, std::uint32_t r, std::uint32_t g, 
 // How the ink looks without a colour profile.
 std::uint32_t shade(double ink, double black) {
     auto const light = [](double part) { return 1 - (part < 0 ? 0 : part > 1 ? 1 : part); };
-    return static_cast<std::uint32_t>(255 * light(ink) * light(black) + 0.5);
+    return static_cast<std::uint32_t>(std::lround(255 * light(ink) * light(black)));
 }
 
 template <class Shadow> void addOffsets(Shown& shown, Shadow const& shadow) {

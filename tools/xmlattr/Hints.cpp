@@ -31,7 +31,7 @@ std::size_t editDistance(std::u16string_view a, std::u16string_view b) {
 
 std::u16string without(std::u16string_view text, std::u16string_view units) {
     std::u16string rest(text);
-    std::erase_if(rest, [&](char16_t unit) { return units.find(unit) != units.npos; });
+    std::erase_if(rest, [&](char16_t unit) { return units.find(unit) != std::u16string_view::npos; });
     return rest;
 }
 

@@ -10,15 +10,15 @@
 namespace Command {
 
 enum class Verdict {
-    Checked,     // the value type reads the text
-    PassedOver,  // legal, but the formatter's business and not the type's
-    TypeMissing, // the value type is not in this build
+    Checked,    // the value type reads the text
+    PassedOver, // legal, but the formatter's business and not the type's
+    NotCovered, // there is no value type for it
     Refused
 };
 
 struct Property {
     Xml::CatalogueEntry const* entry;
-    ValueType const* type; // null when the row has none, or none that is in this build
+    ValueType const* type; // null when the row has none
 
     // A long text can give many times its memory.
     bool isList() const;

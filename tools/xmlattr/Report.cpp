@@ -44,7 +44,6 @@ public:
             reasons += (reasons.empty() ? " (" : ", ") + std::to_string(number).append(" ").append(why);
         };
         reason(counts.noType, "without a value type");
-        reason(counts.typeMissing, "whose type is not available yet");
         reason(counts.foreign, "of other vocabularies");
         reason(counts.tooLong, "too long");
         reason(counts.unknown, "unknown");
@@ -102,7 +101,6 @@ public:
                           {"texts", counts.texts},
                           {"notCovered",
                            {{"noType", counts.noType},
-                            {"typeMissing", counts.typeMissing},
                             {"foreign", counts.foreign},
                             {"tooLong", counts.tooLong},
                             {"unknown", counts.unknown}}},

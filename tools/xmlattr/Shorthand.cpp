@@ -180,7 +180,7 @@ ShorthandVerdict judgeShorthand(Xml::CatalogueEntry const& entry, std::u16string
     if (equalsWord(Core::trim(text), "inherit", entry.vocabulary == Xml::Vocabulary::Svg))
         return {Verdict::PassedOver, {}, {}, {}};
     Shorthand const& shorthand = shorthandOf(entry);
-    if (!shorthand.rule) return {Verdict::TypeMissing, {}, {}, "no part that a value type reads"};
+    if (!shorthand.rule) return {Verdict::NotCovered, {}, {}, {}};
     bool const isFont = shorthand.rule == &fontRule;
     std::u16string const spaced = isFont ? spacedSlashes(text) : std::u16string();
     auto const parts = splitParts(isFont ? spaced : text);

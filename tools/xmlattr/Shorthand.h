@@ -9,7 +9,7 @@
 
 namespace Command {
 
-// What became of a shorthand: Checked when a value type read one part at least, TypeMissing when
+// What became of a shorthand: Checked when a value type read one part at least, NotCovered when
 // there is none for any part.
 struct ShorthandVerdict {
     Verdict verdict;
