@@ -136,8 +136,18 @@ TEST(Hints, SuggestWhatIsNear) {
     EXPECT_EQ(nearestWord(u"pages", words), u"page");
     EXPECT_EQ(nearestWord(u"evenpage", words), u"even-page");
     EXPECT_EQ(nearestWord(u"pa", words), u"") << "two of four letters are not under half";
-    EXPECT_EQ(hintsFor(*findValueType("Length"), u" 12 PT").variant, "12pt");
-    EXPECT_EQ(hintsFor(*findValueType("Length"), u"12").variant, "12pt");
+    struct Row {
+        char const *type, *variant, *nearest;
+        char16_t const* text;
+    };
+    for (Row const& row :
+         {Row{"Length", "12pt", "", u" 12 PT"}, Row{"Length", "12pt", "", u"12"}, Row{"Length", "1.5pt", "", u"1,5pt"},
+          Row{"Break", "page", "", u"Page"}, Row{"BorderWidth", "", "thick", u"thickk"},
+          Row{"SmartPtr<Drawing::Color>", "", "purple", u"pruple"}, Row{"Length", "", "", u"purple"}}) {
+        Hints const hints = hintsFor(*findValueType(row.type), row.text);
+        EXPECT_EQ(hints.variant, row.variant) << toUtf8(row.text);
+        EXPECT_EQ(hints.nearest, row.nearest) << toUtf8(row.text);
+    }
 }
 
 } // namespace

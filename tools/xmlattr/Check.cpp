@@ -2,6 +2,7 @@
 #include "Commands.h"
 #include "Files.h"
 #include "Report.h"
+#include "Text.h"
 
 #include "xmlattr/core/Log.h"
 
@@ -31,7 +32,7 @@ public:
         ++done;
         if (!on) return;
         flushOutput();
-        std::fprintf(stderr, "\r\x1b[K[%zu/%zu] %.60s", done, total, file.c_str());
+        std::fprintf(stderr, "\r\x1b[K[%zu/%zu] %s", done, total, shown(file).c_str());
     }
 
     void clear() const {

@@ -2,6 +2,7 @@
 
 #include "Text.h"
 
+#include "xmlattr/color/ColorNames.h"
 #include "xmlattr/core/Text.h"
 
 #include <algorithm>
@@ -45,6 +46,19 @@ std::vector<std::u16string> variantsOf(std::u16string_view text) {
     return {trimmed, solid, solidLower, lower, pointed, without(trimmed, u"\"'"), solidLower + u"pt"};
 }
 
+// The words that a type reads: keywords, names of colours, or what is one in the line of its syntax.
+std::vector<std::u16string> wordsOf(ValueType const& type) {
+    std::vector<std::u16string> words;
+    for (std::u16string_view const word : type.keywords()) words.emplace_back(word);
+    if (!words.empty()) return words;
+    std::u16string const syntax = toUtf16(type.syntax());
+    for (std::u16string_view const word : splitValues(syntax, true))
+        if (type.accepts(word)) words.emplace_back(word);
+    if (type.accepts(Xml::colorNames[0].name))
+        for (Xml::ColorName const& color : Xml::colorNames) words.emplace_back(color.name);
+    return words;
+}
+
 } // namespace
 
 std::u16string_view nearestWord(std::u16string_view text, std::vector<std::u16string_view> const& words) {
@@ -69,9 +83,10 @@ Hints hintsFor(ValueType const& type, std::u16string_view text) {
                 hints.variant = toUtf8(variant);
                 break;
             }
-    auto const words = type.keywords();
-    for (std::u16string_view const word : words) hints.accepted.push_back(toUtf8(word));
-    if (hints.variant.empty()) hints.nearest = toUtf8(nearestWord(Core::trim(text), words));
+    for (std::u16string_view const word : type.keywords()) hints.accepted.push_back(toUtf8(word));
+    if (!hints.variant.empty()) return hints;
+    auto const words = wordsOf(type);
+    hints.nearest = toUtf8(nearestWord(Core::trim(text), {words.begin(), words.end()}));
     return hints;
 }
 

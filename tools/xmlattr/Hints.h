@@ -11,7 +11,7 @@ namespace Command {
 struct Hints {
     std::string variant;               // nearly the same text, which the type accepts; or empty
     std::vector<std::string> accepted; // the keywords of an enumeration
-    std::string nearest;               // the keyword that differs by less than half its length; or empty
+    std::string nearest;               // the word that differs by less than half its length; or empty
 };
 
 Hints hintsFor(ValueType const& type, std::u16string_view text);

@@ -9,7 +9,7 @@ struct Row {
 };
 
 // What `types` and `show` tell of a type: all of its syntax, or for an enumeration what it reads
-// besides its keywords. In the order of ValueTypes.inc.
+// besides its keywords. The words in it are suggested to who mistypes one. In the order of ValueTypes.inc.
 constexpr Row rows[] = {
     {"int", "a whole number"},
     {"float", "a number"},
@@ -39,9 +39,10 @@ constexpr Row rows[] = {
     {"LetterSpacing", "normal or a length"},
     {"SSpacing", "normal or an SLength"},
     {"PageDimension", "auto, indefinite or a length"},
-    {"FontSize", "larger, smaller, xx-small to xx-large or a LengthOrPercent"},
-    {"SFontSize", "larger, smaller, xx-small to xx-large or an SLengthOrPercent"},
-    {"FontStretch", "normal, wider, narrower, ultra-condensed to ultra-expanded, inherit or a LengthOrPercent"},
+    {"FontSize", "xx-small, x-small, small, medium, large, x-large, xx-large, larger, smaller or a LengthOrPercent"},
+    {"SFontSize", "xx-small, x-small, small, medium, large, x-large, xx-large, larger, smaller or an SLengthOrPercent"},
+    {"FontStretch", "normal, wider, narrower, ultra-condensed, extra-condensed, condensed, semi-condensed, "
+                    "semi-expanded, expanded, extra-expanded, ultra-expanded, inherit or a LengthOrPercent"},
     {"BackgroundPosition", "left, top, center, right, bottom or a LengthOrPercent"},
     {"BackgroundSize", "auto, contain, cover, stretch, fill or a LengthOrPercent"},
     {"TextAlign", "left, right, center, justify, start, end, inside, outside, relative or a text to align at"},
