@@ -29,7 +29,7 @@ public:
         Key key{&property, {}};
         if (text.size() > sizeof key.text) return judge();
         std::memcpy(key.text.data(), text.data(), text.size());
-        std::uint64_t hash = reinterpret_cast<std::uintptr_t>(&property);
+        auto hash = static_cast<std::uint64_t>(reinterpret_cast<std::uintptr_t>(&property));
         for (std::uint64_t const part : key.text) hash = (hash ^ part) * 0x9E3779B97F4A7C15u;
         Row& row = rows[hash >> 53];
         if (row.key == key) return row.verdict;
