@@ -1,0 +1,144 @@
+// Reading, printing and comparing through the public interface, and the floors beside them. Each
+// benchmark goes over a whole workload; "item" is the time for one of its values or commands, "allocs"
+// is how often each pass asks for memory per text.
+#include "Allocations.h"
+#include "Floors.h"
+#include "Workloads.h"
+
+#include "xmlattr/xmlattr.h"
+
+#include <benchmark/benchmark.h>
+
+#include <string>
+
+using benchmark::Counter;
+using benchmark::State;
+
+namespace Bench {
+
+namespace {
+
+template <class T> std::size_t itemsIn(T const&) {
+    return 1;
+}
+
+template <class T> std::size_t itemsIn(Core::Vector<T> const& list) {
+    return list.size();
+}
+
+// Runs pass(text index) for every text and reports per item.
+template <class Pass> void measure(State& state, Texts const& texts, std::size_t items, Pass pass) {
+    std::size_t const before = allocationCount();
+    for ([[maybe_unused]] auto const& iteration : state)
+        for (std::size_t i = 0; i < texts.size(); ++i) pass(i);
+    auto const allocations = static_cast<double>(allocationCount() - before);
+    state.counters["item"] = Counter(static_cast<double>(items), Counter::kIsIterationInvariantRate | Counter::kInvert);
+    state.counters["allocs"] =
+        allocations / static_cast<double>(state.iterations()) / static_cast<double>(texts.size());
+}
+
+// One workload for one value type, and what is done with it.
+template <class T> class Suite {
+public:
+    Suite(std::string name, Texts texts) : name(std::move(name)), texts(std::move(texts)) {
+        for (Core::String const& text : this->texts) {
+            Xml::TXmlAttribute<T> attribute;
+            if (attribute.parseValue(text)) items += itemsIn(attribute.getValue());
+            values.push_back(attribute);
+        }
+    }
+
+    Suite& parses() {
+        return add("parse", [this](std::size_t i) {
+            Xml::TXmlAttribute<T> attribute;
+            benchmark::DoNotOptimize(attribute.parseValue(texts[i]));
+            benchmark::DoNotOptimize(attribute);
+        });
+    }
+
+    Suite& prints() {
+        return add("print", [this](std::size_t i) { benchmark::DoNotOptimize(values[i].getValueAsString()); });
+    }
+
+    Suite& compares() {
+        return add("isEqual", [this](std::size_t i) { benchmark::DoNotOptimize(values[i].isEqual(texts[i])); });
+    }
+
+    template <class Floor> Suite& floor(char const* what, Floor read) {
+        return add(what, [this, read](std::size_t i) mutable { read(texts[i]); });
+    }
+
+private:
+    template <class Pass> Suite& add(char const* what, Pass pass) {
+        benchmark::RegisterBenchmark((name + "/" + what).c_str(),
+                                     [this, pass](State& state) mutable { measure(state, texts, items, pass); });
+        return *this;
+    }
+
+    std::string name;
+    Texts texts;
+    std::size_t items = 0;
+    std::vector<Xml::TXmlAttribute<T>> values;
+};
+
+// The benchmarks refer to their suite until the program ends.
+template <class T> Suite<T>& suite(char const* name, Texts texts) {
+    return *new Suite<T>(name, std::move(texts)); // NOLINT(cppcoreguidelines-owning-memory)
+}
+
+void readNumbers(Core::String const& text) {
+    static Core::Vector<float> numbers;
+    numbers.clear();
+    Floors::readNumbers(text, numbers);
+    benchmark::DoNotOptimize(numbers.data());
+    benchmark::ClobberMemory();
+}
+
+// The colour object is part of the work.
+void makeColor(Core::String const& text) {
+    unsigned int const rgb = Floors::readHex(text);
+    benchmark::DoNotOptimize(Core::SmartPtr<Drawing::Color>(new Drawing::RGBColor(
+        static_cast<unsigned char>(rgb >> 16), static_cast<unsigned char>(rgb >> 8), static_cast<unsigned char>(rgb))));
+}
+
+// Every text is compared with itself, at another place.
+auto rightWord(Texts const& texts) {
+    return [&texts, i = std::size_t{0}](Core::String const& text) mutable {
+        benchmark::DoNotOptimize(Floors::isRightWord(text, texts[i]));
+        i = i + 1 == texts.size() ? 0 : i + 1;
+    };
+}
+
+template <class T> void keywordSuite(char const* name, Words const& words) {
+    static Texts const texts = drawWords(words);
+    suite<T>(name, texts).parses().floor("floor", rightWord(texts)).prints().compares();
+}
+
+void registerAll() {
+    using Path = Core::Vector<Xml::PathDataCommand>;
+    using Color = Core::SmartPtr<Drawing::Color>;
+    suite<Path>("path-15k", mixedPath(15'000)).parses().floor("floor", readNumbers);
+    suite<Path>("path-1m", mixedPath(1'000'000)).parses().floor("floor", readNumbers);
+    suite<Path>("path-icons", iconPaths()).parses().floor("floor", readNumbers);
+    suite<Core::Vector<Xml::Transform>>("transform", transforms()).parses().floor("floor", readNumbers);
+    suite<Core::Vector<Xml::Point>>("points", pointLists()).parses().floor("floor", readNumbers).prints();
+    suite<Xml::Length>("length", numbersWith(lengthUnits)).parses().floor("floor", readNumbers).prints().compares();
+    suite<Xml::SLength>("slength", numbersWith(sLengthUnits)).parses().floor("floor", readNumbers).compares();
+    suite<Xml::LengthOrPercent>("length-or-percent", numbersWith(bareAndPercent)).parses().prints().compares();
+    suite<Color>("color-name", drawWords(colorNames)).parses().prints().compares();
+    suite<Color>("color-hex", hexColors()).parses().floor("floor", makeColor);
+    suite<Color>("color-rgb", rgbColors()).parses().floor("floor", readNumbers);
+    keywordSuite<Xml::BorderStyle>("keyword-border", borderStyles);
+    keywordSuite<Xml::SDisplay>("keyword-display", displays);
+}
+
+} // namespace
+
+} // namespace Bench
+
+int main(int argc, char** argv) {
+    Bench::registerAll();
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+    benchmark::RunSpecifiedBenchmarks();
+}
