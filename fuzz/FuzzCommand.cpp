@@ -1,0 +1,51 @@
+// Any bytes as a document for the command: its XML reader, its places and its checks.
+#include "Checker.h"
+#include "StyleAttribute.h"
+
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+
+#include "xmlattr/core/Log.h"
+
+namespace {
+
+void require(bool holds, char const* promise) {
+    if (holds) return;
+    std::fprintf(stderr, "%s\n", promise);
+    std::abort();
+}
+
+struct Close {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int*, char***) {
+    Core::Log::setHandler([](Core::String const&) {});
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
+    if (size == 0) return 0;
+    std::string bytes(reinterpret_cast<char const*>(data), size);
+    std::unique_ptr<std::FILE, Close> const file(fmemopen(bytes.data(), size, "r"));
+    require(file != nullptr, "no file");
+    Command::Counts counts;
+    std::uint64_t findings = 0;
+    Command::Checker checker(counts, [&](Command::Finding const& finding) {
+        ++findings;
+        require(finding.place.line >= 1 && finding.place.line <= size, "a finding is in no line of the document");
+        require(finding.place.column >= 1 && finding.place.column <= size + 1, "a finding is in no column");
+        require(finding.message().find('\n') == std::string::npos, "a message has two lines");
+    });
+    auto const failure = Command::readXml(file.get(), checker);
+    require(!failure || (!failure->id.empty() && !failure->message.empty()), "a failure says nothing");
+    require(findings == counts.refused, "findings are lost");
+    require(counts.attributes + counts.declarations == counts.checked + counts.passedOver + counts.refused +
+                                                           counts.identifiers + counts.texts + counts.notCovered(),
+            "an attribute is in no class, or in two");
+    return 0;
+}

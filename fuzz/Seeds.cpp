@@ -1,0 +1,223 @@
+// Writes what the fuzzers begin with into a folder: dictionaries of the words that the types know, and
+// corpora of the attributes of documents.
+//
+//   fuzz_seeds FOLDER DOCUMENT...
+#include "Property.h"
+#include "ValueTypes.h"
+#include "XmlReader.h"
+
+#include "Text.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <memory>
+#include <set>
+#include <string>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// What the types that are no mere keywords are made of, and one text or more of each.
+constexpr char const* grammarWords[] = {"px",
+                                        "pt",
+                                        "pc",
+                                        "cm",
+                                        "mm",
+                                        "in",
+                                        "em",
+                                        "ex",
+                                        "%",
+                                        "e-",
+                                        "e+",
+                                        "1e-9999",
+                                        "1e9999",
+                                        "3.4028235e38",
+                                        "16777217",
+                                        "2147483647",
+                                        "-2147483648",
+                                        "auto",
+                                        "none",
+                                        "normal",
+                                        "medium",
+                                        "thin",
+                                        "larger",
+                                        "smaller",
+                                        "sub",
+                                        "super",
+                                        "left",
+                                        "outside",
+                                        "relative",
+                                        "rect(",
+                                        "rgb(",
+                                        "rgb-icc(",
+                                        "cmyk(",
+                                        "spot-color(",
+                                        "url(",
+                                        ")",
+                                        "#",
+                                        "#ffffff",
+                                        "transparent",
+                                        "red",
+                                        "WindowText",
+                                        "translate(",
+                                        "matrix(",
+                                        "scale(",
+                                        "rotate(",
+                                        "skewX(",
+                                        "skewY(",
+                                        "M",
+                                        "m",
+                                        "z",
+                                        "l",
+                                        "h",
+                                        "v",
+                                        "c",
+                                        "s",
+                                        "q",
+                                        "t",
+                                        "a",
+                                        "xMidYMid",
+                                        "meet",
+                                        "slice",
+                                        "defer",
+                                        "underline",
+                                        "overline",
+                                        "line-through",
+                                        "en-us",
+                                        "multiple-of(",
+                                        "end-on-multiple-of(",
+                                        "is-after(",
+                                        "is-before(",
+                                        "match(",
+                                        "and",
+                                        "FIND_KEYWORD(",
+                                        "year(",
+                                        "quarter(",
+                                        "all",
+                                        "days",
+                                        "2020-01-31",
+                                        "T24:00:00",
+                                        "+01:00",
+                                        "Z",
+                                        "proportional-column-width(",
+                                        "body-start()",
+                                        "label-end()",
+                                        "use-font-metrics",
+                                        "scale-to-fit",
+                                        "cover",
+                                        "ultra-condensed",
+                                        "indefinite",
+                                        "\\x1F",
+                                        "\\xC2\\xA0",
+                                        "\\xED\\xA0\\x80",
+                                        "\\xED\\xB0\\x80"};
+
+constexpr char const* texts[] = {"12pt",
+                                 "-1.5e3cm",
+                                 "50%",
+                                 "1pt 2pt",
+                                 "rect(1pt, 2pt, 3pt, 4pt)",
+                                 "1,2 3,4",
+                                 "rgb(1,2,3)",
+                                 "#fff",
+                                 "rgb-icc(1,2,3,#CMYK,0.1,0.2,0.3,0.4)",
+                                 "cmyk(0.1,20%,30,0)",
+                                 "spot-color(Gold,0.5,rgb(1,2,3))",
+                                 "url(#a) red",
+                                 "url('a b')",
+                                 "translate(1,2) rotate(45deg,1,2),matrix(1 0 0 1 0 0) skewX(3)",
+                                 "M10,20 l3-4 C1 2 3 4 5 6z a1,1 0 01 3,4",
+                                 "0 0 100 100",
+                                 "xMinYMax slice",
+                                 "1px 2px 3px red",
+                                 "underline, overline",
+                                 "en-GB",
+                                 "multiple-of(4)",
+                                 "is-after(a) and match( b )",
+                                 "FIND_KEYWORD(x)",
+                                 "year( date )",
+                                 "2020-01-31T10:20:30.5Z",
+                                 "proportional-column-width(2)",
+                                 "all",
+                                 "1.5",
+                                 "auto",
+                                 "none"};
+
+void write(fs::path const& file, std::string_view text) {
+    fs::create_directories(file.parent_path());
+    std::ofstream(file, std::ios::binary) << text;
+}
+
+std::string inDictionary(std::string_view word) {
+    if (word.empty()) return {};
+    std::string line = "\"";
+    for (char const c : word) line += c == '"' ? "\\\"" : std::string(1, c);
+    return line + "\"\n";
+}
+
+struct Seeds final : Command::XmlHandler {
+    explicit Seeds(fs::path const& folder) : folder(folder) {}
+
+    void addValue(std::size_t type, std::string_view text) {
+        write(folder / "values" / std::to_string(++count), static_cast<char>(type) + std::string(text));
+        write(folder / "numbers" / std::to_string(count), std::string(12, '?') + std::string(text));
+    }
+
+    void startElement(Command::XmlElement const& element, Tag&) override {
+        auto const vocabulary = Xml::Catalogue::vocabularyOf(element.space);
+        if (!vocabulary) return;
+        elementNames.emplace(element.name);
+        for (auto const& attribute : element.attributes) {
+            elementNames.emplace(attribute.name);
+            auto const* const property = Command::findProperty(*vocabulary, element.name, attribute.name);
+            if (property && property->type)
+                addValue(static_cast<std::size_t>(property->type - Command::valueTypes().data()), attribute.value);
+        }
+    }
+
+    fs::path const& folder;
+    int count = 0;
+    std::set<std::string> elementNames;
+};
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc < 2) return 2;
+    fs::path const folder = argv[1];
+    Seeds seeds(folder);
+    std::set<std::string> words;
+    auto const types = Command::valueTypes();
+    for (std::size_t i = 0; i < types.size(); ++i) {
+        for (std::u16string_view const word : types[i].keywords()) {
+            words.insert(Command::toUtf8(word));
+            seeds.addValue(i, Command::toUtf8(word));
+        }
+        if (!types[i].isEnumeration)
+            for (char const* const text : texts) seeds.addValue(i, text);
+    }
+    for (int i = 2; i < argc; ++i) {
+        std::ifstream file(argv[i], std::ios::binary);
+        std::string const bytes(std::istreambuf_iterator<char>(file), {});
+        write(folder / "command" / fs::path(argv[i]).filename(), bytes);
+        std::FILE* const document = std::fopen(argv[i], "rb");
+        if (!document) return 1;
+        Command::readXml(document, seeds);
+        std::fclose(document);
+    }
+    std::string dictionary, xml;
+    for (std::string const& word : words) dictionary += inDictionary(word);
+    for (char const* const word : grammarWords) dictionary += inDictionary(word);
+    for (std::string const& name : seeds.elementNames) xml += inDictionary(name) + inDictionary(" " + name + "=\"");
+    for (char const* const word :
+         {"<!DOCTYPE a [", "<!ENTITY e \"", "&e;", "]>", "<![CDATA[", "<?xml version=\"1.0\" encoding=\"",
+          "windows-1252", "UTF-16", " xmlns:x=\"", " xmlns=\"http://www.w3.org/2000/svg\"", "/>"})
+        xml += inDictionary(word);
+    write(folder / "values.dict", dictionary);
+    write(folder / "numbers.dict", dictionary);
+    write(folder / "command.dict", dictionary + xml);
+    return 0;
+}

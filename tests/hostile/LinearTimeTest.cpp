@@ -1,0 +1,89 @@
+#include "xmlattr/Instantiations.h"
+#include "xmlattr/core/Log.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <string>
+#include <string_view>
+
+namespace Xml {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using Microseconds = std::chrono::duration<double, std::micro>;
+
+#if defined(NDEBUG)
+constexpr std::size_t largest = 1 << 20;
+#else
+constexpr std::size_t largest = 1 << 16;
+#endif
+
+// Texts of these alone, repeated.
+constexpr std::u16string_view pieces[] = {
+    u"(",    u")",       u",",          u"-",           u"and",      u"M",   u"9",         u" ",
+    u"url(", u".",       u"1,",         u"1 ",          u"-1e-9 ",   u"z",   u"m",         u"a1",
+    u"none", u"'",       u"#",          u"match(a)and", u"f(",       u"()",  u"rotate(1)", u"matrix(",
+    u"1px ", u"1,2%mm ", u"underline,", u"rgb(1,2,3) ", u"rgb-icc(", u"\xA0"};
+// What stands before them, so that readers go on to look at them, and behind.
+constexpr struct {
+    std::u16string_view before, behind;
+} frames[] = {{u"url(", u""},        {u"rect(", u")"}, {u"spot-color(", u")"}, {u"rgb-icc(", u")"}, {u"M", u""},
+              {u"translate(", u")"}, {u"1", u"px"},    {u"is-after(", u")"},   {u"year(", u")"}};
+
+template <class T> double microseconds(Core::String const& text) {
+    TXmlAttribute<T> attribute;
+    auto const start = Clock::now();
+    attribute.parseValue(text);
+    attribute.getValueAsString();
+    return Microseconds(Clock::now() - start).count();
+}
+
+struct Type {
+    char const* name;
+    double (*microseconds)(Core::String const& text);
+};
+
+constexpr Type types[] = {
+#define XMLATTR_PUBLIC_VALUE(...) {#__VA_ARGS__, microseconds<__VA_ARGS__>},
+#define XMLATTR_INTERNAL_VALUE(...) {#__VA_ARGS__, microseconds<__VA_ARGS__>},
+#include "xmlattr/ValueTypes.inc"
+};
+
+// Doubles the text of a shape for each type. What is below the floor is noise; what seems to take
+// more than three times as long is measured again, since a busy machine stops a program at any time.
+void expectLinear(std::u16string_view piece, std::u16string_view before, std::u16string_view behind) {
+    constexpr double floor = 300; // a quadratic reader takes a thousand times as long in the end
+    double last[std::size(types)];
+    std::ranges::fill(last, floor);
+    Core::String text, shorter;
+    std::u16string body(before);
+    for (std::size_t size = 1 << 10; size <= largest; size *= 2) {
+        while (body.size() < size) body += piece;
+        text = Core::String(body) + behind;
+        for (std::size_t i = 0; i < std::size(types); ++i) {
+            double time = std::max(types[i].microseconds(text), floor);
+            for (int retry = 0; time > 3 * last[i] && retry < 20; ++retry) {
+                time = std::max(std::min(time, types[i].microseconds(text)), floor);
+                last[i] = std::max(last[i], types[i].microseconds(shorter));
+            }
+            ASSERT_LE(time, 3 * last[i]) << types[i].name << " takes too long for " << text.length() << " units of \""
+                                         << Core::String(piece).toUtf8() << "\" behind \""
+                                         << Core::String(before).toUtf8() << '"';
+            last[i] = time;
+        }
+        shorter = text;
+    }
+}
+
+TEST(LinearTime, TimeDoublesWithTheText) {
+    auto const handler = Core::Log::setHandler([](Core::String const&) {});
+    for (std::u16string_view const piece : pieces) expectLinear(piece, {}, {});
+    for (auto const& [before, behind] : frames)
+        for (std::u16string_view const piece : {u",", u" ", u"9", u"(", u"-"}) expectLinear(piece, before, behind);
+    Core::Log::setHandler(handler);
+}
+
+} // namespace
+} // namespace Xml
