@@ -3,6 +3,7 @@
 #include "xmlattr/core/NumberReader.h"
 #include "xmlattr/core/Text.h"
 
+#include <algorithm>
 #include <cfloat>
 #include <charconv>
 #include <climits>
@@ -48,9 +49,9 @@ Integer scanInteger(std::u16string_view text) noexcept {
 }
 
 String widen(char const* begin, char const* end, std::u16string_view suffix = {}) {
-    std::u16string out;
-    out.reserve(static_cast<std::size_t>(end - begin) + suffix.size());
-    out.append(begin, end).append(suffix);
+    // Filled in place: appending units of another type would make a second string.
+    std::u16string out(static_cast<std::size_t>(end - begin) + suffix.size(), u'\0');
+    std::copy(suffix.begin(), suffix.end(), std::copy(begin, end, out.begin()));
     return String(std::move(out));
 }
 
