@@ -104,7 +104,9 @@ template <class T> void expectFewAllocations(char const* type, Core::String cons
     }
     Core::String printed;
     std::size_t const prints = countOf([&] { printed = attribute.getValueAsString(); });
-    if (!printsList<T>) EXPECT_LE(prints, 1u) << type << " prints " << text.toUtf8();
+    if (!printsList<T>) {
+        EXPECT_LE(prints, 1u) << type << " prints " << text.toUtf8();
+    }
 }
 
 TEST(Allocations, ScalarsReadWithoutAnyAndPrintWithOne) {
@@ -134,7 +136,9 @@ template <class T> void expectModestMemory(char const* type, Core::String const&
     TXmlAttribute<T> attribute;
     bool const accepted = attribute.parseValue(text);
     std::size_t const kept = allocations.live - before, peak = allocations.peak - before;
-    if (accepted) EXPECT_LE(peak, 4 * kept + 1024) << type << " reads " << text.subString(0, 12).toUtf8();
+    if (accepted) {
+        EXPECT_LE(peak, 4 * kept + 1024) << type << " reads " << text.subString(0, 12).toUtf8();
+    }
 }
 
 TEST(Allocations, MemoryGrowsWithWhatIsStored) {
