@@ -6,6 +6,7 @@
 
 #include "xmlattr/core/Log.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <memory>
@@ -62,17 +63,15 @@ int check(CheckOptions const& options) {
     std::unique_ptr<Reporter> const reporter =
         options.format == OutputFormat::Json ? makeJsonReporter() : makeTextReporter(usesColor(options.color));
     Counts counts;
-    std::uint64_t shown = 0;
     Progress progress(list.files.size(), !options.isQuiet);
     for (std::string const& file : list.files) {
         std::string const& name = file == "-" ? options.stdinName : file;
         progress.next(name);
-        Checker checker(counts, [&](Finding const& finding) {
-            if (shown == options.maxFindings) return;
-            ++shown;
+        auto const report = [&](Finding const& finding) {
             progress.clear();
             reporter->finding(name, finding);
-        });
+        };
+        Checker checker(counts, report, options.maxFindings);
         ++counts.files;
         OpenFile const opened(file == "-" ? stdin : std::fopen(file.c_str(), "rb"));
         std::optional<XmlFailure> const failure =
@@ -84,7 +83,7 @@ int check(CheckOptions const& options) {
         reporter->failure(name, *failure);
     }
     progress.clear();
-    if (!options.isQuiet) reporter->summary(counts, shown);
+    if (!options.isQuiet) reporter->summary(counts, std::min(counts.refused, options.maxFindings));
     flushOutput();
     return counts.failedFiles > 0 || !list.problems.empty() ? 2 : counts.refused > 0 ? 1 : 0;
 }

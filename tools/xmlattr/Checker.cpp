@@ -91,6 +91,7 @@ void Checker::checkTyped(Occurrence const& occurrence, Property const& property)
         ++counts.passedOver;
         return;
     }
+    if (!isToBeReported()) return;
     Finding finding;
     finding.types.emplace_back(property.type->name);
     finding.hints = hintsFor(*property.type, text);
@@ -110,6 +111,7 @@ void Checker::checkShorthand(Occurrence const& occurrence, Property const& prope
     case Verdict::NotCovered: ++counts.noType; return;
     case Verdict::Refused: break;
     }
+    if (!isToBeReported()) return;
     Finding finding;
     finding.part = found.part;
     finding.problem = found.problem;
@@ -134,7 +136,6 @@ void Checker::checkStyle(Occurrence const& occurrence) {
 }
 
 void Checker::refuse(Occurrence const& occurrence, Finding finding) {
-    ++counts.refused;
     RawTag& tag = occurrence.tag.raw();
     finding.place =
         occurrence.isDeclaration ? tag.inValue(occurrence.number, occurrence.offset) : tag.attribute(occurrence.number);

@@ -43,7 +43,9 @@ class Checker final : public XmlHandler {
 public:
     using Report = std::function<void(Finding const& finding)>;
 
-    Checker(Counts& counts, Report report) : counts(counts), report(std::move(report)) {}
+    // Refusals are counted on when `maxFindings` of them have been reported.
+    Checker(Counts& counts, Report report, std::uint64_t maxFindings = UINT64_MAX)
+        : counts(counts), report(std::move(report)), maxFindings(maxFindings) {}
 
     void startElement(XmlElement const& element, Tag& tag) override;
 
@@ -54,10 +56,12 @@ private:
     void checkTyped(Occurrence const& occurrence, Property const& property);
     void checkShorthand(Occurrence const& occurrence, Property const& property);
     void checkStyle(Occurrence const& occurrence);
+    bool isToBeReported() { return counts.refused++ < maxFindings; }
     void refuse(Occurrence const& occurrence, Finding finding);
 
     Counts& counts;
     Report report;
+    std::uint64_t maxFindings;
     VerdictCache cache;
     std::u16string text; // of the attribute at hand, kept for its memory
     std::string prefixed;
