@@ -15,7 +15,7 @@ namespace {
 
 // Runs the work in four threads, so often in each, and waits for them.
 template <class Work> void inThreads(Work work) {
-    constexpr int threadCount = 4, rounds = 300;
+    constexpr int threadCount = 4, rounds = 2000;
     std::vector<std::thread> threads;
     for (int thread = 0; thread < threadCount; ++thread)
         threads.emplace_back([=] {
