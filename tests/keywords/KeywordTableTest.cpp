@@ -121,6 +121,24 @@ TEST(KeywordTable, RefusesWhatNeighboursAccept) {
     EXPECT_FALSE(number<OriginalInputFormat>(u"XLSFO") || number<OriginalInputFormat>(u"XSLFO"));
 }
 
+TEST(KeywordTable, FindsWhatComparingEveryWordFinds) {
+    // Three words of one mark, which are told apart by comparing them.
+    static constexpr KeywordRow<Break> rows[] = {
+        {u"a-bxc-d", Break::Auto}, {u"ab-x-cd", Break::Column}, {u"a--x--d", Break::Page}, {u"x", Break::OddPage}};
+    for (Case const rule : {Case::Exact, Case::Any}) {
+        auto const table = rule == Case::Any ? detail::packedTable<rows, Case::Any>.view()
+                                             : detail::packedTable<rows, Case::Exact>.view();
+        for (char16_t const* text : {u"a-bxc-d", u"ab-x-cd", u"a--x--d", u"A--X--D", u"a-axa-d", u"x", u"xx", u""}) {
+            auto const* const row = detail::findWord(table.rows, table.letters, text, rule);
+            EXPECT_EQ(row, detail::findWordSlowly(table, text, rule)) << narrow(text);
+            bool const isWord = std::ranges::any_of(rows, [&](auto const& each) {
+                return rule == Case::Any ? Core::equalsNoCase(each.word, text) : each.word == text;
+            });
+            EXPECT_EQ(row != nullptr, isWord) << narrow(text);
+        }
+    }
+}
+
 TEST(KeywordTable, FailedParseLeavesTheValueAndEqualsNothing) {
     TXmlAttribute<BorderStyle> style(BorderStyle::Dashed);
     EXPECT_FALSE(style.parseValue(u"Solid"));

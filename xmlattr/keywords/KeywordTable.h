@@ -54,8 +54,20 @@ concept KeywordsFallBack = !Keywords<E>::unknownPrints.empty();
 
 namespace detail {
 
+// The length of a word and its first, middle and last code unit, in lower case where case does not
+// matter. Words with different marks are different.
+constexpr std::uint64_t markOf(std::u16string_view word, Case rule) {
+    if (word.empty()) return 0;
+    auto const at = [&](std::size_t index) {
+        return std::uint64_t{rule == Case::Any ? Core::toLower(word[index]) : word[index]};
+    };
+    std::size_t const size = word.size();
+    return at(0) << 48 | at(size / 2) << 32 | at(size - 1) << 16 | (size & 0xFFFF);
+}
+
 // A row of a packed table: the place of its word among the letters of all words.
 struct PackedKeyword {
+    std::uint64_t mark;
     std::int32_t value;
     std::uint16_t start, length;
 };
@@ -68,10 +80,14 @@ struct KeywordView {
     constexpr std::u16string_view word(PackedKeyword const& row) const { return {letters + row.start, row.length}; }
 };
 
-// The row whose word is the text, or null. A word of another length is never compared.
-PackedKeyword const* findWord(KeywordView table, std::u16string_view text, Case rule);
+// The row whose word is the text, or null. Only words whose mark is the text's are compared. The table
+// comes in two arguments, which are passed in registers; as one it would go through memory.
+PackedKeyword const* findWord(std::span<PackedKeyword const> rows, char16_t const* letters, std::u16string_view text,
+                              Case rule);
+// The same answer from comparing every word.
+PackedKeyword const* findWordSlowly(KeywordView table, std::u16string_view text, Case rule);
 // The first row with the value, or null.
-PackedKeyword const* findValue(KeywordView table, std::int32_t value);
+PackedKeyword const* findValue(std::span<PackedKeyword const> rows, std::int32_t value);
 [[noreturn]] void throwUnknownKeyword();
 
 template <auto const& rows> consteval std::size_t countLetters() {
@@ -80,7 +96,7 @@ template <auto const& rows> consteval std::size_t countLetters() {
     return count;
 }
 
-template <auto const& rows> struct PackedTable {
+template <auto const& rows, Case rule> struct PackedTable {
     std::array<PackedKeyword, std::size(rows)> packed{};
     std::array<char16_t, countLetters<rows>() + 1> letters{};
 
@@ -88,7 +104,7 @@ template <auto const& rows> struct PackedTable {
         std::uint16_t start = 0;
         for (std::size_t i = 0; i < std::size(rows); ++i) {
             auto const length = static_cast<std::uint16_t>(rows[i].word.size());
-            packed[i] = {static_cast<std::int32_t>(rows[i].value), start, length};
+            packed[i] = {markOf(rows[i].word, rule), static_cast<std::int32_t>(rows[i].value), start, length};
             for (char16_t const unit : rows[i].word) letters[start++] = unit;
         }
     }
@@ -96,7 +112,7 @@ template <auto const& rows> struct PackedTable {
     constexpr KeywordView view() const { return {packed, letters.data()}; }
 };
 
-template <auto const& rows> inline constexpr PackedTable<rows> packedTable;
+template <auto const& rows, Case rule> inline constexpr PackedTable<rows, rule> packedTable;
 
 template <auto const& rows, class Same> consteval bool hasTwins(Same same) {
     for (auto const* row = std::begin(rows); row != std::end(rows); ++row)
@@ -124,9 +140,9 @@ template <class E> consteval bool hasDuplicatePrints() {
 
 template <class E> constexpr KeywordView printTable() {
     if constexpr (requires { Keywords<E>::printRows; })
-        return packedTable<Keywords<E>::printRows>.view();
+        return packedTable<Keywords<E>::printRows, Keywords<E>::rule>.view();
     else
-        return packedTable<Keywords<E>::rows>.view();
+        return packedTable<Keywords<E>::rows, Keywords<E>::rule>.view();
 }
 
 } // namespace detail
@@ -144,15 +160,16 @@ template <KeywordEnumeration E> struct KeywordTraits {
                   "a value without a keyword prints in one way");
 
     static bool parse(E& value, std::u16string_view text) {
-        auto const* const row =
-            detail::findWord(detail::packedTable<Keywords<E>::rows>.view(), text, Keywords<E>::rule);
+        constexpr detail::KeywordView table = detail::packedTable<Keywords<E>::rows, Keywords<E>::rule>.view();
+        auto const* const row = detail::findWord(table.rows, table.letters, text, Keywords<E>::rule);
         if (row) value = static_cast<E>(row->value);
         return row != nullptr;
     }
 
     static Core::String print(E const& value) requires(!KeywordsPrintEmpty<E>) {
         constexpr detail::KeywordView table = detail::printTable<E>();
-        if (auto const* const row = detail::findValue(table, static_cast<std::int32_t>(value))) return table.word(*row);
+        if (auto const* const row = detail::findValue(table.rows, static_cast<std::int32_t>(value)))
+            return table.word(*row);
         if constexpr (KeywordsThrow<E>)
             detail::throwUnknownKeyword();
         else if constexpr (KeywordsFallBack<E>)
