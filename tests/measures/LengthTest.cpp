@@ -34,6 +34,36 @@ TEST(Length, ReadsANumberWithItsUnit) {
     EXPECT_EQ(printed<Length>(u"0.33333in"), "0.333in");
 }
 
+TEST(Length, PlainNumbersAreReadLikeAllOthers) {
+    std::u16string_view const numbers[] = {u"",
+                                           u"0",
+                                           u"-0",
+                                           u"+12",
+                                           u"12.5",
+                                           u".5",
+                                           u"5.",
+                                           u"-",
+                                           u"1e2",
+                                           u"1e",
+                                           u"1 ",
+                                           u" 1",
+                                           u"9007199254740993",
+                                           u"0.00000000000000000000001",
+                                           u"1e39"};
+    for (std::u16string_view const number : numbers)
+        for (std::u16string_view const suffix : {u"", u"%", u"pt", u"ex", u"px", u"e2", u"e+", u"x%", u"x.", u"%%",
+                                                 u"5%", u"x", u" ", u"  ", u"e22", u"\u00A0", u"ptpt"}) {
+            Core::String const text = Core::String(number) + suffix;
+            SCOPED_TRACE(narrow(text));
+            Length fast(7, Length::Cm), slow = fast;
+            EXPECT_EQ(AttributeTraits<Length>::parse(fast, text), AttributeTraits<Length>::parseSlowly(slow, text));
+            EXPECT_TRUE(fast == slow);
+            SLength svg(7, SLength::Cm), slowSvg = svg;
+            EXPECT_EQ(AttributeTraits<SLength>::parse(svg, text), AttributeTraits<SLength>::parseSlowly(slowSvg, text));
+            EXPECT_TRUE(svg == slowSvg);
+        }
+}
+
 TEST(Length, ConvertsAtNinetySixPixelsToTheInch) {
     struct Row {
         Length length;

@@ -41,13 +41,22 @@ Core::String Length::getValueAsString(Length const& length) {
 }
 
 bool AttributeTraits<Length>::parse(Length& value, std::u16string_view text) {
+    if (PlainMeasure const plain(text); plain.hasUnit()) {
+        auto const* const row = findSuffix<lengthUnitRows>(plain.suffix);
+        if (row) value = Length(plain.number, row->unit);
+        return row != nullptr;
+    }
+    return parseSlowly(value, text);
+}
+
+bool AttributeTraits<Length>::parseSlowly(Length& value, std::u16string_view text) {
     if (!startsLikeNumber(text)) return false;
     if (text.size() < 3) {
         if (text != u"0") return false;
         value = Length(0, Length::Pt); // Intended: points, not the pixels of the default length
         return true;
     }
-    auto const* const row = findSuffix(lengthUnitRows, text);
+    auto const* const row = findSuffix<lengthUnitRows>(text);
     float size = 0;
     if (!row || !Core::Format::parseFloat(text.substr(0, text.size() - 2), size)) return false;
     value = Length(size, row->unit);

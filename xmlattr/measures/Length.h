@@ -51,6 +51,8 @@ static_assert(sizeof(Length) == 8);
 
 template <> struct AttributeTraits<Length> {
     static bool parse(Length& value, std::u16string_view text);
+    // The same without the short way for plain numbers.
+    static bool parseSlowly(Length& value, std::u16string_view text);
     static Core::String print(Length const& value);
 };
 

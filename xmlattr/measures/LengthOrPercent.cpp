@@ -17,7 +17,7 @@ bool readLength(LengthOrPercent& value, std::u16string_view text) {
     std::size_t const suffix = std::min<std::size_t>(text.size(), 2);
     float number = 0;
     if (!Core::Format::parseFloat(text.substr(0, text.size() - suffix), number)) return false;
-    auto const* const row = findSuffix(lengthUnitRows, text);
+    auto const* const row = findSuffix<lengthUnitRows>(text);
     value = LengthOrPercent(Length(number, row ? row->unit : Length::Px));
     return true;
 }

@@ -7,6 +7,14 @@
 
 namespace Xml {
 
+namespace {
+
+SLength asPercent(float number) {
+    return {static_cast<float>(number / 100.0), SLength::Percent};
+}
+
+} // namespace
+
 float SLength::pxSize() const {
     if (unit == UserUnit || unit == Percent) return size;
     if (auto const* row = findUnit(sLengthUnitRows, unit)) return row->toPixels.of(size);
@@ -18,11 +26,24 @@ bool SLength::parseSLength(SLength& out, Core::String const& text) {
 }
 
 bool AttributeTraits<SLength>::parse(SLength& value, std::u16string_view text) {
+    PlainMeasure const plain(text);
+    if (plain.hasUnit())
+        value = withSuffix(plain.number, plain.suffix);
+    else if (plain.isPercent())
+        value = asPercent(plain.number);
+    else if (plain.isBare())
+        value = SLength(plain.number, SLength::UserUnit);
+    else
+        return parseSlowly(value, text);
+    return true;
+}
+
+bool AttributeTraits<SLength>::parseSlowly(SLength& value, std::u16string_view text) {
     if (text.empty()) return false;
     float number = 0;
     if (text.size() > 1 && text.back() == u'%') {
         if (!Core::Format::parseFloat(text.substr(0, text.size() - 1), number)) return false;
-        value = SLength(static_cast<float>(number / 100.0), SLength::Percent);
+        value = asPercent(number);
         return true;
     }
     if (Core::isDigit(text.back())) {

@@ -44,7 +44,11 @@ private:
 
 static_assert(sizeof(SLength) == 8);
 
-template <> struct AttributeTraits<SLength> { static bool parse(SLength& value, std::u16string_view text); };
+template <> struct AttributeTraits<SLength> {
+    static bool parse(SLength& value, std::u16string_view text);
+    // The same without the short way for plain numbers.
+    static bool parseSlowly(SLength& value, std::u16string_view text);
+};
 
 // An SVG length or nothing. A parse that succeeds makes it present; one that fails changes nothing.
 // Comparing takes the lengths alone.

@@ -13,13 +13,18 @@ inline constexpr UnitRow<SLength::Unit> sLengthUnitRows[] = {
     {u"pc", SLength::Pc, PixelRatio::pc},
 };
 
-// Reads a number before the last two code units of the text. Intended: a pair that is no unit, "px"
+// A number with the unit that the text ends with. Intended: a pair of code units that is no unit, "px"
 // included, is dropped and gives user units.
+inline SLength withSuffix(float number, std::u16string_view text) {
+    auto const* const row = findSuffix<sLengthUnitRows>(text);
+    return {number, row ? row->unit : SLength::UserUnit};
+}
+
+// Reads a number before the last two code units of the text.
 inline bool readWithSuffix(SLength& value, std::u16string_view text) {
-    auto const* const row = findSuffix(sLengthUnitRows, text);
     float number = 0;
     if (!Core::Format::parseFloat(text.substr(0, text.size() - 2), number)) return false;
-    value = SLength(number, row ? row->unit : SLength::UserUnit);
+    value = withSuffix(number, text);
     return true;
 }
 
