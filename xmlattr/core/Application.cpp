@@ -4,6 +4,7 @@
 #include "xmlattr/core/Log.h"
 #include "xmlattr/core/Text.h"
 
+#include <atomic>
 #include <cstdlib>
 #include <fstream>
 #include <functional>
@@ -46,11 +47,14 @@ Values readFile(char const* path) {
 struct Configuration {
     std::shared_mutex mutex;
     Values values;
+    // Known without the lock: in most programs there is nothing to look for.
+    std::atomic<bool> isEmpty = true;
 
     // A program cannot set a value before the library is loaded, and two values are read just
     // then; so whoever starts the program may name a file of values.
     Configuration() {
         if (char const* path = std::getenv("XMLATTR_CONFIG"); path && *path) values = readFile(path);
+        isEmpty = values.empty();
     }
 };
 
@@ -61,6 +65,7 @@ Configuration& configuration() {
 
 // Calls use(value) under the reader's lock when the key has a value.
 template <class Use> auto withValue(std::u16string_view key, Use use) {
+    if (configuration().isEmpty.load(std::memory_order_acquire)) return use(nullptr);
     std::shared_lock const lock(configuration().mutex);
     Values const& values = configuration().values;
     auto const found = values.find(key);
@@ -88,11 +93,13 @@ bool Application::isConfigValue(std::u16string_view key, std::u16string_view val
 void Application::setConfigValue(String const& key, String const& value) {
     std::unique_lock const lock(configuration().mutex);
     configuration().values.insert_or_assign(std::u16string(key), std::u16string(value));
+    configuration().isEmpty = false;
 }
 
 void Application::clearConfig() {
     std::unique_lock const lock(configuration().mutex);
     configuration().values.clear();
+    configuration().isEmpty = true;
 }
 
 } // namespace Core
