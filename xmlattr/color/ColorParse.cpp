@@ -182,11 +182,11 @@ Core::String printSpot(Drawing::SpotColor const& color) {
 } // namespace
 
 bool AttributeTraits<ColorPtr>::parse(ColorPtr& value, std::u16string_view text) {
+    if (text.starts_with(u'#')) return readHexa(value, text); // first, since it is the most frequent
     if (text.starts_with(u"rgb-icc"sv)) return readICC(value, text);
     if (text.starts_with(u"spot-color"sv)) return readSpot(value, text);
     if (text.starts_with(u"rgb"sv)) return Drawing::readRGB(value, text);
     if (text.starts_with(u"cmyk"sv)) return Drawing::readCMYK(value, text);
-    if (text.starts_with(u'#')) return readHexa(value, text);
     return readName(value, text);
 }
 

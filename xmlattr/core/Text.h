@@ -3,6 +3,8 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 #include <string_view>
 
 namespace Core {
@@ -18,10 +20,19 @@ constexpr bool isDigit(char16_t unit) noexcept {
     return unit >= u'0' && unit <= u'9';
 }
 
+// Digits and letters come in no order that could be predicted: a table needs no branch between them.
+inline constexpr auto hexDigits = [] {
+    std::array<signed char, 128> values{};
+    values.fill(-1);
+    signed char value = 0;
+    for (char16_t digit = u'0'; digit <= u'9'; ++digit) values[digit] = value++;
+    for (char16_t letter = u'a'; letter <= u'f'; ++letter) values[letter] = values[letter - u'a' + u'A'] = value++;
+    return values;
+}();
+
 // The value of a hexadecimal digit of either case, -1 for every other code unit.
 constexpr int hexDigit(char16_t unit) noexcept {
-    int const digit = unit - u'0', letter = (unit | 0x20) - u'a';
-    return digit >= 0 && digit < 10 ? digit : letter >= 0 && letter < 6 ? letter + 10 : -1;
+    return unit < hexDigits.size() ? hexDigits[unit] : -1;
 }
 
 // Folds ASCII letters only, whatever the locale.
