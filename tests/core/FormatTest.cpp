@@ -82,7 +82,7 @@ TEST(Format, ReadsAMillionNumbersLikeTheStandardLibrary) {
         float plain = 42;
         char16_t const *const begin = units.data(), *const behind = scanPlain(begin, begin + units.size(), plain);
         ASSERT_TRUE(!behind || isDigit(behind[-1])) << text;
-        ASSERT_TRUE(!behind || toFloat(scanDecimal({begin, behind}), slow)) << text;
+        ASSERT_TRUE(!behind || toFloatSlowly(scanDecimal({begin, behind}), slow)) << text;
         ASSERT_EQ(std::bit_cast<std::uint32_t>(plain), std::bit_cast<std::uint32_t>(behind ? slow : 42)) << text;
     }
 }
@@ -198,6 +198,17 @@ TEST(Format, MeasuresHaveThreeDecimalsAtMost) {
                            Row{1e21, "1000000000000000000000"}})
         EXPECT_EQ(Format::toMeasure(row.value).toUtf8(), row.text);
     EXPECT_EQ(Format::toMeasure(DBL_MAX, u"pt").length(), 311);
+}
+
+TEST(Format, TheShortWayOfMeasuresPrintsLikeTheStandardLibrary) {
+    NumberTexts texts;
+    for (int i = 0; i < 300'000; ++i) {
+        // Ties at every place, then floats of any size and percentages.
+        double const value = i < 40'000 ? (i - 20'000) / 16.0 : texts.anyFloat() * (i % 2 ? 1.0 : 100.0);
+        ASSERT_EQ(Format::toMeasure(value, u"pt"), toMeasureSlowly(value, u"pt")) << value;
+        double const small = std::fmod(value, 2000);
+        ASSERT_EQ(Format::toMeasure(small), toMeasureSlowly(small, {})) << small;
+    }
 }
 
 TEST(StringFormatStream, FillsPlaceholdersByNumber) {

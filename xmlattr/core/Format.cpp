@@ -4,10 +4,12 @@
 #include "xmlattr/core/Text.h"
 
 #include <algorithm>
+#include <bit>
 #include <cfloat>
 #include <charconv>
 #include <climits>
 #include <cmath>
+#include <cstdint>
 #include <iterator>
 
 namespace Core {
@@ -60,6 +62,32 @@ template <class T> String shortest(T value) {
     return widen(buffer, std::to_chars(buffer, std::end(buffer), value).ptr);
 }
 
+// Whether 1000 times the value is a double without rounding and below 2^53. 1000 has ten bits, so
+// that the product has at most 53 when the value lacks the last ten of its own. Every float does,
+// and 100 times a float, as percentages are printed.
+bool hasExactThousandths(double value) noexcept {
+    constexpr std::uint64_t lastTenBits = 0x3FF;
+    return std::abs(value) < 1e9 && (std::bit_cast<std::uint64_t>(value) & lastTenBits) == 0;
+}
+
+// Writes a value with exact thousandths as the pattern "0.###" does and gives the end. The one
+// rounding is that of an exact product to an integer, ties to even.
+char* printThousandths(char* out, double value) noexcept {
+    double const exact = std::abs(value) * 1000;
+    auto thousandths = static_cast<std::int64_t>(exact);
+    double const rest = exact - static_cast<double>(thousandths);
+    thousandths += rest > 0.5 || (rest == 0.5 && thousandths % 2 != 0);
+
+    if (value < 0 && thousandths != 0) *out++ = '-';
+    out = std::to_chars(out, out + 12, thousandths / 1000).ptr;
+    auto const fraction = static_cast<int>(thousandths % 1000);
+    if (fraction == 0) return out;
+    *out++ = '.';
+    for (int left = fraction, place = 100; left != 0; left %= place, place /= 10)
+        *out++ = static_cast<char>('0' + left / place);
+    return out;
+}
+
 } // namespace
 
 bool Format::parseFloat(std::u16string_view text, float& value) noexcept {
@@ -68,9 +96,9 @@ bool Format::parseFloat(std::u16string_view text, float& value) noexcept {
         return true;
     }
     std::u16string_view const trimmed = trim(text);
-    char16_t const* const end = trimmed.data() + trimmed.size();
     float plain = 0;
-    if (!trimmed.empty() && scanPlain(trimmed.data(), end, plain) == end) {
+    char16_t const* const rest = scanPlain(trimmed.data(), trimmed.data() + trimmed.size(), plain);
+    if (rest && endsNumber(rest, trimmed)) {
         value = plain;
         return true;
     }
@@ -112,6 +140,14 @@ bool Format::parseHexInt(std::u16string_view text, int& value) noexcept {
 }
 
 String Format::toMeasure(double value, std::u16string_view suffix) {
+    if (hasExactThousandths(value)) {
+        char buffer[24];
+        return widen(buffer, printThousandths(buffer, value), suffix);
+    }
+    return toMeasureSlowly(value, suffix);
+}
+
+String toMeasureSlowly(double value, std::u16string_view suffix) {
     // The largest double has 309 digits before its point.
     char buffer[336];
     char* end = std::to_chars(buffer, std::end(buffer), value, std::chars_format::fixed, 3).ptr;

@@ -44,4 +44,7 @@ public:
     static String toShortest(int value);
 };
 
+// Format::toMeasure without its short way: the same answer from the standard library.
+String toMeasureSlowly(double value, std::u16string_view suffix);
+
 } // namespace Core
