@@ -2,6 +2,7 @@
 
 #include "Support.h"
 #include "xmlattr/core/OSInfo.h"
+#include "xmlattr/drawing/ColorText.h"
 #include "xmlattr/drawing/SpotColor.h"
 
 #include <thread>
@@ -13,6 +14,27 @@ template <class Kind> SmartPtr<Kind> cloneOf(SmartPtr<Kind> const& color) {
     SmartPtr<Color> const clone = color->clone();
     EXPECT_FALSE(clone == color);
     return dynamic_cast<Kind*>(clone.get());
+}
+
+TEST(Color, PlainComponentsAreReadLikeAllOthers) {
+    auto const result = [](auto read, std::u16string_view text) {
+        SmartPtr<Color> color;
+        if (!read(color, text)) return -1;
+        auto const& rgb = dynamic_cast<RGBColor const&>(*color);
+        return rgb.getR() << 16 | rgb.getG() << 8 | rgb.getB();
+    };
+    std::u16string_view const components[] = {u"0",    u"255",   u"300",   u"1234", u"65536", u"99999999999", u"50%",
+                                              u"101%", u"33.3%", u"33.3",  u"5.%",  u".5%",   u"-1",          u"-5%",
+                                              u" 7",   u"7 ",    u" 50% ", u"50% ", u"",      u"%",           u"1%%",
+                                              u"1e1%", u"x",     u"1234%", u"7 %",  u"33.3"};
+    for (std::u16string_view const first : components)
+        for (std::u16string_view const second : components)
+            for (char16_t const* end : {u",1)", u",50%)", u",1", u",1 )", u")", u",1,2)", u",", u""}) {
+                Core::String const text = Core::String(u"rgb(") + first + u"," + second + end;
+                EXPECT_EQ(result(readRGB, text), result(readRGBSlowly, text)) << text.toUtf8();
+            }
+    for (char16_t const* text : {u"", u"rgb", u"rgb(", u"1,2,3)", u"(1,2,3)(", u"(\u00A01,\t2,3)"})
+        EXPECT_EQ(result(readRGB, text), result(readRGBSlowly, text));
 }
 
 TEST(Color, ClonesAreNewObjectsOfTheSameContents) {

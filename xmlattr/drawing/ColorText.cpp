@@ -1,6 +1,7 @@
 #include "xmlattr/drawing/ColorText.h"
 
 #include "xmlattr/core/Format.h"
+#include "xmlattr/core/NumberReader.h"
 
 #include <algorithm>
 
@@ -20,12 +21,16 @@ template <std::size_t n> bool splitCall(std::u16string_view text, std::u16string
     return at != std::u16string_view::npos;
 }
 
+// Intended: the factor is 2.56 in single precision, widened, so that 50% is 127.
+unsigned char ofPercentage(float percentage) {
+    return static_cast<unsigned char>(std::clamp(percentage * double{2.56f}, 0.0, 255.0));
+}
+
 bool readRGBComponent(std::u16string_view text, unsigned char& value) {
     if (text.ends_with(u'%')) {
         float percentage = 0;
         if (!Core::Format::parseFloat(text, percentage)) return false;
-        // Intended: the factor is 2.56 in single precision, widened, so that 50% is 127.
-        value = static_cast<unsigned char>(std::clamp(percentage * double{2.56f}, 0.0, 255.0));
+        value = ofPercentage(percentage);
         return true;
     }
     int number = 0;
@@ -35,14 +40,47 @@ bool readRGBComponent(std::u16string_view text, unsigned char& value) {
     return true;
 }
 
+// Reads the components in one pass, without cutting them out first. Takes only what readRGBComponent
+// takes in the same way: few digits, which are the number whether it is read as an int or a float, or
+// a plain number directly before a "%"; then the delimiter. False when there is anything else.
+bool readPlainRGB(std::u16string_view text, unsigned char (&values)[3]) {
+    char16_t const *unit = text.data(), *const end = unit + text.size();
+    unit = std::find(unit, end, u'(');
+    for (int i = 0; i < 3; ++i) {
+        if (unit != end) ++unit; // the delimiter before the component
+        while (unit != end && Core::isSpace(*unit)) ++unit;
+        char16_t const* const start = unit;
+        int number = 0;
+        while (unit != end && unit - start < 4 && Core::isDigit(*unit)) number = number * 10 + (*unit++ - u'0');
+        if (unit == start || unit == end) return false;
+        values[i] = static_cast<unsigned char>(number);
+        if (*unit == u'.' || *unit == u'%') {
+            auto percentage = static_cast<float>(number);
+            if (*unit == u'.') unit = Core::scanPlain(start, end, percentage);
+            if (!unit || unit == end || *unit != u'%') return false;
+            values[i] = ofPercentage(percentage);
+            ++unit;
+        }
+        if (unit == end || *unit != (i < 2 ? u',' : u')')) return false;
+    }
+    return true;
+}
+
 } // namespace
 
-bool readRGB(SmartPtr<Color>& color, std::u16string_view text) {
+bool readRGBSlowly(SmartPtr<Color>& color, std::u16string_view text) {
     std::u16string_view texts[3];
     unsigned char values[3];
     if (!splitCall(text, texts)) return false;
     for (int i = 0; i < 3; ++i)
         if (!readRGBComponent(texts[i], values[i])) return false;
+    color = new RGBColor(values[0], values[1], values[2]);
+    return true;
+}
+
+bool readRGB(SmartPtr<Color>& color, std::u16string_view text) {
+    unsigned char values[3];
+    if (!readPlainRGB(text, values)) return readRGBSlowly(color, text);
     color = new RGBColor(values[0], values[1], values[2]);
     return true;
 }

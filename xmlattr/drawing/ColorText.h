@@ -15,6 +15,9 @@ namespace Drawing {
 // within 0 to 255.
 bool readRGB(SmartPtr<Color>& color, std::u16string_view text);
 
+// The same without the short way for plain components.
+bool readRGBSlowly(SmartPtr<Color>& color, std::u16string_view text);
+
 // Four numbers: percentages, and either fractions or, when any of the four exceeds 1, parts of 255.
 bool readCMYK(SmartPtr<Color>& color, std::u16string_view text);
 
