@@ -11,7 +11,7 @@ bool ColumnWidth::parseColumnWidth(ColumnWidth& out, Core::String const& text) {
 bool AttributeTraits<ColumnWidth>::parse(ColumnWidth& value, std::u16string_view text) {
     if (readAs<LengthOrPercent>(value, text)) return true;
     // Intended: the name counts anywhere in the text.
-    bool const bareNumberIsRatio = text.find(u"proportional-column-width") != text.npos;
+    bool const bareNumberIsRatio = text.find(u"proportional-column-width") != std::u16string_view::npos;
     LengthOrPercent measure;
     if (!AttributeTraits<LengthOrPercent>::parse(measure, argumentOf(text), bareNumberIsRatio)) return false;
     value = ColumnWidth(measure);

@@ -47,7 +47,7 @@ constexpr NamedMeasure<Measure> const* findMeasure(NamedMeasure<Measure> const (
 // What stands between the first "(" and the next ")", or the end when there is none; empty without "(".
 inline std::u16string_view argumentOf(std::u16string_view text) {
     std::size_t const open = text.find(u'(');
-    if (open == text.npos) return {};
+    if (open == std::u16string_view::npos) return {};
     text.remove_prefix(open + 1);
     return text.substr(0, text.find(u')'));
 }
