@@ -68,7 +68,7 @@ TEST(BadDocuments, HaveATextOf100MB) {
     std::string const text(100 << 20, 'x');
     for (std::string_view const end : {" span='"sv, "><!--"sv, "><?"sv, " "sv})
         EXPECT_EQ(check(std::string(opening).append(end).append(text)).failure,
-                  "limit: a tag or comment of more than 64 MiB")
+                  "limit: a tag or comment of more than 32 MiB")
             << end;
     EXPECT_EQ(check(std::string(opening).append(">").append(text).append("</block>")).failure, "");
 }
