@@ -159,7 +159,9 @@ TEST(Command, ReportsWhatItCannotReadAndGoesOn) {
         EXPECT_EQ(result.code, 2) << row.name;
     }
     std::filesystem::create_directory(scratch + "/bare");
-    for (std::string const& path : {"/nowhere.fo"s, "/bare"s})
+    std::filesystem::permissions(write("locked.fo", geteuid() == 0 ? "root reads all" : "<a/>"),
+                                 std::filesystem::perms::none);
+    for (std::string const& path : {"/nowhere.fo"s, "/bare"s, "/locked.fo"s})
         EXPECT_EQ(run("check " + scratch + path).code, 2) << path;
 }
 
