@@ -19,6 +19,7 @@ inline bool isWord(KeywordView table, PackedKeyword const& row, std::u16string_v
 // be predicted, and leaving the loop early costs more than the rest of a table.
 PackedKeyword const* findMark(std::span<PackedKeyword const> rows, std::uint64_t mark) {
     PackedKeyword const* found = nullptr;
+#pragma GCC unroll 4
     for (PackedKeyword const& row : rows) found = row.mark == mark ? &row : found;
     return found;
 }
