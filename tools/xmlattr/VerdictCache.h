@@ -31,7 +31,7 @@ public:
         std::memcpy(key.text.data(), text.data(), text.size());
         auto hash = static_cast<std::uint64_t>(reinterpret_cast<std::uintptr_t>(&property));
         for (std::uint64_t const part : key.text) hash = (hash ^ part) * 0x9E3779B97F4A7C15u;
-        Row& row = rows[hash >> 53];
+        Row& row = rows[static_cast<std::size_t>(hash >> 53)];
         if (row.key == key) return row.verdict;
         Verdict const verdict = judge();
         if (verdict != Verdict::Refused) row = {key, verdict};
