@@ -142,6 +142,13 @@ TEST(FontSize, WithoutAValueEqualsNothing) {
     EXPECT_STRNE(sourceThatThrows(FontSize(static_cast<RelativeFontSize>(2))), "nothing is thrown");
 }
 
+TEST(FontSize, KeepsItsWordBehindAMeasure) {
+    FontSize size(RelativeFontSize::Smaller);
+    size = Length(7, Length::Cm);
+    EXPECT_TRUE(size == FontSize(seven));
+    EXPECT_EQ(size.getRelativeSize(), RelativeFontSize::Smaller);
+}
+
 TEST(FontStretch, PrintsOneWordThatItDoesNotRead) {
     expectPrints<FontStretch>(seven, {{u"normal", "normal"},
                                       {u"wider", "wider"},
@@ -190,11 +197,17 @@ TEST(BackgroundSize, PrintsAMeasureWhenStretched) {
                                          {u"auto", "auto"},
                                          {u"50%", "50%"},
                                          {u"Auto", "refused"}});
-    EXPECT_TRUE(gives(u"fill", BackgroundSize(BackgroundSizeType::Stretch)));
-    BackgroundSize size;
+    BackgroundSize size(LengthOrPercent(0.5f));
+    EXPECT_TRUE(BackgroundSize::readStringBackgroundSize(size, u"fill"));
+    EXPECT_EQ(size.getType(), BackgroundSizeType::Stretch);
+    EXPECT_EQ(size.getPercent(), 0);
+    size = BackgroundSizeType::Auto;
     EXPECT_FALSE(BackgroundSize::readStringBackgroundSize(size, u"50%")) << "the words alone";
-    EXPECT_TRUE(size == BackgroundSize(BackgroundSizeType::Auto));
-    EXPECT_FALSE(TXmlAttribute<BackgroundSize>().isEqual(u"auto"));
+    EXPECT_EQ(size.getType(), BackgroundSizeType::Auto);
+    TXmlAttribute<BackgroundSize> const cover{BackgroundSizeType::Cover};
+    EXPECT_FALSE(cover.isEqual(u"cover"));
+    EXPECT_TRUE(cover.isEqual(u"contain", int_to_type<1>())) << "the measures alone";
+    EXPECT_FALSE(cover.isEqual(u"5%", int_to_type<1>()));
 }
 
 TEST(TextAlign, TakesEveryText) {

@@ -91,8 +91,8 @@ void describe(Shown& shown, Xml::AutoOrMeasure const* measure) {
         describe(shown, &measure->getLengthOrPercent());
 }
 
-void describe(Shown& shown, Xml::BorderWidth const* width) {
-    describe(shown, &width->getLength());
+void describe(Shown& shown, Xml::BackgroundSize const* size) {
+    if (size->getType() == Xml::BackgroundSizeType::LengthOrPercent) addMeasure(shown, *size);
 }
 
 void describe(Shown& shown, Xml::PageDimension const* dimension) {

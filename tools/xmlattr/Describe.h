@@ -17,7 +17,7 @@ void describe(Shown& shown, Xml::SLength const* length);
 void describe(Shown& shown, Xml::LengthOrPercent const* measure);
 void describe(Shown& shown, Xml::SLengthOrPercent const* measure);
 void describe(Shown& shown, Xml::AutoOrMeasure const* measure);
-void describe(Shown& shown, Xml::BorderWidth const* width);
+void describe(Shown& shown, Xml::BackgroundSize const* size);
 void describe(Shown& shown, Xml::PageDimension const* dimension);
 void describe(Shown& shown, Xml::SSpacing const* spacing);
 void describe(Shown& shown, Xml::SBaselineShift const* shift);

@@ -11,6 +11,10 @@ Color::~Color() = default;
 
 RGBColor::~RGBColor() = default;
 
+SmartPtr<Color> Color::clone() const {
+    return nullptr;
+}
+
 SmartPtr<Color> RGBColor::clone() const {
     return new RGBColor(*this);
 }

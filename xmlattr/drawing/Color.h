@@ -8,8 +8,9 @@ namespace Drawing {
 class XMLATTR_API Color : public Core::Object {
 public:
     ~Color() override;
-    // A new colour of the same class and contents, with no reference yet but the result.
-    virtual SmartPtr<Color> clone() const = 0;
+    // A new colour of the same class and contents, with no reference yet but the result; null for a
+    // class that cannot be copied.
+    virtual SmartPtr<Color> clone() const;
 
 protected:
     Color() = default;

@@ -21,8 +21,8 @@ bool AttributeTraits<BackgroundPosition>::parse(BackgroundPosition& value, std::
 }
 
 Core::String AttributeTraits<BackgroundPosition>::print(BackgroundPosition const& value) {
-    if (auto const* const row = findMeasure(words, value.getLengthOrPercent())) return row->word;
-    return LengthOrPercent::getValueAsString(value.getLengthOrPercent());
+    if (auto const* const row = findMeasure<LengthOrPercent>(words, value)) return row->word;
+    return LengthOrPercent::getValueAsString(value);
 }
 
 } // namespace Xml

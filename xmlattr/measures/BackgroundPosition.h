@@ -8,20 +8,13 @@ namespace Xml {
 // "left" or "top" (0%), "center" (50%), "right" or "bottom" (100%), exact in case, or a
 // LengthOrPercent. Intended: only the percentage is kept, so that the three print as "left",
 // "center" and "right", whatever they were read from.
-class XMLATTR_API BackgroundPosition {
+class XMLATTR_API BackgroundPosition : public LengthOrPercent {
 public:
     constexpr BackgroundPosition() = default;
-    constexpr BackgroundPosition(LengthOrPercent const& measure) : measure(measure) {}
-
-    constexpr LengthOrPercent const& getLengthOrPercent() const { return measure; }
-
-    constexpr bool operator==(BackgroundPosition const&) const = default;
+    constexpr BackgroundPosition(LengthOrPercent const& measure) : LengthOrPercent(measure) {}
 
     // Reads the words alone; false for every other text, then `out` is untouched.
     static bool readStringBackgroundPosition(BackgroundPosition& out, Core::String const& text);
-
-private:
-    LengthOrPercent measure;
 };
 
 static_assert(sizeof(BackgroundPosition) == 16);

@@ -15,7 +15,7 @@ bool AttributeTraits<BackgroundSize>::parse(BackgroundSize& value, std::u16strin
 Core::String AttributeTraits<BackgroundSize>::print(BackgroundSize const& value) {
     // Intended: "stretch" and "fill" print the measure that comes with them, 0px.
     if (value.getType() == BackgroundSizeType::Stretch || value.getType() == BackgroundSizeType::LengthOrPercent)
-        return LengthOrPercent::getValueAsString(value.getLengthOrPercent());
+        return LengthOrPercent::getValueAsString(value);
     return AttributeTraits<BackgroundSizeType>::print(value.getType());
 }
 

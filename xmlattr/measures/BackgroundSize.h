@@ -24,23 +24,20 @@ template <> struct Keywords<BackgroundSizeType> {
 
 // One of the words of BackgroundSizeType, exact in case, or a LengthOrPercent. Prints the same, but
 // for stretched ones. A failed parse changes nothing.
-class XMLATTR_API BackgroundSize {
+// Intended: comparing takes the measures alone, so that "cover" equals "contain".
+class XMLATTR_API BackgroundSize : public LengthOrPercent {
 public:
     constexpr BackgroundSize() = default;
     constexpr BackgroundSize(BackgroundSizeType type) : type(type) {}
     constexpr BackgroundSize(LengthOrPercent const& measure)
-        : measure(measure), type(BackgroundSizeType::LengthOrPercent) {}
+        : LengthOrPercent(measure), type(BackgroundSizeType::LengthOrPercent) {}
 
-    constexpr LengthOrPercent const& getLengthOrPercent() const { return measure; }
     constexpr BackgroundSizeType getType() const { return type; }
-
-    constexpr bool operator==(BackgroundSize const&) const = default;
 
     // Reads the words alone; false for every other text, then `out` is untouched.
     static bool readStringBackgroundSize(BackgroundSize& out, Core::String const& text);
 
 private:
-    LengthOrPercent measure;
     BackgroundSizeType type = BackgroundSizeType::Auto;
 };
 

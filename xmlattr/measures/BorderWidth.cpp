@@ -19,8 +19,8 @@ bool AttributeTraits<BorderWidth>::parse(BorderWidth& value, std::u16string_view
 }
 
 Core::String AttributeTraits<BorderWidth>::print(BorderWidth const& value) {
-    if (auto const* const row = findMeasure(words, value.getLength())) return row->word;
-    return Length::getValueAsString(value.getLength());
+    if (auto const* const row = findMeasure<Length>(words, value)) return row->word;
+    return Length::getValueAsString(value);
 }
 
 } // namespace Xml

@@ -30,6 +30,12 @@ protected:
     constexpr FontMeasure(RelativeWord relative) : type(Relative), relative(relative) {}
     constexpr FontMeasure(Measure const& absolute) : type(Absolute), absolute(absolute) {}
 
+    // The relative word stays as it was.
+    constexpr void setAbsolute(Measure const& measure) {
+        type = Absolute;
+        absolute = measure;
+    }
+
     Type type = NoValue;
     RelativeWord relative{};
     Measure absolute;

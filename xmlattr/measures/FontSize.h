@@ -39,6 +39,10 @@ public:
     constexpr FontSize() = default;
     constexpr FontSize(RelativeFontSize relative) : FontSizeOf(relative) {}
     constexpr FontSize(LengthOrPercent const& absolute) : FontSizeOf(absolute) {}
+    constexpr FontSize& operator=(LengthOrPercent const& measure) {
+        setAbsolute(measure);
+        return *this;
+    }
 
     constexpr bool operator==(FontSize const&) const = default;
 };
@@ -57,6 +61,10 @@ public:
     constexpr SFontSize() = default;
     constexpr SFontSize(RelativeFontSize relative) : FontSizeOf(relative) {}
     constexpr SFontSize(SLengthOrPercent const& absolute) : FontSizeOf(absolute) {}
+    constexpr SFontSize& operator=(SLengthOrPercent const& measure) {
+        setAbsolute(measure);
+        return *this;
+    }
 
     constexpr bool operator==(SFontSize const&) const = default;
 };

@@ -50,6 +50,10 @@ public:
     constexpr FontStretch() = default;
     constexpr FontStretch(RelativeFontStretch relative) : FontMeasure(relative) {}
     constexpr FontStretch(LengthOrPercent const& absolute) : FontMeasure(absolute) {}
+    constexpr FontStretch& operator=(LengthOrPercent const& measure) {
+        setAbsolute(measure);
+        return *this;
+    }
 
     // What each accessor gives counts only where the type is its own.
     constexpr bool isRelativeStretch() const { return type == Relative; }
