@@ -205,9 +205,12 @@ TEST(Format, TheShortWayOfMeasuresPrintsLikeTheStandardLibrary) {
     for (int i = 0; i < 300'000; ++i) {
         // Ties at every place, then floats of any size and percentages.
         double const value = i < 40'000 ? (i - 20'000) / 16.0 : texts.anyFloat() * (i % 2 ? 1.0 : 100.0);
-        ASSERT_EQ(Format::toMeasure(value, u"pt"), toMeasureSlowly(value, u"pt")) << value;
-        double const small = std::fmod(value, 2000);
-        ASSERT_EQ(Format::toMeasure(small), toMeasureSlowly(small, {})) << small;
+        std::u16string printed, slowly;
+        appendMeasure(printed, value, u"pt ");
+        appendMeasure(printed, std::fmod(value, 2000));
+        appendMeasureSlowly(slowly, value, u"pt ");
+        appendMeasureSlowly(slowly, std::fmod(value, 2000));
+        ASSERT_EQ(printed, slowly) << value;
     }
 }
 

@@ -11,6 +11,7 @@
 #include <cmath>
 #include <cstdint>
 #include <iterator>
+#include <type_traits>
 
 namespace Core {
 
@@ -50,16 +51,24 @@ Integer scanInteger(std::u16string_view text) noexcept {
     return {static_cast<int>(negative ? -magnitude : magnitude), fits, unit};
 }
 
-String widen(char const* begin, char const* end, std::u16string_view suffix = {}) {
+void append(std::u16string& out, char const* begin, char const* end, std::u16string_view suffix = {}) {
     // Filled in place: appending units of another type would make a second string.
-    std::u16string out(static_cast<std::size_t>(end - begin) + suffix.size(), u'\0');
-    std::copy(suffix.begin(), suffix.end(), std::copy(begin, end, out.begin()));
-    return String(std::move(out));
+    std::size_t const size = out.size();
+    out.resize(size + static_cast<std::size_t>(end - begin) + suffix.size());
+    std::copy(suffix.begin(), suffix.end(), std::copy(begin, end, out.data() + size));
 }
 
-template <class T> String shortest(T value) {
+template <class T> void appendNumber(std::u16string& out, T value) {
     char buffer[32];
-    return widen(buffer, std::to_chars(buffer, std::end(buffer), value).ptr);
+    append(out, buffer, std::to_chars(buffer, std::end(buffer), value).ptr);
+}
+
+// What an appending function makes of nothing.
+template <class... Arguments>
+String print(void (*append)(std::u16string&, Arguments...), std::type_identity_t<Arguments>... arguments) {
+    std::u16string out;
+    append(out, arguments...);
+    return String(std::move(out));
 }
 
 // Whether 1000 times the value is a double without rounding and below 2^53. 1000 has ten bits, so
@@ -139,15 +148,13 @@ bool Format::parseHexInt(std::u16string_view text, int& value) noexcept {
     return true;
 }
 
-String Format::toMeasure(double value, std::u16string_view suffix) {
-    if (hasExactThousandths(value)) {
-        char buffer[24];
-        return widen(buffer, printThousandths(buffer, value), suffix);
-    }
-    return toMeasureSlowly(value, suffix);
+void appendMeasure(std::u16string& out, double value, std::u16string_view suffix) {
+    if (!hasExactThousandths(value)) return appendMeasureSlowly(out, value, suffix);
+    char buffer[24];
+    append(out, buffer, printThousandths(buffer, value), suffix);
 }
 
-String toMeasureSlowly(double value, std::u16string_view suffix) {
+void appendMeasureSlowly(std::u16string& out, double value, std::u16string_view suffix) {
     // The largest double has 309 digits before its point.
     char buffer[336];
     char* end = std::to_chars(buffer, std::end(buffer), value, std::chars_format::fixed, 3).ptr;
@@ -156,20 +163,38 @@ String toMeasureSlowly(double value, std::u16string_view suffix) {
         if (end[-1] == '.') --end;
     }
     bool const isMinusZero = end - buffer == 2 && buffer[0] == '-' && buffer[1] == '0';
-    return widen(isMinusZero ? buffer + 1 : buffer, end, suffix);
+    append(out, isMinusZero ? buffer + 1 : buffer, end, suffix);
+}
+
+void appendShortest(std::u16string& out, float value) {
+    appendNumber(out, value);
+}
+
+void appendShortest(std::u16string& out, double value) {
+    if (std::abs(value) <= FLT_MAX && static_cast<float>(value) == value)
+        appendNumber(out, static_cast<float>(value));
+    else
+        appendNumber(out, value);
+}
+
+void appendShortest(std::u16string& out, int value) {
+    appendNumber(out, value);
+}
+
+String Format::toMeasure(double value, std::u16string_view suffix) {
+    return print(appendMeasure, value, suffix);
 }
 
 String Format::toShortest(float value) {
-    return shortest(value);
+    return print<float>(appendShortest, value);
 }
 
 String Format::toShortest(double value) {
-    bool const isFloat = std::abs(value) <= FLT_MAX && static_cast<float>(value) == value;
-    return isFloat ? shortest(static_cast<float>(value)) : shortest(value);
+    return print<double>(appendShortest, value);
 }
 
 String Format::toShortest(int value) {
-    return shortest(value);
+    return print<int>(appendShortest, value);
 }
 
 } // namespace Core

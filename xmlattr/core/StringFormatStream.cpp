@@ -40,8 +40,10 @@ template <class Argument> void append(std::u16string& out, Argument const& argum
         [&](auto const& value) {
             if constexpr (std::is_convertible_v<decltype(value), std::u16string_view>)
                 out += value;
+            else if (isMeasure)
+                appendMeasure(out, value);
             else
-                out += isMeasure ? Format::toMeasure(value) : Format::toShortest(value);
+                appendShortest(out, value);
         },
         argument);
 }

@@ -16,6 +16,10 @@ UnitRow<Length::Unit> const& rowOf(Length::Unit unit) {
 
 } // namespace
 
+void appendLength(std::u16string& out, Length const& length) {
+    Core::appendMeasure(out, length.getSize(), rowOf(length.getUnit()).suffix);
+}
+
 float Length::pxSize() const {
     return rowOf(unit).toPixels.of(size);
 }
@@ -37,7 +41,9 @@ bool Length::parseLength(Length& out, Core::String const& text) {
 }
 
 Core::String Length::getValueAsString(Length const& length) {
-    return Core::Format::toMeasure(length.size, rowOf(length.unit).suffix);
+    std::u16string out;
+    appendLength(out, length);
+    return Core::String(std::move(out));
 }
 
 bool AttributeTraits<Length>::parse(Length& value, std::u16string_view text) {
@@ -82,7 +88,13 @@ bool AttributeTraits<DLength>::parse(DLength& value, std::u16string_view text) {
 }
 
 Core::String AttributeTraits<DLength>::print(DLength const& value) {
-    return Length::getValueAsString(value.getFirst()) + u" " + Length::getValueAsString(value.getSecond());
+    constexpr std::size_t longest = 45; // a sign, 39 digits, a point, the unit and some room
+    std::u16string out;
+    out.reserve(2 * longest);
+    appendLength(out, value.getFirst());
+    out += u' ';
+    appendLength(out, value.getSecond());
+    return Core::String(std::move(out));
 }
 
 } // namespace Xml

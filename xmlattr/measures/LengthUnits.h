@@ -1,4 +1,4 @@
-// The units of XSL-FO lengths, for the two readers of them.
+// The units of XSL-FO lengths, for those who read or print them in pieces.
 #pragma once
 
 #include "xmlattr/measures/Length.h"
@@ -16,5 +16,8 @@ inline constexpr UnitRow<Length::Unit> lengthUnitRows[] = {
     {u"ex", Length::Ex, PixelRatio::ex, {768, 96}},
     {u"pc", Length::Pc, PixelRatio::pc, {12 * 72, 96}}, // Intended: no inverse, see Length.h
 };
+
+// Prints a length behind what a text holds already. Throws UnreacheableCodeException for a unit that is none.
+void appendLength(std::u16string& out, Length const& length);
 
 } // namespace Xml

@@ -1,5 +1,6 @@
 #include "xmlattr/svg/BoxShadow.h"
 
+#include "xmlattr/measures/LengthUnits.h"
 #include "xmlattr/svg/ShadowReader.h"
 
 namespace Xml {
@@ -25,13 +26,13 @@ bool AttributeTraits<BoxShadow>::parse(BoxShadow& value, std::u16string_view tex
 }
 
 Core::String AttributeTraits<BoxShadow>::print(BoxShadow const& value) {
-    Core::String text;
+    std::u16string out;
     for (Length const& length : {value.getDx(), value.getDy(), value.getBlurRadius()}) {
-        text += Length::getValueAsString(length);
-        text += u" ";
+        appendLength(out, length);
+        out += u' ';
     }
-    text += ColorParse::getColorAsString(value.getColor());
-    return text;
+    out += ColorParse::getColorAsString(value.getColor());
+    return Core::String(std::move(out));
 }
 
 } // namespace Xml

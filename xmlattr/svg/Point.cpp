@@ -67,14 +67,14 @@ bool AttributeTraits<Core::Vector<Point>>::parse(Core::Vector<Point>& value, std
 }
 
 Core::String AttributeTraits<Core::Vector<Point>>::print(Core::Vector<Point> const& value) {
-    Core::String text;
+    std::u16string out;
     for (Point const& point : value) {
-        if (!text.empty()) text += u",";
-        text += Core::Format::toShortest(point.x.pxSize());
-        text += u" ";
-        text += Core::Format::toShortest(point.y.pxSize());
+        if (!out.empty()) out += u',';
+        Core::appendShortest(out, point.x.pxSize());
+        out += u' ';
+        Core::appendShortest(out, point.y.pxSize());
     }
-    return text;
+    return Core::String(std::move(out));
 }
 
 } // namespace Xml
