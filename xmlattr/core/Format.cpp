@@ -52,9 +52,9 @@ Integer scanInteger(std::u16string_view text) noexcept {
 }
 
 void append(std::u16string& out, char const* begin, char const* end, std::u16string_view suffix = {}) {
-    // Filled in place: appending units of another type would make a second string.
+    // Filled in place, so that the string grows once: appending units of another type would make a second one.
     std::size_t const size = out.size();
-    out.resize(size + static_cast<std::size_t>(end - begin) + suffix.size());
+    out.append(static_cast<std::size_t>(end - begin) + suffix.size(), u'\0');
     std::copy(suffix.begin(), suffix.end(), std::copy(begin, end, out.data() + size));
 }
 
