@@ -1,4 +1,5 @@
 #include "RawTag.h"
+#include "Encoding.h"
 
 #include <gtest/gtest.h>
 
@@ -38,7 +39,18 @@ TEST(RawTag, DecodesEachEncoding) {
     EXPECT_EQ(decode("<\xC3\xA9\xF0\x9F\x98\x80", ByteEncoding::Utf8), U"<é\U0001F600");
     EXPECT_EQ(decode("\0<\xD8\x3D\xDE\0"sv, ByteEncoding::Utf16Big), U"<\U0001F600");
     EXPECT_EQ(decode("<\0\x3D\xD8\0\xDE"sv, ByteEncoding::Utf16Little), U"<\U0001F600");
-    EXPECT_EQ(decode("<\xE9", ByteEncoding::SingleByte), U"<é");
+    EXPECT_EQ(decode("<\xE9\x80", ByteEncoding::Latin1), U"<é\u0080");
+    EXPECT_EQ(decode("<\xE9\x80\x9F", ByteEncoding::Windows1252), U"<é€Ÿ");
+    int open = 0;
+    for (int byte = 0; byte < 256; ++byte) open += windows1252(static_cast<unsigned char>(byte)) < 0;
+    EXPECT_EQ(open, 5);
+}
+
+TEST(RawTag, TellsWhichEntitiesATextNeeds) {
+    RawTag const tag(U"<a b='1&lt;&#10;' c='&k;&k;' d='&k;&o;' e='&ko;' f=''/>", {1, 1});
+    std::string known;
+    for (std::size_t i = 0; i < 6; ++i) known += tag.refersOnlyTo(i, {"k"}) ? 'y' : 'n';
+    EXPECT_EQ(known, "yynnyn") << "of an attribute that is not in the tag nothing is known";
 }
 
 } // namespace

@@ -37,39 +37,6 @@ char32_t codePointOf(std::u32string_view entity) {
 
 } // namespace
 
-std::u32string decode(std::string_view bytes, ByteEncoding encoding) {
-    std::u32string text;
-    text.reserve(bytes.size());
-    auto const byte = [&](std::size_t i) { return static_cast<char32_t>(static_cast<unsigned char>(bytes[i])); };
-    switch (encoding) {
-    case ByteEncoding::SingleByte:
-        // Which character a byte is does not matter to its place.
-        for (std::size_t i = 0; i < bytes.size(); ++i) text += byte(i);
-        break;
-    case ByteEncoding::Utf8:
-        for (std::size_t i = 0; i < bytes.size(); ++i) {
-            char32_t const unit = byte(i);
-            if ((unit & 0xC0) != 0x80)
-                text += unit < 0xC0 ? unit : unit < 0xE0 ? unit & 0x1F : unit < 0xF0 ? unit & 0x0F : unit & 0x07;
-            else if (!text.empty())
-                text.back() = text.back() << 6 | (unit & 0x3F);
-        }
-        break;
-    case ByteEncoding::Utf16Big:
-    case ByteEncoding::Utf16Little:
-        std::size_t const high = encoding == ByteEncoding::Utf16Big ? 0 : 1;
-        for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
-            char32_t const unit = byte(i + high) << 8 | byte(i + 1 - high);
-            if (unit >= 0xDC00 && unit < 0xE000 && !text.empty())
-                text.back() = 0x10000 + ((text.back() - 0xD800) << 10) + (unit - 0xDC00);
-            else
-                text += unit;
-        }
-        break;
-    }
-    return text;
-}
-
 RawTag::RawTag(std::u32string tag, Place place) : text(std::move(tag)), start(place) {
     if (!text.starts_with(U'<')) text.clear(); // the reference to an entity that holds the element
     Cursor cursor{0, start};
@@ -81,7 +48,7 @@ RawTag::RawTag(std::u32string tag, Place place) : text(std::move(tag)), start(pl
         Attribute attribute;
         attribute.name = cursor;
         skip(cursor, isName);
-        attribute.nameLength = cursor.index - attribute.name.index;
+        std::size_t const nameEnd = cursor.index;
         skip(cursor, [](char32_t c) { return isBlank(c) || c == U'='; });
         if (atEnd(cursor)) return;
         char32_t const quote = text[cursor.index];
@@ -89,8 +56,9 @@ RawTag::RawTag(std::u32string tag, Place place) : text(std::move(tag)), start(pl
         attribute.value = cursor;
         skip(cursor, [&](char32_t c) { return c != quote; });
         if (atEnd(cursor)) return;
+        attribute.end = cursor.index;
         advance(cursor);
-        std::u32string_view const name(text.data() + attribute.name.index, attribute.nameLength);
+        auto const name = std::u32string_view(text).substr(attribute.name.index, nameEnd - attribute.name.index);
         if (name != U"xmlns" && !name.starts_with(U"xmlns:")) attributes.push_back(attribute);
     }
 }
@@ -112,11 +80,6 @@ std::string RawTag::elementName() const {
     std::size_t end = 1;
     while (end < text.size() && !isBlank(text[end]) && text[end] != U'/' && text[end] != U'>') ++end;
     return text.empty() ? std::string() : toUtf8(std::u32string_view(text).substr(1, end - 1));
-}
-
-std::string RawTag::attributeName(std::size_t attribute) const {
-    if (attribute >= attributes.size()) return {};
-    return toUtf8(std::u32string_view(text).substr(attributes[attribute].name.index, attributes[attribute].nameLength));
 }
 
 Place RawTag::attribute(std::size_t attribute) const {
@@ -149,6 +112,18 @@ Place RawTag::inValue(std::size_t attribute, std::size_t offset) {
         last.offset += length;
     }
     return last.cursor.place;
+}
+
+bool RawTag::refersOnlyTo(std::size_t attribute, std::set<std::string> const& entities) const {
+    if (attribute >= attributes.size()) return false;
+    auto const& [name, begin, end] = attributes[attribute];
+    for (auto rest = std::u32string_view(text).substr(begin.index, end - begin.index);;) {
+        std::size_t const reference = rest.find(U'&');
+        if (reference == std::u32string_view::npos) return true;
+        rest.remove_prefix(reference + 1);
+        std::u32string_view const entity = rest.substr(0, rest.find(U';'));
+        if (codePointOf(entity) == 0 && !entities.contains(toUtf8(entity))) return false;
+    }
 }
 
 } // namespace Command

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,11 +15,6 @@ struct Place {
     bool operator==(Place const&) const = default;
 };
 
-enum class ByteEncoding { Utf8, Utf16Big, Utf16Little, SingleByte };
-
-// The code points of a piece of a file whose bytes are known to be well-formed.
-std::u32string decode(std::string_view bytes, ByteEncoding encoding);
-
 // A well-formed start tag. Attributes are numbered in their order, declarations of namespaces left
 // out. What comes from an entity or a default has no tag of its own; its place is that of the tag.
 class RawTag {
@@ -29,13 +25,15 @@ public:
 
     // As the tag has it, prefix included; empty for an empty text.
     std::string elementName() const;
-    std::string attributeName(std::size_t attribute) const;
     // Where the name of the attribute begins.
     Place attribute(std::size_t attribute) const;
     // Where the code point stands that `offset` bytes of the value's UTF-8 precede. Asking for
     // growing offsets takes time linear in the value. Behind an entity of the document's own, of
     // which only the value is known, it is the place of the attribute.
     Place inValue(std::size_t attribute, std::size_t offset);
+    // Whether the tag has the attribute's text, with references to none but these entities and what
+    // XML itself defines.
+    bool refersOnlyTo(std::size_t attribute, std::set<std::string> const& entities) const;
 
 private:
     struct Cursor {
@@ -44,7 +42,7 @@ private:
     };
     struct Attribute {
         Cursor name, value;
-        std::size_t nameLength = 0;
+        std::size_t end = 0; // of the value
     };
 
     bool atEnd(Cursor const& cursor) const { return cursor.index >= text.size(); }

@@ -12,6 +12,11 @@ std::string location(std::string const& file, Place place) {
     return file + ":" + std::to_string(place.line) + ":" + std::to_string(place.column) + ":";
 }
 
+std::string failureLine(std::string const& file, XmlFailure const& failure) {
+    std::string const where = failure.place ? location(file, *failure.place) : file + ":";
+    return where + " error: " + failure.message + " [" + std::string(failure.id) + "]\n";
+}
+
 // "1 file", "2 files".
 std::string count(std::uint64_t number, std::string_view noun) {
     return std::to_string(number).append(" ").append(noun).append(number == 1 ? "" : "s");
@@ -123,11 +128,6 @@ std::unique_ptr<Reporter> makeTextReporter(bool isColored) {
 
 std::unique_ptr<Reporter> makeJsonReporter() {
     return std::make_unique<JsonReporter>();
-}
-
-std::string failureLine(std::string const& file, XmlFailure const& failure) {
-    std::string const where = failure.place ? location(file, *failure.place) : file + ":";
-    return where + " error: " + failure.message + " [" + std::string(failure.id) + "]\n";
 }
 
 } // namespace Command

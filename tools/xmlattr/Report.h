@@ -24,7 +24,4 @@ std::unique_ptr<Reporter> makeTextReporter(bool isColored);
 // An object a line.
 std::unique_ptr<Reporter> makeJsonReporter();
 
-// The line of a failure in GCC style.
-std::string failureLine(std::string const& file, XmlFailure const& failure);
-
 } // namespace Command

@@ -64,6 +64,24 @@ std::string inQuotes(std::string_view text) {
     return std::string(1, '"').append(text).append(1, '"');
 }
 
+namespace {
+
+constexpr char lowerLetter(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c;
+}
+
+} // namespace
+
+std::string toLower(std::string_view text) {
+    std::string lower(text);
+    std::ranges::transform(lower, lower.begin(), lowerLetter);
+    return lower;
+}
+
+bool equalsNoCase(std::string_view a, std::string_view b) {
+    return std::ranges::equal(a, b, {}, lowerLetter, lowerLetter);
+}
+
 bool equalsWord(std::u16string_view text, std::string_view word, bool ignoreCase) {
     return std::equal(text.begin(), text.end(), word.begin(), word.end(), [&](char16_t unit, char letter) {
         auto const expected = static_cast<char16_t>(static_cast<unsigned char>(letter));

@@ -26,6 +26,10 @@ constexpr bool isSpace(char16_t unit) {
     return unit == u' ' || unit == u'\t' || unit == u'\n' || unit == u'\r';
 }
 
+// The letters of ASCII in lower case, all else as it is.
+std::string toLower(std::string_view text);
+bool equalsNoCase(std::string_view a, std::string_view b);
+
 // Whether the text is this ASCII word.
 bool equalsWord(std::u16string_view text, std::string_view word, bool ignoreCase = false);
 

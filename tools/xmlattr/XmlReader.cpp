@@ -1,15 +1,14 @@
 #include "XmlReader.h"
 
+#include "Encoding.h"
 #include "Text.h"
 
-#include "xmlattr/core/Text.h"
-
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <cstring>
 #include <exception>
 #include <memory>
+#include <set>
 #include <vector>
 
 #define XML_DTD // declares the limits on entities
@@ -26,17 +25,22 @@ constexpr char separator = '\x1F'; // between a namespace and a name; no documen
 
 constexpr std::string_view readEncodings = "UTF-8, UTF-16, ISO-8859-1, US-ASCII and windows-1252 are";
 
-bool isNamed(char const* encoding, std::string_view name) {
-    return std::equal(encoding, encoding + std::strlen(encoding), name.begin(), name.end(), [](char a, char b) {
-        return Core::toLower(static_cast<char16_t>(static_cast<unsigned char>(a))) == static_cast<char16_t>(b);
-    });
-}
+struct SingleByteEncoding {
+    std::string_view name;
+    ByteEncoding encoding;
+};
 
-// The characters that windows-1252 has where ISO-8859-1 has control characters.
-constexpr std::array<int, 32> windows1252 = {0x20AC, -1,     0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
-                                             0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, -1,     0x017D, -1,
-                                             -1,     0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
-                                             0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, -1,     0x017E, 0x0178};
+constexpr SingleByteEncoding singleByteEncodings[] = {{"iso-8859-1", ByteEncoding::Latin1},
+                                                      {"us-ascii", ByteEncoding::Latin1},
+                                                      {"windows-1252", ByteEncoding::Windows1252},
+                                                      {"cp1252", ByteEncoding::Windows1252}};
+
+// UTF-8 when the name is none of theirs.
+ByteEncoding singleByteEncoding(std::string_view name) {
+    for (SingleByteEncoding const& row : singleByteEncodings)
+        if (equalsNoCase(name, row.name)) return row.encoding;
+    return ByteEncoding::Utf8;
+}
 
 class Reader final : XmlHandler::Tag {
 public:
@@ -46,6 +50,8 @@ public:
         XML_SetElementHandler(parser.get(), onStart, onEnd);
         XML_SetXmlDeclHandler(parser.get(), onDeclaration);
         XML_SetUnknownEncodingHandler(parser.get(), onUnknownEncoding, this);
+        XML_SetNotStandaloneHandler(parser.get(), onUnreadDeclarations);
+        XML_SetEntityDeclHandler(parser.get(), onEntity);
         XML_SetParamEntityParsing(parser.get(), XML_PARAM_ENTITY_PARSING_NEVER);
         XML_SetBillionLaughsAttackProtectionMaximumAmplification(parser.get(), 100.0f);
         XML_SetBillionLaughsAttackProtectionActivationThreshold(parser.get(), 1 << 20);
@@ -58,7 +64,7 @@ public:
             if (!buffer) return failed("limit", "out of memory");
             std::size_t const count = std::fread(buffer, 1, static_cast<std::size_t>(size), file);
             if (std::ferror(file)) return XmlFailure{"unreadable", std::strerror(errno), std::nullopt};
-            if (total == 0) noteUtf16(static_cast<unsigned char const*>(buffer), count);
+            if (total == 0) noteMark({static_cast<char const*>(buffer), count});
             total += static_cast<std::int64_t>(count);
 
             bool const isLast = count < static_cast<std::size_t>(size);
@@ -84,29 +90,44 @@ private:
     static void XMLCALL onEnd(void* self, XML_Char const*) { --static_cast<Reader*>(self)->depth; }
 
     static void XMLCALL onDeclaration(void* self, XML_Char const*, XML_Char const* encoding, int) {
-        if (!encoding || static_cast<Reader*>(self)->encoding != ByteEncoding::Utf8) return;
-        for (std::string_view const name : {"iso-8859-1", "us-ascii", "windows-1252", "cp1252"})
-            if (isNamed(encoding, name)) static_cast<Reader*>(self)->encoding = ByteEncoding::SingleByte;
+        auto& known = static_cast<Reader*>(self)->encoding;
+        if (encoding && known == ByteEncoding::Utf8) known = singleByteEncoding(encoding);
+    }
+
+    // Called for an external DTD and for a parameter entity: the parser then takes an entity that it
+    // does not know for one that is declared there, and leaves it out.
+    static int XMLCALL onUnreadDeclarations(void* self) {
+        static_cast<Reader*>(self)->hasUnreadDeclarations = true;
+        return XML_STATUS_OK;
+    }
+
+    // What refers to others is known as little as they are.
+    static void XMLCALL onEntity(void* self, XML_Char const* name, int isParameter, XML_Char const* value, int length,
+                                 XML_Char const*, XML_Char const*, XML_Char const*, XML_Char const*) {
+        if (isParameter || !value) return;
+        std::string_view const text(value, static_cast<std::size_t>(length));
+        if (text.find('&') == std::string_view::npos) static_cast<Reader*>(self)->knownEntities.emplace(name);
     }
 
     static int XMLCALL onUnknownEncoding(void* self, XML_Char const* name, XML_Encoding* info) {
-        if (!isNamed(name, "windows-1252") && !isNamed(name, "cp1252")) {
+        if (singleByteEncoding(name) != ByteEncoding::Windows1252) {
             static_cast<Reader*>(self)->unknownEncoding = name;
             return XML_STATUS_ERROR;
         }
-        for (int i = 0; i < 256; ++i) info->map[i] = i;
-        std::copy(windows1252.begin(), windows1252.end(), info->map + 0x80);
+        for (int i = 0; i < 256; ++i) info->map[i] = windows1252(static_cast<unsigned char>(i));
         info->data = nullptr;
         info->convert = nullptr;
         info->release = nullptr;
         return XML_STATUS_OK;
     }
 
-    void noteUtf16(unsigned char const* bytes, std::size_t count) {
-        if (count < 2) return;
-        int const pair = bytes[0] << 8 | bytes[1];
-        if (pair == 0xFEFF || pair == '<') encoding = ByteEncoding::Utf16Big;
-        if (pair == 0xFFFE || pair == '<' << 8) encoding = ByteEncoding::Utf16Little;
+    // What the first bytes tell of the encoding. The parser counts a byte order mark as a column.
+    void noteMark(std::string_view bytes) {
+        using namespace std::string_view_literals;
+        bool const isMarkedBig = bytes.starts_with("\xFE\xFF"sv), isMarkedLittle = bytes.starts_with("\xFF\xFE"sv);
+        if (isMarkedBig || bytes.starts_with("\0<"sv)) encoding = ByteEncoding::Utf16Big;
+        if (isMarkedLittle || bytes.starts_with("<\0"sv)) encoding = ByteEncoding::Utf16Little;
+        if (isMarkedBig || isMarkedLittle || bytes.starts_with("\xEF\xBB\xBF"sv)) markColumns = 1;
     }
 
     void start(XML_Char const* name, XML_Char const** texts) {
@@ -128,6 +149,7 @@ private:
         }
         element.attributes = attributes;
         hasTag = false;
+        last = {};
         try {
             handler.startElement(element, *this);
         } catch (...) {
@@ -156,8 +178,16 @@ private:
         return tag;
     }
 
+    bool isWhole(std::size_t attribute) override {
+        if (!hasUnreadDeclarations) return true;
+        if (last.attribute != attribute) last = {attribute, raw().refersOnlyTo(attribute, knownEntities)};
+        return last.isWhole;
+    }
+
     Place here() const {
-        return {XML_GetCurrentLineNumber(parser.get()), XML_GetCurrentColumnNumber(parser.get()) + 1};
+        std::uint64_t const line = XML_GetCurrentLineNumber(parser.get());
+        std::uint64_t const before = XML_GetCurrentColumnNumber(parser.get());
+        return {line, before + 1 - (line == 1 ? std::min(before, markColumns) : 0)};
     }
 
     XmlFailure failed(std::string_view id, std::string message) const { return {id, std::move(message), here()}; }
@@ -190,11 +220,18 @@ private:
     XmlHandler& handler;
     std::unique_ptr<std::remove_pointer_t<XML_Parser>, Free> parser;
     ByteEncoding encoding = ByteEncoding::Utf8;
+    std::uint64_t markColumns = 0; // on line 1
     std::string unknownEncoding;
     int depth = 0;
     std::vector<XmlAttributeText> attributes;
     bool hasTag = false;
     RawTag tag;
+    bool hasUnreadDeclarations = false;
+    std::set<std::string> knownEntities;
+    struct {
+        std::size_t attribute = SIZE_MAX;
+        bool isWhole = false;
+    } last;
     std::optional<XmlFailure> failure;
     std::exception_ptr thrown;
 };

@@ -30,6 +30,9 @@ public:
     class Tag {
     public:
         virtual RawTag& raw() = 0;
+        // Whether the text of the attribute is all that the document says: nothing is left in the
+        // place of an entity whose declaration, in a part of the DTD that is not read, is unknown.
+        virtual bool isWhole(std::size_t attribute) = 0;
 
     protected:
         ~Tag() = default;

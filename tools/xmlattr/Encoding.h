@@ -1,0 +1,23 @@
+// The encodings in which a document is read.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace Command {
+
+enum class ByteEncoding {
+    Utf8,
+    Utf16Big,
+    Utf16Little,
+    Latin1, // ISO-8859-1 and with it US-ASCII: the byte is the code point
+    Windows1252
+};
+
+// The character of a byte in windows-1252; -1 for the five bytes that it leaves open.
+int windows1252(unsigned char byte);
+
+// The code points of a piece of a file whose bytes are known to be well-formed.
+std::u32string decode(std::string_view bytes, ByteEncoding encoding);
+
+} // namespace Command
