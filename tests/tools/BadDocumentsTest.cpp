@@ -1,13 +1,10 @@
 // Documents that nobody should write: each ends in a message or well, in bounded time.
-#include "Checker.h"
-#include "XmlReader.h"
+#include "CheckDocument.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <fstream>
 #include <iterator>
-#include <memory>
 #include <string>
 #include <string_view>
 
@@ -16,23 +13,6 @@ namespace {
 
 using namespace std::string_view_literals;
 
-struct Outcome {
-    std::string failure; // its kind and message; empty when the document was read to its end
-    Counts counts;
-    Place last; // of the findings
-};
-
-Outcome check(std::string_view document) {
-    std::unique_ptr<std::FILE, int (*)(std::FILE*)> const file(std::tmpfile(), std::fclose);
-    std::fwrite(document.data(), 1, document.size(), file.get());
-    std::rewind(file.get());
-    Outcome outcome;
-    Checker checker(outcome.counts, [&](Finding const& finding) { outcome.last = finding.place; });
-    if (auto const failure = readXml(file.get(), checker))
-        outcome.failure = std::string(failure->id) + ": " + failure->message;
-    return outcome;
-}
-
 constexpr std::string_view opening = "<block xmlns='http://www.w3.org/1999/XSL/Format'";
 
 TEST(BadDocuments, EndAtEveryByte) {
@@ -40,9 +20,10 @@ TEST(BadDocuments, EndAtEveryByte) {
         std::ifstream file(std::string(XMLATTR_SAMPLES) + name, std::ios::binary);
         std::string const document(std::istreambuf_iterator<char>(file), {});
         std::string_view const text = std::string_view(document).substr(0, document.find_last_not_of(" \r\n") + 1);
-        ASSERT_EQ(check(text).failure, "") << name;
+        ASSERT_EQ(checkDocument(text).failure, "") << name;
         for (std::size_t size = 0; size < text.size(); ++size)
-            ASSERT_TRUE(check(text.substr(0, size)).failure.starts_with("malformed: ")) << name << " cut at " << size;
+            ASSERT_TRUE(checkDocument(text.substr(0, size)).failure.starts_with("malformed: "))
+                << name << " cut at " << size;
     }
 }
 
@@ -50,7 +31,8 @@ TEST(BadDocuments, HoldBytesThatAreNoCharacters) {
     for (std::string_view const bytes :
          {"\0"sv, "\x01"sv, "\xFF"sv, "\xC0\x80"sv, "\xED\xA0\x80"sv, "\xF4\x90\x80\x80"sv, "\xE2\x82"sv})
         for (std::string_view const end : {" span='"sv, "><!--"sv, ">"sv, " "sv})
-            EXPECT_TRUE(check(std::string(opening).append(end).append(bytes)).failure.starts_with("malformed: "))
+            EXPECT_TRUE(
+                checkDocument(std::string(opening).append(end).append(bytes)).failure.starts_with("malformed: "))
                 << end << " and byte " << int{static_cast<unsigned char>(bytes[0])};
 }
 
@@ -58,7 +40,7 @@ TEST(BadDocuments, HaveAMillionAttributes) {
     constexpr int count = 1'000'000;
     std::string document(opening);
     for (int i = 0; i < count; ++i) document.append(" a").append(std::to_string(i)).append("=''");
-    Outcome const outcome = check(document + " span='x'/>");
+    Outcome const outcome = checkDocument(document + " span='x'/>");
     EXPECT_EQ(outcome.failure, "");
     EXPECT_EQ(outcome.counts.unknown, count);
     EXPECT_EQ(outcome.last.column, document.size() + 2);
@@ -67,10 +49,10 @@ TEST(BadDocuments, HaveAMillionAttributes) {
 TEST(BadDocuments, HaveATextOf100MB) {
     std::string const text(100 << 20, 'x');
     for (std::string_view const end : {" span='"sv, "><!--"sv, "><?"sv, " "sv})
-        EXPECT_EQ(check(std::string(opening).append(end).append(text)).failure,
+        EXPECT_EQ(checkDocument(std::string(opening).append(end).append(text)).failure,
                   "limit: a tag or comment of more than 32 MiB")
             << end;
-    EXPECT_EQ(check(std::string(opening).append(">").append(text).append("</block>")).failure, "");
+    EXPECT_EQ(checkDocument(std::string(opening).append(">").append(text).append("</block>")).failure, "");
 }
 
 } // namespace

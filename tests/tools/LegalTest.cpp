@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <iterator>
+
 namespace Command {
 namespace {
 
@@ -52,14 +54,16 @@ TEST(Expression, IsMoreThanAValue) {
     for (char16_t const* const text :
          {u"1em + 2pt", u"5 mod 3 * 7.5pt", u"(5cm * 1cm) div 2cm", u"abs(-30cm + .3cm)", u"from-parent( font-size )",
           u"inherited-property-value()", u"2.5cm -3pt", u"max(1pt,min(2pt, 3%))", u"- (1pt)", u"label-end() - 1pt",
-          u"rgb-icc(0, 0, 0, 'profile', 1)", u"1pt+1pt"})
+          u"rgb-icc(0, 0, 0, 'profile', 1)", u"1pt+1pt", u"from-parent(space-before.optimum)",
+          u"inherited-property-value( keep-together.within-line ) div 2"})
         EXPECT_TRUE(isExpression(text)) << toUtf8(text);
-    for (char16_t const* const text :
-         {u"", u"12pt", u"-1pt", u"12 q", u"1em + ", u"1em 2pt", u"+", u"(1pt", u"1pt)", u"round()", u"round(1,2)",
-          u"rgb(1,2)", u"from-parrent(color)", u"even-page", u"5modx 3", u"'a' 'b'", u"'a"})
+    for (char16_t const* const text : {u"", u"12pt", u"-1pt", u"12 q", u"1em + ", u"1em 2pt", u"+", u"(1pt", u"1pt)",
+                                       u"round()", u"round(1,2)", u"rgb(1,2)", u"from-parrent(color)", u"even-page",
+                                       u"5modx 3", u"'a' 'b'", u"'a", u"from-parent(.a)", u"from-parent(a.b c)"})
         EXPECT_FALSE(isExpression(text)) << toUtf8(text);
     EXPECT_FALSE(isExpression(std::u16string(1'000'000, u'('))) << "nesting has a limit";
     EXPECT_TRUE(isCopy(u" from-parent(break-before) "));
+    EXPECT_TRUE(isCopy(u"from-parent(keep-together.within-page)"));
     EXPECT_FALSE(isCopy(u"from-parent() + 1"));
     EXPECT_FALSE(isCopy(u"round(1)")) << "no keyword comes from there";
 }
@@ -108,27 +112,32 @@ TEST(Shorthand, LetsTheTypesOfItsPartsRead) {
              Row{Vocabulary::Svg, "font", u"12/14 serif", Checked, ""},
              Row{Vocabulary::Svg, "marker", u"url(#a)", Checked, ""},
          }) {
-        ShorthandVerdict const verdict =
-            judgeShorthand(*Xml::Catalogue::find(row.vocabulary, "*", row.attribute), row.text);
+        Judgement const verdict = judgeShorthand(*Xml::Catalogue::find(row.vocabulary, "*", row.attribute), row.text);
         EXPECT_EQ(verdict.verdict, row.verdict) << row.attribute << ": " << toUtf8(row.text);
         EXPECT_EQ(verdict.part + verdict.problem, row.wrong) << row.attribute << ": " << toUtf8(row.text);
     }
 }
 
 TEST(StyleAttribute, SplitsDeclarations) {
-    std::string_view const text = "fill : red;;/* a; */stroke:url(a;b) ! important; font:'x;y' 3px;junk;;x:";
+    std::string text = "fill : red;;/* a; */stroke:url(a;b) ! important; font:'x;/*y' 3px;junk;;x:;"
+                       "Y:url( 'a)/*;' ) /* ) */ !Important;z:url(//a/*b);w:1/**/2/*";
+    blankComments(text);
     auto const declarations = splitStyle(text);
-    ASSERT_EQ(declarations.size(), 4u);
     struct Row {
         char const *property, *value;
     };
-    Row const rows[] = {{"fill", "red"}, {"stroke", "url(a;b)"}, {"font", "'x;y' 3px"}, {"x", ""}};
-    for (std::size_t i = 0; i < 4; ++i) {
+    Row const rows[] = {{"fill", "red"},         {"stroke", "url(a;b)"}, {"font", "'x;/*y' 3px"}, {"x", ""},
+                        {"Y", "url( 'a)/*;' )"}, {"z", "url(//a/*b)"},   {"w", "1    2"}};
+    ASSERT_EQ(declarations.size(), std::size(rows));
+    for (std::size_t i = 0; i < std::size(rows); ++i) {
         EXPECT_EQ(declarations[i].property, rows[i].property);
         EXPECT_EQ(declarations[i].value, rows[i].value);
         EXPECT_EQ(text.substr(declarations[i].offset, 1), std::string_view(rows[i].property).substr(0, 1));
     }
-    for (std::string_view const open : {"/*", "a:/*", "'", "a:'", "a:(", ";", "/"}) splitStyle(open);
+    for (std::string open : {"", "/*", "a:/*", "'", "a:'", "a:(", ";", "/", "a:url(", "a:url( '", "a:!"}) {
+        blankComments(open);
+        splitStyle(open);
+    }
 }
 
 TEST(Hints, SuggestWhatIsNear) {

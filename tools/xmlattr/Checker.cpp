@@ -6,8 +6,6 @@
 
 #include "xmlattr/core/String.h"
 
-#include <algorithm>
-
 namespace Command {
 
 namespace {
@@ -17,6 +15,13 @@ constexpr std::string_view xlinkSpace = "http://www.w3.org/1999/xlink";
 
 // The values of a list take up to twenty times the memory of its text.
 constexpr std::size_t longestList = 4 << 20;
+
+Judgement judge(Property const& property, std::u16string_view text) {
+    if (property.entry->kind == Xml::AttributeKind::Shorthand) return judgeShorthand(*property.entry, text);
+    Verdict const verdict = property.judge(text);
+    if (verdict != Verdict::Refused) return {verdict, {}, {}, {}};
+    return {verdict, {}, {property.type}, {}};
+}
 
 } // namespace
 
@@ -60,8 +65,8 @@ void Checker::check(Occurrence const& occurrence) {
         return;
     }
     switch (property->entry->kind) {
-    case Xml::AttributeKind::Typed: return checkTyped(occurrence, *property);
-    case Xml::AttributeKind::Shorthand: return checkShorthand(occurrence, *property);
+    case Xml::AttributeKind::Typed:
+    case Xml::AttributeKind::Shorthand: return checkValue(occurrence, *property);
     case Xml::AttributeKind::Identifier: ++counts.identifiers; return;
     case Xml::AttributeKind::None: ++counts.noType; return;
     case Xml::AttributeKind::Text:
@@ -71,65 +76,50 @@ void Checker::check(Occurrence const& occurrence) {
     }
 }
 
-void Checker::checkTyped(Occurrence const& occurrence, Property const& property) {
+void Checker::checkValue(Occurrence const& occurrence, Property const& property) {
     if (property.isList() && occurrence.value.size() > longestList) {
         ++counts.tooLong;
         return;
     }
-    Verdict const verdict = cache.find(property, occurrence.value, [&] {
+    Judgement found;
+    Verdict verdict = cache.find(property, occurrence.value, [&] {
         toUtf16(occurrence.value, text);
-        return property.judge(text);
-    });
-    switch (verdict) {
-    case Verdict::Checked: ++counts.checked; return;
-    case Verdict::PassedOver: ++counts.passedOver; return;
-    case Verdict::NotCovered: ++counts.noType; return;
-    case Verdict::Refused: break;
-    }
-    // The value types read attributes, which have a case.
-    if (occurrence.isDeclaration && property.judge(Core::String(text).toLower()) != Verdict::Refused) {
-        ++counts.passedOver;
-        return;
-    }
-    if (!isToBeReported()) return;
-    Finding finding;
-    finding.types.emplace_back(property.type->name);
-    finding.hints = hintsFor(*property.type, text);
-    refuse(occurrence, std::move(finding));
-}
-
-void Checker::checkShorthand(Occurrence const& occurrence, Property const& property) {
-    ShorthandVerdict found;
-    Verdict const verdict = cache.find(property, occurrence.value, [&] {
-        toUtf16(occurrence.value, text);
-        found = judgeShorthand(*property.entry, text);
+        found = judge(property, text);
         return found.verdict;
     });
+    // CSS has no case; the value types read attributes, which have one.
+    if (verdict == Verdict::Refused && occurrence.isDeclaration &&
+        judge(property, Core::String(text).toLower()).verdict != Verdict::Refused)
+        verdict = Verdict::PassedOver;
     switch (verdict) {
     case Verdict::Checked: ++counts.checked; return;
     case Verdict::PassedOver: ++counts.passedOver; return;
     case Verdict::NotCovered: ++counts.noType; return;
     case Verdict::Refused: break;
     }
-    if (!isToBeReported()) return;
+    if (!occurrence.tag.isWhole(occurrence.number)) {
+        ++counts.unread;
+        return;
+    }
+    if (counts.refused++ >= maxFindings) return;
     Finding finding;
     finding.part = found.part;
     finding.problem = found.problem;
     for (ValueType const* const type : found.types) {
         finding.types.emplace_back(type->name);
         if (finding.hints.variant.empty() && finding.hints.nearest.empty())
-            finding.hints = hintsFor(*type, toUtf16(found.part));
+            finding.hints = hintsFor(*type, found.part.empty() ? text : toUtf16(found.part));
     }
     if (found.types.size() > 1) finding.hints.accepted.clear(); // those of one type are not all
     refuse(occurrence, std::move(finding));
 }
 
 void Checker::checkStyle(Occurrence const& occurrence) {
-    for (Declaration const& declaration : splitStyle(occurrence.value)) {
+    style = occurrence.value;
+    blankComments(style);
+    for (Declaration const& declaration : splitStyle(style)) {
         ++counts.declarations;
-        std::string name(declaration.property); // CSS has no case
-        std::ranges::transform(name, name.begin(),
-                               [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c; });
+        std::string const name = toLower(declaration.property); // CSS has no case
         check({occurrence.tag, occurrence.vocabulary, occurrence.element, occurrence.number, name, declaration.value,
                declaration.offset, true});
     }

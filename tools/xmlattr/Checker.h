@@ -34,9 +34,9 @@ struct Counts {
     std::uint64_t attributes = 0, declarations = 0;
     std::uint64_t checked = 0, passedOver = 0, refused = 0, identifiers = 0, texts = 0;
     // Not covered, by reason.
-    std::uint64_t noType = 0, foreign = 0, tooLong = 0, unknown = 0;
+    std::uint64_t noType = 0, foreign = 0, tooLong = 0, unread = 0, unknown = 0;
 
-    std::uint64_t notCovered() const { return noType + foreign + tooLong + unknown; }
+    std::uint64_t notCovered() const { return noType + foreign + tooLong + unread + unknown; }
 };
 
 class Checker final : public XmlHandler {
@@ -53,10 +53,8 @@ private:
     struct Occurrence;
 
     void check(Occurrence const& occurrence);
-    void checkTyped(Occurrence const& occurrence, Property const& property);
-    void checkShorthand(Occurrence const& occurrence, Property const& property);
+    void checkValue(Occurrence const& occurrence, Property const& property);
     void checkStyle(Occurrence const& occurrence);
-    bool isToBeReported() { return counts.refused++ < maxFindings; }
     void refuse(Occurrence const& occurrence, Finding finding);
 
     Counts& counts;
@@ -64,6 +62,7 @@ private:
     std::uint64_t maxFindings;
     VerdictCache cache;
     std::u16string text; // of the attribute at hand, kept for its memory
+    std::string style;   // the style attribute at hand, likewise
     std::string prefixed;
     bool isPlainSvg = false; // an SVG document that declares no namespace
 };

@@ -141,7 +141,9 @@ private:
 
     std::u16string_view name() {
         std::size_t const first = index;
-        skip([](char16_t unit) { return isLetter(unit) || Core::isDigit(unit) || unit == u'-' || unit == u'_'; });
+        skip([](char16_t unit) {
+            return isLetter(unit) || Core::isDigit(unit) || unit == u'-' || unit == u'_' || unit == u'.';
+        });
         return text.substr(first, index - first);
     }
 

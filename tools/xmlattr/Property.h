@@ -5,7 +5,9 @@
 
 #include "xmlattr/catalogue/Catalogue.h"
 
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace Command {
 
@@ -14,6 +16,16 @@ enum class Verdict {
     PassedOver, // legal, but the formatter's business and not the type's
     NotCovered, // there is no value type for it
     Refused
+};
+
+// A verdict and what it is about.
+struct Judgement {
+    Verdict verdict;
+    // Of a refusal: the types none of which reads the text, or the part of it that is wrong. No
+    // types: `problem` says what is wrong with the whole.
+    std::string part;
+    std::vector<ValueType const*> types;
+    std::string problem;
 };
 
 struct Property {

@@ -51,6 +51,7 @@ public:
         reason(counts.noType, "without a value type");
         reason(counts.foreign, "of other vocabularies");
         reason(counts.tooLong, "too long");
+        reason(counts.unread, "with an entity that is not read");
         reason(counts.unknown, "unknown");
         if (!reasons.empty()) line += reasons + ")";
         line += ", " + std::to_string(counts.refused) + " refused";
@@ -108,6 +109,7 @@ public:
                            {{"noType", counts.noType},
                             {"foreign", counts.foreign},
                             {"tooLong", counts.tooLong},
+                            {"unread", counts.unread},
                             {"unknown", counts.unknown}}},
                           {"refused", counts.refused},
                           {"shown", shown}}));

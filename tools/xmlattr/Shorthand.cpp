@@ -94,7 +94,7 @@ class Judge {
 public:
     explicit Judge(Shorthand const& shorthand) : shorthand(shorthand) {}
 
-    ShorthandVerdict byRule(std::vector<std::u16string_view> const& parts) {
+    Judgement byRule(std::vector<std::u16string_view> const& parts) {
         if (parts.size() > shorthand.rule->mostParts)
             return {Verdict::Refused, {}, {}, "has more than " + std::to_string(shorthand.rule->mostParts) + " parts"};
         for (std::u16string_view const part : parts)
@@ -103,7 +103,7 @@ public:
     }
 
     // [style, variant and weight in any order] size[/line-height] family
-    ShorthandVerdict font(std::vector<std::u16string_view> const& parts) {
+    Judgement font(std::vector<std::u16string_view> const& parts) {
         if (parts.size() == 1 && (isWord(parts[0]) || isCopy(parts[0]))) return {Verdict::PassedOver, {}, {}, {}};
         std::size_t i = 0;
         while (i < parts.size() && mayBeStyle(parts[i]) && isOneOf(shorthand.longhands, parts[i])) ++i;
@@ -141,9 +141,9 @@ private:
         return hasPassed;
     }
 
-    ShorthandVerdict refusal(std::u16string_view part) const { return {Verdict::Refused, toUtf8(part), tried, {}}; }
+    Judgement refusal(std::u16string_view part) const { return {Verdict::Refused, toUtf8(part), tried, {}}; }
 
-    ShorthandVerdict accepted() const { return {hasChecked ? Verdict::Checked : Verdict::PassedOver, {}, {}, {}}; }
+    Judgement accepted() const { return {hasChecked ? Verdict::Checked : Verdict::PassedOver, {}, {}, {}}; }
 
     Shorthand const& shorthand;
     std::vector<ValueType const*> tried;
@@ -176,7 +176,7 @@ std::vector<std::u16string_view> splitParts(std::u16string_view text) {
     return parts;
 }
 
-ShorthandVerdict judgeShorthand(Xml::CatalogueEntry const& entry, std::u16string_view text) {
+Judgement judgeShorthand(Xml::CatalogueEntry const& entry, std::u16string_view text) {
     if (equalsWord(Core::trim(text), "inherit", entry.vocabulary == Xml::Vocabulary::Svg))
         return {Verdict::PassedOver, {}, {}, {}};
     Shorthand const& shorthand = shorthandOf(entry);

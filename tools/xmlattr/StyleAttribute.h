@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -13,8 +14,11 @@ struct Declaration {
     std::size_t offset; // of the property's name in the text, in bytes
 };
 
-// Declarations stand between semicolons outside of quotation marks, parentheses and comments, as in
-// CSS 2. What has no colon is left out.
+// Writes blanks over the comments of a text, so that what is left keeps its offset.
+void blankComments(std::string& text);
+
+// Declarations stand between semicolons outside of strings, parentheses and URLs, as in CSS 2; there
+// are no comments any more. What has no colon is left out.
 std::vector<Declaration> splitStyle(std::string_view text);
 
 } // namespace Command

@@ -1,0 +1,35 @@
+// Checks a document that a test writes.
+#pragma once
+
+#include "Checker.h"
+#include "XmlReader.h"
+
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace Command {
+
+struct Outcome {
+    std::string failure; // its kind and message; empty when the document was read to its end
+    Counts counts;
+    Place last;             // of the findings
+    std::string attributes; // that were refused, each with a blank behind it
+};
+
+inline Outcome checkDocument(std::string_view document) {
+    std::unique_ptr<std::FILE, int (*)(std::FILE*)> const file(std::tmpfile(), std::fclose);
+    std::fwrite(document.data(), 1, document.size(), file.get());
+    std::rewind(file.get());
+    Outcome outcome;
+    Checker checker(outcome.counts, [&](Finding const& finding) {
+        outcome.last = finding.place;
+        outcome.attributes += finding.attribute + " ";
+    });
+    if (auto const failure = readXml(file.get(), checker))
+        outcome.failure = std::string(failure->id) + ": " + failure->message;
+    return outcome;
+}
+
+} // namespace Command

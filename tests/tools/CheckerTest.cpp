@@ -1,0 +1,131 @@
+#include "CheckDocument.h"
+
+#include <gtest/gtest.h>
+
+#include <iterator>
+
+namespace Command {
+namespace {
+
+using namespace std::string_literals;
+
+std::string const svg = "<svg xmlns='http://www.w3.org/2000/svg' ";
+std::string const block = "<b xmlns='http://www.w3.org/1999/XSL/Format' ";
+
+// Checked, passed over, identifiers, texts, and not covered: without a type, foreign, unread, unknown.
+std::string classesOf(Counts const& counts) {
+    std::string classes;
+    for (std::uint64_t const count : {counts.checked, counts.passedOver, counts.identifiers, counts.texts,
+                                      counts.noType, counts.foreign, counts.unread, counts.unknown})
+        classes += std::to_string(count) + " ";
+    return classes;
+}
+
+TEST(Checker, CountsEachAttributeInOneClass) {
+    struct Row {
+        std::string document;
+        char const *classes, *refused;
+    };
+    for (Row const& row :
+         {Row{block + "break-before='page' span='from-parent(span)' id='a' hyphenate='true'/>", "2 1 1 0 0 0 0 0 ", ""},
+          Row{block + "break-before='' span='al' nope='x' x:span='al' xmlns:x='urn:x'/>", "0 0 0 0 0 1 0 1 ",
+              "break-before span "},
+          Row{"<x:b xmlns:x='urn:x' span='al'><b span='al'/></x:b>", "0 0 0 0 0 2 0 0 ", ""},
+          Row{"<svg width='q'><g style='fill:q' x:fill='q' xmlns:x='urn:x'/></svg>", "0 0 0 1 0 1 0 0 ", "width fill "},
+          Row{"<html><svg width='q'/></html>", "0 0 0 0 0 1 0 0 ", ""},
+          Row{svg + "xml:lang='de' xml:space='q' xmlns:l='http://www.w3.org/1999/xlink' l:show='q'/>",
+              "1 0 0 0 2 0 0 0 ", ""},
+          Row{svg + "style='FILL:red;width:1;nope:2'/>", "1 0 0 1 0 0 0 2 ", ""}}) {
+        Outcome const outcome = checkDocument(row.document);
+        EXPECT_EQ(outcome.failure, "") << row.document;
+        EXPECT_EQ(classesOf(outcome.counts), row.classes) << row.document;
+        EXPECT_EQ(outcome.attributes, row.refused) << row.document;
+    }
+}
+
+TEST(Checker, ReadsStyleAsCss) {
+    struct Row {
+        char const* style;
+        std::uint64_t checked, passedOver, refused;
+    };
+    for (Row const& row :
+         {Row{"fill:red/**/", 1, 0, 0}, Row{"/* a:b; */ fill /**/ :/* x */ red", 1, 0, 0},
+          Row{"fill: RED /* x; */; Stroke-Linecap:BUTT", 1, 1, 0},
+          Row{"fill:red !IMPORTANT; stroke:red ! important; color:red!/**/important", 3, 0, 0},
+          Row{"fill:red !importunate; fill:!important", 0, 0, 2},
+          Row{"font:BOLD 12px Arial; font: bold/* x */12px Arial", 1, 1, 0},
+          Row{"font:BALD 12px Arial; font:BOLD", 0, 0, 2}, Row{"clip:RECT(auto, auto, auto, auto)", 0, 1, 0},
+          Row{"marker-start:url(a/*;b);fill:URL(#a;b)", 1, 1, 0}, Row{"fill:re/**/d; fill:red blue; fill:#12", 0, 0, 3},
+          Row{"font-family:\"a;/*b\"; fill:q; stroke:q /* ", 1, 0, 2}}) {
+        Counts const counts = checkDocument(svg + "style='" + row.style + "'/>").counts;
+        EXPECT_EQ(counts.checked, row.checked) << row.style;
+        EXPECT_EQ(counts.passedOver, row.passedOver) << row.style;
+        EXPECT_EQ(counts.refused, row.refused) << row.style;
+        EXPECT_EQ(counts.declarations, row.checked + row.passedOver + row.refused) << row.style;
+    }
+    EXPECT_EQ(checkDocument(svg + "stroke-linecap='BUTT' font='BOLD 12px A'/>").counts.refused, 2)
+        << "an attribute has a case";
+}
+
+TEST(Checker, RefusesNoTextOfWhichAPartIsNotRead) {
+    struct Row {
+        std::string document;
+        std::uint64_t unread;
+        char const* refused;
+    };
+    std::string const dtd = "<!DOCTYPE svg SYSTEM 'x.dtd' [<!ENTITY q 'q'><!ENTITY i 'i&o;'>]>";
+    for (Row const& row :
+         {Row{"<!DOCTYPE svg SYSTEM 'x.dtd'>" + svg + "width='&w;' height='&w;px' x='q&#113;' y='q'/>", 2, "x y "},
+          Row{"<!DOCTYPE svg PUBLIC 'p' 'x.dtd'>" + svg + "style='fill:&w;;stroke:q'/>", 2, ""},
+          Row{"<!DOCTYPE svg [<!ENTITY % p ''>%p;]>" + svg + "width='q&w;' height='&lt;'/>", 1, "height "},
+          Row{dtd + svg + "width='&q;' height='&i;' x='&q;&w;' y='1&w;'/>", 2, "width "},
+          Row{dtd + svg + "width='q' stroke='&lt;' fill=''/>", 0, "width stroke fill "},
+          Row{"<!DOCTYPE svg SYSTEM 'x.dtd' [<!ENTITY e '<g fill=\"&w;\"/>'>]>" + svg + ">&e;</svg>", 1, ""}}) {
+        Outcome const outcome = checkDocument(row.document);
+        EXPECT_EQ(outcome.failure, "") << row.document;
+        EXPECT_EQ(outcome.counts.unread, row.unread) << row.document;
+        EXPECT_EQ(outcome.attributes, row.refused) << row.document;
+    }
+    EXPECT_EQ(checkDocument("<!DOCTYPE svg [<!ENTITY q 'q'>]>" + svg + "width='&w;'/>").failure,
+              "malformed: no well-formed XML: undefined entity");
+}
+
+std::string utf16(std::string const& text, bool isBig, bool isMarked) {
+    std::string bytes = !isMarked ? "" : isBig ? "\xFE\xFF" : "\xFF\xFE";
+    for (char const c : text) bytes += isBig ? std::string{'\0', c} : std::string{c, '\0'};
+    return bytes;
+}
+
+TEST(Checker, CountsCodePointsInEveryEncoding) {
+    auto const declared = [](std::string const& name) { return "<?xml version='1.0' encoding='" + name + "'?>"; };
+    // Two characters, then an attribute, then a declaration behind the same two.
+    auto const faults = [](std::string const& two) {
+        return "<svg id='" + two + "' x='q' style='font-family:" + two + "; fill:q'/>";
+    };
+    std::string const mark = "\xEF\xBB\xBF";
+    struct Row {
+        char const* name;
+        std::string before, two;
+        bool isBig = false, isUtf16 = false, isMarked = false;
+    };
+    for (Row const& row :
+         {Row{"ASCII", "", "ab"}, Row{"UTF-8", "", "\xC3\xA9\xE2\x82\xAC"},
+          Row{"UTF-8 of four bytes", "", "\xF0\x9F\x98\x80\xF0\x9F\x98\x80"}, Row{"UTF-8, marked", mark, "ab"},
+          Row{"UTF-8, marked and declared", mark + declared("UTF-8"), "\xC3\xA9o"},
+          Row{"US-ASCII", declared("us-ascii"), "ab"}, Row{"ISO-8859-1", declared("ISO-8859-1"), "\xE9\xFF"},
+          Row{"windows-1252", declared("Windows-1252"), "\x80\xE9"}, Row{"cp1252", declared("CP1252"), "\x80\x80"},
+          Row{"UTF-16LE, marked", "", "ab", false, true, true}, Row{"UTF-16BE, marked", "", "ab", true, true, true},
+          Row{"UTF-16LE, declared", declared("UTF-16"), "ab", false, true, true},
+          Row{"UTF-16BE, declared", declared("UTF-16"), "ab", true, true, true},
+          Row{"UTF-16BE, unmarked", declared("UTF-16"), "ab", true, true}}) {
+        std::string const text = row.before + faults(row.two);
+        Outcome const outcome = checkDocument(row.isUtf16 ? utf16(text, row.isBig, row.isMarked) : text);
+        EXPECT_EQ(outcome.failure, "") << row.name;
+        std::size_t const before = row.before.size() - (row.before.starts_with(mark) ? mark.size() : 0);
+        EXPECT_EQ(outcome.attributes, "x fill ") << row.name;
+        EXPECT_EQ(outcome.last.column, before + faults("ab").find("fill:") + 1) << row.name;
+    }
+}
+
+} // namespace
+} // namespace Command
