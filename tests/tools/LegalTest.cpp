@@ -152,7 +152,8 @@ TEST(Hints, SuggestWhatIsNear) {
     for (Row const& row :
          {Row{"Length", "12pt", "", u" 12 PT"}, Row{"Length", "12pt", "", u"12"}, Row{"Length", "1.5pt", "", u"1,5pt"},
           Row{"Break", "page", "", u"Page"}, Row{"BorderWidth", "", "thick", u"thickk"},
-          Row{"SmartPtr<Drawing::Color>", "", "purple", u"pruple"}, Row{"Length", "", "", u"purple"}}) {
+          Row{"SmartPtr<Drawing::Color>", "", "purple", u"pruple"}, Row{"Length", "", "", u"purple"},
+          Row{"SmartPtr<Drawing::Color>", "", "green", u"gren"}}) {
         Hints const hints = hintsFor(*findValueType(row.type), row.text);
         EXPECT_EQ(hints.variant, row.variant) << toUtf8(row.text);
         EXPECT_EQ(hints.nearest, row.nearest) << toUtf8(row.text);

@@ -30,6 +30,15 @@ std::size_t editDistance(std::u16string_view a, std::u16string_view b) {
     return row.back();
 }
 
+// How many units the two begin and end with alike.
+std::size_t sharedEnds(std::u16string_view a, std::u16string_view b) {
+    auto const isAlike = [](char16_t one, char16_t other) { return Core::toLower(one) == Core::toLower(other); };
+    auto const [start, other] = std::ranges::mismatch(a, b, isAlike);
+    std::u16string_view const restA(start, a.end()), restB(other, b.end());
+    auto const end = std::mismatch(restA.rbegin(), restA.rend(), restB.rbegin(), restB.rend(), isAlike).first;
+    return static_cast<std::size_t>((start - a.begin()) + (end - restA.rbegin()));
+}
+
 std::u16string without(std::u16string_view text, std::u16string_view units) {
     std::u16string rest(text);
     std::erase_if(rest, [&](char16_t unit) { return units.find(unit) != std::u16string_view::npos; });
@@ -64,12 +73,13 @@ std::vector<std::u16string> wordsOf(ValueType const& type) {
 std::u16string_view nearestWord(std::u16string_view text, std::vector<std::u16string_view> const& words) {
     if (text.size() > longestGuess) return {};
     std::u16string_view nearest;
-    std::size_t smallest = longestGuess;
+    std::pair best(longestGuess, std::size_t{0}); // the distance and what it leaves alike
     for (std::u16string_view const word : words) {
-        std::size_t const distance = editDistance(text, word);
-        if (distance * 2 < word.size() && distance < smallest) {
+        std::pair const found(editDistance(text, word), sharedEnds(text, word));
+        bool const isBetter = found.first < best.first || (found.first == best.first && found.second > best.second);
+        if (found.first * 2 < word.size() && isBetter) {
             nearest = word;
-            smallest = distance;
+            best = found;
         }
     }
     return nearest;

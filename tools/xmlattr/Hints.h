@@ -16,7 +16,8 @@ struct Hints {
 
 Hints hintsFor(ValueType const& type, std::u16string_view text);
 
-// The word with the smallest edit distance, when that is under half the word's length; or empty.
+// The word with the smallest edit distance, when that is under half the word's length; or empty. Of
+// words as near, the one that begins and ends more like the text: "gren" is green, not grey.
 std::u16string_view nearestWord(std::u16string_view text, std::vector<std::u16string_view> const& words);
 
 } // namespace Command
