@@ -36,6 +36,10 @@ void add(Shown& shown, std::string name, std::string value) {
     shown.parts.push_back({std::move(name), std::move(value)});
 }
 
+template <Xml::KeywordEnumeration Kind> void addKind(Shown& shown, Kind kind) {
+    add(shown, "kind", Xml::AttributeTraits<Kind>::print(kind).toUtf8());
+}
+
 template <class Measure> void addMeasure(Shown& shown, Measure const& measure) {
     if (measure.isPercent())
         add(shown, "fraction", text(measure.getPercent()));
@@ -96,15 +100,24 @@ void describe(Shown& shown, Xml::BackgroundSize const* size) {
 }
 
 void describe(Shown& shown, Xml::PageDimension const* dimension) {
-    if (dimension->getType() == Xml::PageDimensionType::Length) describe(shown, &dimension->getLength());
+    if (dimension->getType() == Xml::PageDimensionType::Length)
+        describe(shown, &dimension->getLength());
+    else
+        addKind(shown, dimension->getType());
 }
 
 void describe(Shown& shown, Xml::SSpacing const* spacing) {
-    if (!spacing->isNormal()) describe(shown, &spacing->getSLength());
+    if (spacing->isNormal())
+        add(shown, "kind", "normal");
+    else
+        describe(shown, &spacing->getSLength());
 }
 
 void describe(Shown& shown, Xml::SBaselineShift const* shift) {
-    if (shift->getMode() == Xml::BaselineShiftMode::LengthOrPercent) describe(shown, &shift->getLengthOrPercent());
+    if (shift->getMode() == Xml::BaselineShiftMode::LengthOrPercent)
+        describe(shown, &shift->getLengthOrPercent());
+    else
+        addKind(shown, shift->getMode());
 }
 
 void describe(Shown& shown, Xml::FloatOrPercent const* number) {
@@ -249,6 +262,10 @@ void describe(Shown& shown, Xml::ForcePageCount const* count) {
                                      "end-on-odd", "no-force", "multiple-of", "end-on-multiple-of"};
     add(shown, "kind", types[static_cast<int>(count->getType())]);
     if (count->getCount() != -1) add(shown, "count", text(count->getCount()));
+}
+
+void describe(Shown& shown, Xml::DisplayCondition const* condition) {
+    add(shown, "conditions", std::to_string(condition->getConditions().size()));
 }
 
 void describe(Shown& shown, Xml::TPRule const* rule) {

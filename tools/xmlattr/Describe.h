@@ -40,6 +40,7 @@ void describe(Shown& shown, Xml::Language const* language);
 void describe(Shown& shown, Xml::InitialPageNumber const* number);
 void describe(Shown& shown, Xml::InitialSheetNumber const* number);
 void describe(Shown& shown, Xml::ForcePageCount const* count);
+void describe(Shown& shown, Xml::DisplayCondition const* condition);
 void describe(Shown& shown, Xml::TPRule const* rule);
 void describe(Shown& shown, Xml::AxisUnits const* units);
 void describe(Shown& shown, Xml::Value const* value);
