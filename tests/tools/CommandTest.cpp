@@ -96,32 +96,6 @@ TEST(Command, SpeaksJson) {
     EXPECT_NE(result.errors.find("\"refused\":1"), std::string::npos);
 }
 
-TEST(Command, ReadsFiveEncodings) {
-    auto const utf16 = [](std::string const& text, bool isBig) {
-        std::string bytes = isBig ? "\xFE\xFF" : "\xFF\xFE";
-        for (char const c : text) bytes += isBig ? std::string{'\0', c} : std::string{c, '\0'};
-        return bytes;
-    };
-    std::string const element = "<svg xmlns='http://www.w3.org/2000/svg' id='";
-    std::string const fault = "' stroke-width='a'/>";
-    auto const declared = [](std::string const& name) { return "<?xml version='1.0' encoding='" + name + "'?>\n"; };
-    struct Row {
-        char const* name;
-        std::string content;
-    };
-    for (Row const& row :
-         {Row{"utf8", element + "\xC3\xA9" + fault}, Row{"bom", "\xEF\xBB\xBF\n" + element + "x" + fault},
-          Row{"latin1", declared("ISO-8859-1") + element + "\xE9" + fault},
-          Row{"1252", declared("Windows-1252") + element + "\x80" + fault},
-          Row{"big", utf16(declared("UTF-16") + element + "x" + fault, true)},
-          Row{"little", utf16(declared("UTF-16") + element + "x" + fault, false)}}) {
-        std::string const name = row.name + ".svg"s;
-        Result const result = run("check -q " + write(name, row.content));
-        EXPECT_EQ(placesIn(result.output, name), row.name == "utf8"s ? "1:48 " : "2:48 ") << row.name;
-        EXPECT_EQ(result.code, 1) << row.name;
-    }
-}
-
 TEST(Command, ReportsWhatItCannotReadAndGoesOn) {
     std::string bomb = "<!DOCTYPE a [<!ENTITY e0 'ha'>";
     for (int i = 1; i < 12; ++i) {
@@ -143,6 +117,9 @@ TEST(Command, ReportsWhatItCannotReadAndGoesOn) {
           Row{"cut", "<a>\n<b", ":2:1: error: the file ends too early: unclosed token [malformed]"},
           Row{"open", "<a>\n", ":2:1: error: the file ends inside of an element [malformed]"},
           Row{"text", "plain", ":1:1: error: no well-formed XML: syntax error [malformed]"},
+          Row{"marked", "\xEF\xBB\xBF<a b='' b=''/>",
+              ":1:9: error: no well-formed XML: duplicate attribute [malformed]"},
+          Row{"mark", "\xEF\xBB\xBF", ":1:1: error: no element in the file [malformed]"},
           Row{"twice", "<a b='' b=''/>", ":1:9: error: no well-formed XML: duplicate attribute [malformed]"},
           Row{"utf8", "<a b='\xC3('/>", ":1:7: error: no well-formed XML: not well-formed (invalid token) [malformed]"},
           Row{"nul", "<a b='"s + '\0' + "'/>",
@@ -185,6 +162,10 @@ TEST(Command, GathersFiles) {
     EXPECT_EQ(run("check - --stdin-name in.fo <" + scratch + "/tree/b.fo").output.find("in.fo:1:46: "), 0u);
     std::string const list = write("list", scratch + "/tree/b.fo\r\n\n");
     EXPECT_NE(run("check --files-from " + list).errors.find("1 file: 1 attribute;"), std::string::npos);
+    Result const none = run("check --files-from " + write("list", "\n\r\n"));
+    EXPECT_NE(none.errors.find("list: no path in this file"), std::string::npos) << none.errors;
+    EXPECT_EQ(none.code, 2);
+    EXPECT_NE(run("check - - <" + scratch + "/tree/b.fo").errors.find("1 file: "), std::string::npos) << "read once";
 }
 
 TEST(Command, ShowsListsAndExplains) {
@@ -195,17 +176,72 @@ TEST(Command, ShowsListsAndExplains) {
     for (Row const& row :
          {Row{"show Length 12pc --equal 12pc", "equal       \"12pc\": yes\n", 0},
           Row{"show length -5pt", "prints      \"-5pt\"\n", 0},
-          Row{"show Length 12", "near        \"12pt\" is accepted\n", 1}, Row{"show Lenght 1pt", "", 2},
-          Row{"show Length", "", 2}, Row{"show --format json Break page", "\"prints\":\"page\"", 0},
+          Row{"show -- Length -.5pt", "text        \"-.5pt\"\n", 0},
+          Row{"show Core::String -- --equal", "text        \"--equal\"\n", 0},
+          Row{"show String --equal=-h -- -h", "equal       \"-h\": yes\n", 0},
+          Row{"show String -- --", "prints      \"--\"\n", 0},
+          Row{"show String ''", "prints      \"\"\n", 0},
+          Row{"show rectf 'rect(0,0,0,0)'", "type        Drawing::RectF\n", 0},
+          Row{"show Length 12", "near        \"12pt\" is accepted\n", 1},
+          Row{"show Lenght 1pt", "", 2},
+          Row{"show Length", "", 2},
+          Row{"show --format json Break page", "\"prints\":\"page\"", 0},
           Row{"types Break", "Break                           auto, column, page, even-page or odd-page\n", 0},
-          Row{"types --format json", "{\"type\":\"int\",\"public\":false,", 0}, Row{"types nonsense", "", 2},
+          Row{"types --format json", "{\"type\":\"int\",\"public\":false,", 0},
+          Row{"types nonsense", "", 2},
+          Row{"types BREAK", "Break       ", 0},
+          Row{"properties --type BREAK CLEAR", "", 2},
+          Row{"properties --type color COLOR", "fo   *       background-color ", 0},
           Row{"properties --vocabulary svg --type Core::String", "svg  *       font-family ", 0},
           Row{"properties margin-top --format json", "\"valueType\":\"Margin\",\"alsoLegal\":\"auto\"", 0},
-          Row{"properties nonsense", "", 2}, Row{"--explain bad-value", "bad-value\n\n", 0}, Row{"--explain x", "", 2},
-          Row{"check", "", 2}, Row{"frobnicate", "", 2}, Row{"--version", "xmlattr ", 0}}) {
+          Row{"properties nonsense", "", 2},
+          Row{"--explain bad-value", "bad-value\n\n", 0},
+          Row{"--explain x", "", 2},
+          Row{"check", "", 2},
+          Row{"frobnicate", "", 2},
+          Row{"--version", "xmlattr ", 0}}) {
         Result const result = run(row.arguments);
         EXPECT_NE(result.output.find(row.output), std::string::npos) << row.arguments << ": " << result.output;
         EXPECT_EQ(result.code, row.code) << row.arguments;
+    }
+}
+
+TEST(Command, SaysWhatIsWrongWithACall) {
+    struct Row {
+        char const *arguments, *message;
+    };
+    for (Row const& row :
+         {Row{"check a --max-findings -1", "--max-findings: \"-1\" is no whole number\n"},
+          Row{"check a --max-findings ''", "--max-findings: \"\" is no whole number\n"},
+          Row{"check a --format xml", "--format: \"xml\" is not text or json\n"},
+          Row{"check a --color sometimes", "--color: \"sometimes\" is not auto, always or never\n"},
+          Row{"properties --vocabulary html", "--vocabulary: \"html\" is not fo or svg\n"},
+          Row{"properties --type Brake", "no value type is called \"Brake\"; did you mean \"Break\"?\n"},
+          Row{"show Brake page", "no value type is called \"Brake\"; did you mean \"Break\"?\n"},
+          Row{"show Length 1pt 2pt", "not expected: 2pt\n"}, Row{"show Length", "TEXT is required\n"},
+          Row{"check", "no file to check\nReport each attribute that its value type refuses\nUsage: xmlattr check "},
+          Row{"", "what is to be done?\n"}, Row{"--help >/dev/full", "xmlattr: standard output: "},
+          Row{"--version >/dev/full", "xmlattr: standard output: "},
+          Row{"show -h >/dev/full", "xmlattr: standard output: "},
+          Row{"types >/dev/full", "xmlattr: standard output: "}}) {
+        Result const result = run(row.arguments);
+        EXPECT_NE(result.errors.find(row.message), std::string::npos) << row.arguments << ": " << result.errors;
+        EXPECT_EQ(result.code, 2) << row.arguments;
+    }
+}
+
+TEST(Command, HelpsInWordsOfItsUsers) {
+    struct Row {
+        char const *command, *usage;
+    };
+    for (Row const& row : {Row{"", "[OPTIONS] [SUBCOMMAND]\n"}, Row{"check ", "check [OPTIONS] [FILE...]\n"},
+                           Row{"show ", "show [OPTIONS] TYPE TEXT\n"}, Row{"types ", "types [OPTIONS] [NAME]\n"},
+                           Row{"properties ", "properties [OPTIONS] [NAME]\n"}}) {
+        Result const result = run(row.command + "--help"s);
+        EXPECT_NE(result.output.find("Usage: xmlattr "s + row.usage), std::string::npos) << result.output;
+        for (char const* const internal : {"->", ":{", " :", "REQUIRED", "FILE TEXT"})
+            EXPECT_EQ(result.output.find(internal), std::string::npos) << internal << " in " << result.output;
+        EXPECT_EQ(result.code, 0) << row.command;
     }
 }
 

@@ -4,6 +4,8 @@
 
 #include "Output.h"
 
+#include "xmlattr/catalogue/Catalogue.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -36,9 +38,9 @@ struct TypesOptions {
 };
 
 struct PropertiesOptions {
-    std::string name;       // what the attribute's name contains
-    std::string vocabulary; // "fo", "svg" or empty
-    std::string type;       // the value type
+    std::string name; // what the attribute's name contains
+    std::optional<Xml::Vocabulary> vocabulary;
+    std::optional<std::string> type; // the value type
     OutputFormat format = OutputFormat::Text;
 };
 

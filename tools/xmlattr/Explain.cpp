@@ -21,7 +21,7 @@ constexpr Explanation explanations[] = {
                  "UTF-16, ISO-8859-1, US-ASCII and windows-1252 are read.\n"},
     {"limit", "The file goes beyond what is read: entities that expand to more than 100 times the file,\n"
               "elements that nest more than 10000 deep, a tag or comment of more than 32 MiB.\n"},
-    {"unreadable", "The file does not exist, is a directory, or may not be read.\n"},
+    {"unreadable", "The file does not exist or may not be read.\n"},
 };
 
 } // namespace

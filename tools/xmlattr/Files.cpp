@@ -44,7 +44,7 @@ FileList gatherFiles(std::vector<std::string> const& paths) {
         std::error_code ignored;
         if (path != "-" && fs::is_directory(path, ignored))
             gatherDirectory(path, list);
-        else
+        else if (path != "-" || std::ranges::find(list.files, path) == list.files.end())
             list.files.push_back(path);
     }
     return list;
@@ -59,11 +59,14 @@ bool readPaths(std::string const& file, std::vector<std::string>& paths, std::st
         problem = file + ": " + std::strerror(lines ? EISDIR : errno);
         return false;
     }
+    std::size_t const before = paths.size();
     for (std::string line; std::getline(lines, line);) {
         if (line.ends_with('\r')) line.pop_back();
         if (!line.empty()) paths.push_back(line);
     }
-    return true;
+    if (paths.size() > before) return true;
+    problem = file + ": no path in this file";
+    return false;
 }
 
 } // namespace Command

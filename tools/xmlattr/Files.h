@@ -12,11 +12,11 @@ struct FileList {
 };
 
 // Files as they are; a directory stands for every .fo, .xml and .svg file in it and below it, in
-// the order of their names.
+// the order of their names. Standard input is read once.
 FileList gatherFiles(std::vector<std::string> const& paths);
 
 // The lines of a file that lists paths, empty ones left out; "-" is standard input. False when it
-// cannot be read; then `problem` says why.
+// cannot be read or lists none; then `problem` says so.
 bool readPaths(std::string const& file, std::vector<std::string>& paths, std::string& problem);
 
 } // namespace Command

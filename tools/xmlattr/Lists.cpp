@@ -1,6 +1,6 @@
 #include "Commands.h"
+#include "NamedType.h"
 #include "Text.h"
-#include "ValueTypes.h"
 
 #include "xmlattr/catalogue/Catalogue.h"
 
@@ -13,8 +13,9 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
+// Whatever the case of either.
 bool contains(std::string_view text, std::string_view part) {
-    return text.find(part) != std::string_view::npos;
+    return toLower(text).find(toLower(part)) != std::string::npos;
 }
 
 std::string padded(std::string_view text, std::size_t width) {
@@ -59,12 +60,14 @@ int types(TypesOptions const& options) {
 }
 
 int properties(PropertiesOptions const& options) {
+    ValueType const* const type = options.type ? findNamedType(*options.type) : nullptr;
+    if (options.type && !type) return 2;
     bool isAny = false;
     for (Xml::CatalogueEntry const& entry : Xml::Catalogue::entries()) {
         std::string_view const vocabulary = Xml::Catalogue::name(entry.vocabulary);
         std::string_view const kind = Xml::Catalogue::name(entry.kind);
-        if ((!options.vocabulary.empty() && options.vocabulary != vocabulary) ||
-            (!options.type.empty() && options.type != entry.valueType) || !contains(entry.attribute, options.name))
+        if ((options.vocabulary && options.vocabulary != entry.vocabulary) || (type && type->name != entry.valueType) ||
+            !contains(entry.attribute, options.name))
             continue;
         isAny = true;
         if (options.format == OutputFormat::Json)

@@ -1,7 +1,7 @@
 #include "Commands.h"
 #include "Hints.h"
+#include "NamedType.h"
 #include "Text.h"
-#include "ValueTypes.h"
 
 #include "xmlattr/core/Log.h"
 
@@ -12,16 +12,6 @@ namespace Command {
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-ValueType const* findOrComplain(std::string const& name) {
-    if (ValueType const* const type = findTypedName(name)) return type;
-    std::vector<std::u16string> names;
-    for (ValueType const& type : valueTypes()) names.push_back(toUtf16(type.name));
-    std::u16string_view const nearest = nearestWord(toUtf16(name), {names.begin(), names.end()});
-    printError("xmlattr: no value type is called " + inQuotes(shown(name)) +
-               (nearest.empty() ? "" : "; did you mean " + inQuotes(toUtf8(nearest)) + "?") + "\n");
-    return nullptr;
-}
 
 std::string row(std::string_view name, std::string_view value) {
     std::string line(name);
@@ -65,7 +55,7 @@ void printJson(ShowOptions const& options, ValueType const& type, Shown const& s
 } // namespace
 
 int show(ShowOptions const& options) {
-    ValueType const* const type = findOrComplain(options.type);
+    ValueType const* const type = findNamedType(options.type);
     if (!type) return 2;
     std::vector<std::string> warnings;
     Core::Log::setHandler([&](Core::String const& message) { warnings.push_back(message.toUtf8()); });

@@ -1,13 +1,10 @@
 #include "ValueTypes.h"
 
 #include "Describe.h"
-#include "Text.h"
 
 #include "xmlattr/Values.h"
 #include "xmlattr/attributes/TXmlAttribute.h"
 #include "xmlattr/keywords/KeywordTable.h"
-
-#include <algorithm>
 
 namespace Command {
 
@@ -55,19 +52,6 @@ std::span<ValueType const> valueTypes() {
 ValueType const* findValueType(std::string_view name) {
     for (ValueType const& type : valueTypes())
         if (type.name == name) return &type;
-    return nullptr;
-}
-
-ValueType const* findTypedName(std::string_view name) {
-    if (ValueType const* const type = findValueType(name)) return type;
-    std::u16string const wanted = toUtf16(name);
-    for (ValueType const& type : valueTypes()) {
-        std::string_view bare = type.name;
-        if (bare.starts_with("SmartPtr<")) bare = bare.substr(9, bare.size() - 10);
-        if (equalsWord(wanted, type.name, true) || equalsWord(wanted, bare, true) ||
-            equalsWord(wanted, bare.substr(std::min(bare.rfind(':') + 1, bare.size())), true))
-            return &type;
-    }
     return nullptr;
 }
 

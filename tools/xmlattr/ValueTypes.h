@@ -41,7 +41,5 @@ struct ValueType {
 std::span<ValueType const> valueTypes();
 // The type with this name, or null.
 ValueType const* findValueType(std::string_view name);
-// The same for a name that a user typed: in any case, and without "SmartPtr<...>" or a namespace.
-ValueType const* findTypedName(std::string_view name);
 
 } // namespace Command

@@ -1,59 +1,89 @@
 // The command xmlattr: checks the attributes of documents.
 
 #include "Commands.h"
+#include "Text.h"
 
 #include <CLI/CLI.hpp>
 
 #include <cerrno>
 #include <csignal>
 #include <cstring>
-#include <map>
+#include <sstream>
 
 namespace {
 
 using namespace Command;
 
+template <class T> using Choices = std::vector<std::pair<std::string, T>>;
+
+// An option that takes one of a few words.
+template <class T, class Value>
+void addChoice(CLI::App& app, std::string const& name, Value& value, std::string const& placeholder,
+               Choices<T> const& choices, std::string const& help) {
+    auto const choose = [&value, choices](std::string const& text) {
+        for (auto const& [word, chosen] : choices)
+            if (word == text) value = chosen;
+    };
+    auto const check = [choices](std::string const& text) {
+        std::vector<std::string> words;
+        for (auto const& [word, chosen] : choices) {
+            if (word == text) return std::string();
+            words.push_back(word);
+        }
+        return inQuotes(shown(text)) + " is not " + joinWith(words, "or");
+    };
+    app.add_option_function<std::string>(name, choose, help)->check(check)->type_name(placeholder);
+}
+
 void addFormat(CLI::App& app, OutputFormat& format) {
-    static std::map<std::string, OutputFormat> const formats = {{"text", OutputFormat::Text},
-                                                                {"json", OutputFormat::Json}};
-    app.add_option("--format", format, "text, or json: one object a line")
-        ->transform(CLI::Transformer(formats))
-        ->type_name("FORMAT");
+    addChoice<OutputFormat>(app, "--format", format, "FORMAT",
+                            {{"text", OutputFormat::Text}, {"json", OutputFormat::Json}},
+                            "text, or json: one object a line");
 }
 
 void addColor(CLI::App& app, ColorMode& color) {
-    static std::map<std::string, ColorMode> const modes = {
-        {"auto", ColorMode::Auto}, {"always", ColorMode::Always}, {"never", ColorMode::Never}};
-    app.add_option("--color", color, "auto, always or never")->transform(CLI::Transformer(modes))->type_name("WHEN");
+    addChoice<ColorMode>(app, "--color", color, "WHEN",
+                         {{"auto", ColorMode::Auto}, {"always", ColorMode::Always}, {"never", ColorMode::Never}},
+                         "auto, always or never");
+}
+
+std::string checkCount(std::string const& text) {
+    bool const isCount = !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
+    return isCount ? "" : inQuotes(shown(text)) + " is no whole number";
 }
 
 int run(int argc, char** argv) {
     CLI::App app("Checks the attribute values of XSL-FO and SVG documents.", "xmlattr");
     app.set_version_flag("--version", "xmlattr " XMLATTR_VERSION);
     app.require_subcommand(0, 1);
+    app.get_formatter()->label("REQUIRED", ""); // the usage shows it
     std::string explained;
     app.add_option("--explain", explained, "What messages with this id mean")->type_name("ID");
 
     CheckOptions checking;
     CLI::App* const checkCommand = app.add_subcommand("check", "Report each attribute that its value type refuses");
-    checkCommand->add_option("FILE", checking.paths,
-                             "Documents; directories, for the .fo, .xml and .svg files below; - for standard input");
+    checkCommand
+        ->add_option("FILE", checking.paths,
+                     "Documents; directories, for the .fo, .xml and .svg files below; - for standard input")
+        ->type_name("");
     checkCommand->add_option("--files-from", checking.filesFrom, "Read paths from this file, one a line")
         ->type_name("FILE");
     checkCommand->add_option("--stdin-name", checking.stdinName, "What to call standard input")->type_name("NAME");
     addFormat(*checkCommand, checking.format);
     addColor(*checkCommand, checking.color);
     checkCommand->add_flag("-q,--quiet", checking.isQuiet, "No summary and no progress");
-    checkCommand->add_option("--max-findings", checking.maxFindings, "Show no more findings than this")->type_name("N");
+    checkCommand->add_option("--max-findings", checking.maxFindings, "Show no more findings than this")
+        ->check(checkCount)
+        ->type_name("N");
     checkCommand->add_option("--explain", explained, "What messages with this id mean")->type_name("ID");
 
-    // A text may begin like an option: -5pt.
     ShowOptions showing;
     CLI::App* const showCommand = app.add_subcommand("show", "Show what a value type makes of a text");
-    std::vector<std::string> words;
-    showCommand->add_option("TYPE TEXT", words, "The value type and the text")->type_name("");
+    showCommand->add_option("TYPE", showing.type, "The value type")->required()->type_name("");
+    showCommand->add_option("TEXT", showing.text, "The text; behind -- when it begins like an option")
+        ->required()
+        ->type_name("");
     showCommand->add_option("--equal", showing.other, "Also compare with this text")->type_name("TEXT");
-    showCommand->allow_extras();
     addFormat(*showCommand, showing.format);
     addColor(*showCommand, showing.color);
 
@@ -65,36 +95,34 @@ int run(int argc, char** argv) {
     PropertiesOptions listing;
     CLI::App* const propertiesCommand = app.add_subcommand("properties", "List the catalogue of attributes");
     propertiesCommand->add_option("NAME", listing.name, "Only attributes whose name contains this")->type_name("");
-    propertiesCommand->add_option("--vocabulary", listing.vocabulary, "Only fo or only svg")
-        ->check(CLI::IsMember({"fo", "svg"}))
-        ->type_name("");
+    addChoice<Xml::Vocabulary>(*propertiesCommand, "--vocabulary", listing.vocabulary, "NAME",
+                               {{"fo", Xml::Vocabulary::Fo}, {"svg", Xml::Vocabulary::Svg}}, "Only fo or only svg");
     propertiesCommand->add_option("--type", listing.type, "Only attributes of this value type")->type_name("TYPE");
     addFormat(*propertiesCommand, listing.format);
 
     try {
         app.parse(argc, argv);
     } catch (CLI::ParseError const& error) {
-        return app.exit(error) == 0 ? 0 : 2;
+        std::ostringstream output, problem;
+        int const code = app.exit(error, output, problem);
+        print(output.str());
+        flushOutput();
+        printError(problem.str());
+        return code == 0 ? 0 : 2;
     }
-    auto const usage = [&](CLI::App const& used, std::string const& problem) {
-        printError("xmlattr: " + problem + "\n" + used.help());
+    auto const usage = [&](std::string const& problem) {
+        printError("xmlattr: " + problem + "\n" + app.help()); // of the command that was named
         return 2;
     };
     if (!explained.empty()) return explain(explained);
     if (*checkCommand) {
-        if (checking.paths.empty() && checking.filesFrom.empty()) return usage(*checkCommand, "no file to check");
+        if (checking.paths.empty() && checking.filesFrom.empty()) return usage("no file to check");
         return check(checking);
     }
-    if (*showCommand) {
-        for (std::string const& extra : showCommand->remaining()) words.push_back(extra);
-        if (words.size() != 2) return usage(*showCommand, "show takes a value type and a text");
-        showing.type = words[0];
-        showing.text = words[1];
-        return show(showing);
-    }
+    if (*showCommand) return show(showing);
     if (*typesCommand) return types(typing);
     if (*propertiesCommand) return properties(listing);
-    return usage(app, "what is to be done?");
+    return usage("what is to be done?");
 }
 
 } // namespace

@@ -1,0 +1,14 @@
+// The value type that a user of the command names.
+#pragma once
+
+#include "ValueTypes.h"
+
+#include <string_view>
+
+namespace Command {
+
+// The name counts in any case, and without "SmartPtr<...>" or a namespace. Where no type has it,
+// null after a message that suggests the nearest.
+ValueType const* findNamedType(std::string_view name);
+
+} // namespace Command
