@@ -176,6 +176,7 @@ TEST(Command, ShowsListsAndExplains) {
     for (Row const& row :
          {Row{"show Length 12pc --equal 12pc", "equal       \"12pc\": yes\n", 0},
           Row{"show length -5pt", "prints      \"-5pt\"\n", 0},
+          Row{"show Length -.5pt --equal -.5pt", "equal       \"-.5pt\": yes\n", 0},
           Row{"show -- Length -.5pt", "text        \"-.5pt\"\n", 0},
           Row{"show Core::String -- --equal", "text        \"--equal\"\n", 0},
           Row{"show String --equal=-h -- -h", "equal       \"-h\": yes\n", 0},
@@ -218,7 +219,8 @@ TEST(Command, SaysWhatIsWrongWithACall) {
           Row{"properties --vocabulary html", "--vocabulary: \"html\" is not fo or svg\n"},
           Row{"properties --type Brake", "no value type is called \"Brake\"; did you mean \"Break\"?\n"},
           Row{"show Brake page", "no value type is called \"Brake\"; did you mean \"Break\"?\n"},
-          Row{"show Length 1pt 2pt", "not expected: 2pt\n"}, Row{"show Length", "TEXT is required\n"},
+          Row{"show Length 1pt 2pt", "show takes a value type and a text\n"},
+          Row{"show Length", "show takes a value type and a text\n"}, Row{"show", "TYPE is required\n"},
           Row{"check", "no file to check\nReport each attribute that its value type refuses\nUsage: xmlattr check "},
           Row{"", "what is to be done?\n"}, Row{"--help >/dev/full", "xmlattr: standard output: "},
           Row{"--version >/dev/full", "xmlattr: standard output: "},
@@ -235,7 +237,7 @@ TEST(Command, HelpsInWordsOfItsUsers) {
         char const *command, *usage;
     };
     for (Row const& row : {Row{"", "[OPTIONS] [SUBCOMMAND]\n"}, Row{"check ", "check [OPTIONS] [FILE...]\n"},
-                           Row{"show ", "show [OPTIONS] TYPE TEXT\n"}, Row{"types ", "types [OPTIONS] [NAME]\n"},
+                           Row{"show ", "show [OPTIONS] TYPE [TEXT]\n"}, Row{"types ", "types [OPTIONS] [NAME]\n"},
                            Row{"properties ", "properties [OPTIONS] [NAME]\n"}}) {
         Result const result = run(row.command + "--help"s);
         EXPECT_NE(result.output.find("Usage: xmlattr "s + row.usage), std::string::npos) << result.output;

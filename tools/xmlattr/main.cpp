@@ -80,9 +80,9 @@ int run(int argc, char** argv) {
     ShowOptions showing;
     CLI::App* const showCommand = app.add_subcommand("show", "Show what a value type makes of a text");
     showCommand->add_option("TYPE", showing.type, "The value type")->required()->type_name("");
-    showCommand->add_option("TEXT", showing.text, "The text; behind -- when it begins like an option")
-        ->required()
-        ->type_name("");
+    CLI::Option const* const textOption =
+        showCommand->add_option("TEXT", showing.text, "The text; behind -- when it could be an option")->type_name("");
+    showCommand->allow_extras(); // a text may begin like an option: -.5pt
     showCommand->add_option("--equal", showing.other, "Also compare with this text")->type_name("TEXT");
     addFormat(*showCommand, showing.format);
     addColor(*showCommand, showing.color);
@@ -119,7 +119,13 @@ int run(int argc, char** argv) {
         if (checking.paths.empty() && checking.filesFrom.empty()) return usage("no file to check");
         return check(checking);
     }
-    if (*showCommand) return show(showing);
+    if (*showCommand) {
+        std::vector<std::string> extras = showCommand->remaining();
+        if (!extras.empty() && extras.front() == "--") extras.erase(extras.begin());
+        if (textOption->count() + extras.size() != 1) return usage("show takes a value type and a text");
+        if (!extras.empty()) showing.text = extras[0];
+        return show(showing);
+    }
     if (*typesCommand) return types(typing);
     if (*propertiesCommand) return properties(listing);
     return usage("what is to be done?");
