@@ -25,9 +25,11 @@ void keepBlocks() {
     mallopt(M_TRIM_THRESHOLD, INT_MAX);
 }
 constexpr std::size_t largest = 1 << 20;
+constexpr double floorOfNoise = 1000; // microseconds
 #else
 void keepBlocks() {}
 constexpr std::size_t largest = 1 << 16;
+constexpr double floorOfNoise = 5000;
 #endif
 
 // The time of the processor, where it can be had: a busy machine stops a program at any time.
@@ -72,21 +74,21 @@ constexpr Type types[] = {
 #include "xmlattr/ValueTypes.inc"
 };
 
-// Doubles the text of a shape for each type. What is below the floor is noise; what seems to take
-// more than three times as long is measured again, since other programs use the same caches.
+// Doubles the text of a shape for each type. What is below the floor is noise: a quadratic reader takes
+// a thousand times as long in the end. What seems to take more than three times as long is measured
+// again, since other programs use the same caches.
 void expectLinear(std::u16string_view piece, std::u16string_view before, std::u16string_view behind) {
-    constexpr double floor = 300; // a quadratic reader takes a thousand times as long in the end
     double last[std::size(types)];
-    std::ranges::fill(last, floor);
+    std::ranges::fill(last, floorOfNoise);
     Core::String text, shorter;
     std::u16string body(before);
     for (std::size_t size = 1 << 10; size <= largest; size *= 2) {
         while (body.size() < size) body += piece;
         text = Core::String(body) + behind;
         for (std::size_t i = 0; i < std::size(types); ++i) {
-            double time = std::max(types[i].microseconds(text), floor);
+            double time = std::max(types[i].microseconds(text), floorOfNoise);
             for (int retry = 0; time > 3 * last[i] && retry < 20; ++retry) {
-                time = std::max(std::min(time, types[i].microseconds(text)), floor);
+                time = std::max(std::min(time, types[i].microseconds(text)), floorOfNoise);
                 last[i] = std::max(last[i], types[i].microseconds(shorter));
             }
             ASSERT_LE(time, 3 * last[i]) << types[i].name << " takes too long for " << text.length() << " units of \""
