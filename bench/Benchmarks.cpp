@@ -83,7 +83,7 @@ private:
 
 // The benchmarks refer to their suite until the program ends.
 template <class T> Suite<T>& suite(char const* name, Texts texts) {
-    return *new Suite<T>(name, std::move(texts)); // NOLINT(cppcoreguidelines-owning-memory)
+    return *new Suite<T>(name, std::move(texts));
 }
 
 void readNumbers(Core::String const& text) {

@@ -7,8 +7,6 @@
 #include <cstdlib>
 #include <memory>
 
-#include "xmlattr/core/Log.h"
-
 namespace {
 
 void require(bool holds, char const* promise) {
@@ -22,11 +20,6 @@ struct Close {
 };
 
 } // namespace
-
-extern "C" int LLVMFuzzerInitialize(int*, char***) {
-    Core::Log::setHandler([](Core::String const&) {});
-    return 0;
-}
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
     if (size == 0) return 0;

@@ -2,8 +2,6 @@
 // the first U+001F in it, if that occurs, is the text of the value that the attribute holds before.
 // The bytes are UTF-8 that may encode surrogates one by one, so that every UTF-16 text has its bytes;
 // a byte that belongs to no character is U+00xx.
-#include "xmlattr/core/Log.h"
-
 #include "hostile/Promises.h"
 
 #include <cstdint>
@@ -30,11 +28,6 @@ Core::String toText(std::uint8_t const* byte, std::uint8_t const* end) {
 }
 
 } // namespace
-
-extern "C" int LLVMFuzzerInitialize(int*, char***) {
-    Core::Log::setHandler([](Core::String const&) {});
-    return 0;
-}
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
     if (size == 0) return 0;

@@ -165,9 +165,10 @@ inline bool printsUnread(FontStretch const& value) {
 inline bool printsUnread(LeaderPatternWidth const& value) {
     return value.usesFontMetrics();
 }
+// Prints nothing.
 inline bool printsUnread(LegendPlacement const& value) {
     return value == LegendPlacement::Custom;
-} // prints nothing
+}
 // Prints another word than it reads.
 inline bool printsUnread(OriginalInputFormat const& value) {
     return value == OriginalInputFormat::Fo;
@@ -199,13 +200,13 @@ inline bool printsUnread(Url const& value) {
     return !url.empty() && (isDropped(url.front()) || isDropped(url.back()));
 }
 
-// Whether a value equals itself when it is read twice.
+// Whether a value equals itself when it is read twice. Colours do not: they are equal as objects.
 template <class T> bool equalsItself(T const&) {
     return true;
 }
 inline bool equalsItself(SmartPtr<Drawing::Color> const& color) {
     return !color;
-} // colours are equal as objects
+}
 inline bool equalsItself(std::derived_from<SColor> auto const& paint) {
     return !paint.getColor();
 }
@@ -215,6 +216,7 @@ inline bool equalsItself(BoxShadow const& shadow) {
 inline bool equalsItself(STextShadow const& shadow) {
     return !shadow.getColor().getColor();
 }
+// Nor do the two one-sided scalings, which equal nothing.
 inline bool equalsItself(ContentLength const& length) {
     return length.getMode() != ContentScaleMode::ScaleDownToFit && length.getMode() != ContentScaleMode::ScaleUpToFit;
 }

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <iterator>
-
 namespace Command {
 namespace {
 
@@ -30,6 +28,8 @@ TEST(Checker, CountsEachAttributeInOneClass) {
          {Row{block + "break-before='page' span='from-parent(span)' id='a' hyphenate='true'/>", "2 1 1 0 0 0 0 0 ", ""},
           Row{block + "break-before='' span='al' nope='x' x:span='al' xmlns:x='urn:x'/>", "0 0 0 0 0 1 0 1 ",
               "break-before span "},
+          Row{block + "space-before='0.0' space-after='-0' color='0.0' span='0.0' orphans='0.0'/>", "0 2 0 0 0 0 0 0 ",
+              "color span orphans "},
           Row{"<x:b xmlns:x='urn:x' span='al'><b span='al'/></x:b>", "0 0 0 0 0 2 0 0 ", ""},
           Row{"<svg width='q'><g style='fill:q' x:fill='q' xmlns:x='urn:x'/></svg>", "0 0 0 1 0 1 0 0 ", "width fill "},
           Row{"<html><svg width='q'/></html>", "0 0 0 0 0 1 0 0 ", ""},

@@ -10,7 +10,7 @@ namespace Command {
 
 namespace {
 
-// "0.0", say: of the zeros without a unit, the lengths of XSL-FO read "0" alone.
+// "0.0", say: of the zeros without a unit, which XSL-FO allows, its lengths read "0" alone.
 bool isZero(std::u16string_view text) {
     return text.find(u'0') != std::u16string_view::npos &&
            text.find_first_not_of(u"0.", text.starts_with(u'-') ? 1 : 0) == std::u16string_view::npos;
@@ -29,7 +29,7 @@ Verdict Property::judge(std::u16string_view text) const {
     bool const isFo = entry->vocabulary == Xml::Vocabulary::Fo;
     if (equalsWord(text, "inherit", !isFo)) return Verdict::PassedOver;
     if (isAlsoLegal(*entry, text, type->accepts)) return Verdict::PassedOver;
-    if (isFo && isZero(text) && !type->isEnumeration && type->name != "int") return Verdict::PassedOver;
+    if (isFo && isZero(text) && type->accepts(u"0pt")) return Verdict::PassedOver;
     if (isFo && (type->isEnumeration ? isCopy(text) : isExpression(text))) return Verdict::PassedOver;
     // White space around a list is part of its grammar in SVG 1.1.
     return isList() && type->accepts(text) ? Verdict::PassedOver : Verdict::Refused;

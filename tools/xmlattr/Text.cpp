@@ -31,6 +31,10 @@ std::string toUtf8(std::u16string_view text) {
 
 namespace {
 
+char lowerLetter(char c) {
+    return static_cast<char>(Core::toLower(static_cast<unsigned char>(c)));
+}
+
 std::string escaped(unsigned char control) {
     char digits[2];
     std::to_chars_result const result = std::to_chars(digits, digits + 2, control, 16);
@@ -63,14 +67,6 @@ std::string shown(std::string_view utf8) {
 std::string inQuotes(std::string_view text) {
     return std::string(1, '"').append(text).append(1, '"');
 }
-
-namespace {
-
-constexpr char lowerLetter(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c;
-}
-
-} // namespace
 
 std::string toLower(std::string_view text) {
     std::string lower(text);

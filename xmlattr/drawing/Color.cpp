@@ -9,11 +9,11 @@ namespace Drawing {
 
 Color::~Color() = default;
 
-RGBColor::~RGBColor() = default;
-
 SmartPtr<Color> Color::clone() const {
     return nullptr;
 }
+
+RGBColor::~RGBColor() = default;
 
 SmartPtr<Color> RGBColor::clone() const {
     return new RGBColor(*this);

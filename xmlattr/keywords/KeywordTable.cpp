@@ -3,7 +3,7 @@
 #include "xmlattr/core/Exceptions.h"
 #include "xmlattr/core/Text.h"
 
-#include <cstring>
+#include <algorithm>
 
 namespace Xml::detail {
 

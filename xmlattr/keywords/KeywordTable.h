@@ -55,8 +55,8 @@ concept KeywordsFallBack = !Keywords<E>::unknownPrints.empty();
 
 namespace detail {
 
-// The length of a word and some of its letters, in lower case where case does not matter. No two words
-// of a table agree in all of them.
+// The length of a word and five of its letters, in lower case where case does not matter; they stand
+// where the words of the tables differ, so that no two of a table agree in all of them.
 template <Case rule> constexpr std::uint64_t markOf(std::u16string_view word) {
     std::size_t const size = word.size();
     if (size == 0) return 0;

@@ -30,7 +30,7 @@ protected:
     constexpr FontMeasure(RelativeWord relative) : type(Relative), relative(relative) {}
     constexpr FontMeasure(Measure const& absolute) : type(Absolute), absolute(absolute) {}
 
-    // The relative word stays as it was.
+    // Intended: the relative word stays as it was, since the accessors give what is stored.
     constexpr void setAbsolute(Measure const& measure) {
         type = Absolute;
         absolute = measure;
