@@ -1,6 +1,6 @@
 // Any bytes as a document for the command: its XML reader, its places and its checks.
-#include "Checker.h"
-#include "StyleAttribute.h"
+#include "checking/Checker.h"
+#include "xmlattr/catalogue/legality/StyleAttribute.h"
 
 #include <cstdint>
 #include <cstdio>

@@ -2,11 +2,11 @@
 // corpora of the attributes of documents.
 //
 //   fuzz_seeds FOLDER DOCUMENT...
-#include "Property.h"
-#include "ValueTypes.h"
-#include "XmlReader.h"
+#include "xml/XmlReader.h"
+#include "xmlattr/catalogue/legality/Property.h"
+#include "xmlattr/catalogue/types/AttributeTypes.h"
 
-#include "Text.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -174,7 +174,7 @@ struct Seeds final : Command::XmlHandler {
             elementNames.emplace(attribute.name);
             auto const* const property = Command::findProperty(*vocabulary, element.name, attribute.name);
             if (property && property->type)
-                addValue(static_cast<std::size_t>(property->type - Command::valueTypes().data()), attribute.value);
+                addValue(static_cast<std::size_t>(property->type - Command::attributeTypes().data()), attribute.value);
         }
     }
 
@@ -190,7 +190,7 @@ int main(int argc, char** argv) {
     fs::path const folder = argv[1];
     Seeds seeds(folder);
     std::set<std::string> words;
-    auto const types = Command::valueTypes();
+    auto const types = Command::attributeTypes();
     for (std::size_t i = 0; i < types.size(); ++i) {
         for (std::u16string_view const word : types[i].keywords()) {
             words.insert(Command::toUtf8(word));

@@ -1,6 +1,6 @@
 #include "xmlattr/catalogue/Catalogue.h"
 
-#include "ValueTypes.h"
+#include "xmlattr/catalogue/types/AttributeTypes.h"
 
 #include <gtest/gtest.h>
 
@@ -28,7 +28,7 @@ TEST(Catalogue, AnElementsOwnRowGoesFirst) {
 
 TEST(Catalogue, NamesTypesOfTheLibrary) {
     for (CatalogueEntry const& entry : Catalogue::entries())
-        EXPECT_TRUE(entry.valueType.empty() || Command::findValueType(entry.valueType)) << entry.attribute;
+        EXPECT_TRUE(entry.valueType.empty() || Xml::findAttributeType(entry.valueType)) << entry.attribute;
 }
 
 } // namespace

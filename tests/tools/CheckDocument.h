@@ -1,8 +1,8 @@
 // Checks a document that a test writes.
 #pragma once
 
-#include "Checker.h"
-#include "XmlReader.h"
+#include "checking/Checker.h"
+#include "xml/XmlReader.h"
 
 #include <cstdio>
 #include <memory>

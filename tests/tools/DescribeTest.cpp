@@ -1,5 +1,5 @@
-#include "Text.h"
-#include "ValueTypes.h"
+#include "text/Text.h"
+#include "xmlattr/catalogue/types/AttributeTypes.h"
 
 #include <gtest/gtest.h>
 
@@ -50,9 +50,9 @@ TEST(Show, TakesValuesApart) {
                            Row{"AxisUnits", u"months", "units months"},
                            Row{"Value", u"12", "kind number|value 12"},
                            Row{"Break", u"page", "number 3"}}) {
-        Shown const shown = findValueType(row.type)->show(row.text, nullptr);
+        Xml::Shown const shown = Xml::findAttributeType(row.type)->show(row.text, nullptr);
         std::string parts;
-        for (Part const& part : shown.parts) parts += (parts.empty() ? "" : "|") + part.name + " " + part.value;
+        for (Xml::Part const& part : shown.parts) parts += (parts.empty() ? "" : "|") + part.name + " " + part.value;
         EXPECT_TRUE(shown.accepted) << row.type << ": " << toUtf8(row.text);
         EXPECT_EQ(parts, row.parts) << row.type << ": " << toUtf8(row.text);
     }

@@ -1,10 +1,10 @@
-#include "AlsoLegal.h"
-#include "Expression.h"
-#include "Hints.h"
-#include "Property.h"
-#include "Shorthand.h"
-#include "StyleAttribute.h"
-#include "Text.h"
+#include "checking/Hints.h"
+#include "text/Text.h"
+#include "xmlattr/catalogue/legality/AlsoLegal.h"
+#include "xmlattr/catalogue/legality/Expression.h"
+#include "xmlattr/catalogue/legality/Property.h"
+#include "xmlattr/catalogue/legality/Shorthand.h"
+#include "xmlattr/catalogue/legality/StyleAttribute.h"
 
 #include <gtest/gtest.h>
 
@@ -42,7 +42,7 @@ TEST(AlsoLegal, MatchesWordsAndKindsOfValues) {
             std::string_view texts = isLegal ? row.legal : row.refused;
             for (std::size_t end = 0; end != texts.npos; texts.remove_prefix(end + 1)) {
                 end = texts.find('|');
-                EXPECT_EQ(isAlsoLegal(entry, toUtf16(texts.substr(0, end)), accepts), isLegal)
+                EXPECT_EQ(Xml::isAlsoLegal(entry, toUtf16(texts.substr(0, end)), accepts), isLegal)
                     << row.also << ": " << texts.substr(0, end);
                 if (end == texts.npos) break;
             }
@@ -56,16 +56,16 @@ TEST(Expression, IsMoreThanAValue) {
           u"inherited-property-value()", u"2.5cm -3pt", u"max(1pt,min(2pt, 3%))", u"- (1pt)", u"label-end() - 1pt",
           u"rgb-icc(0, 0, 0, 'profile', 1)", u"1pt+1pt", u"from-parent(space-before.optimum)",
           u"inherited-property-value( keep-together.within-line ) div 2"})
-        EXPECT_TRUE(isExpression(text)) << toUtf8(text);
+        EXPECT_TRUE(Xml::isExpression(text)) << toUtf8(text);
     for (char16_t const* const text : {u"", u"12pt", u"-1pt", u"12 q", u"1em + ", u"1em 2pt", u"+", u"(1pt", u"1pt)",
                                        u"round()", u"round(1,2)", u"rgb(1,2)", u"from-parrent(color)", u"even-page",
                                        u"5modx 3", u"'a' 'b'", u"'a", u"from-parent(.a)", u"from-parent(a.b c)"})
-        EXPECT_FALSE(isExpression(text)) << toUtf8(text);
-    EXPECT_FALSE(isExpression(std::u16string(1'000'000, u'('))) << "nesting has a limit";
-    EXPECT_TRUE(isCopy(u" from-parent(break-before) "));
-    EXPECT_TRUE(isCopy(u"from-parent(keep-together.within-page)"));
-    EXPECT_FALSE(isCopy(u"from-parent() + 1"));
-    EXPECT_FALSE(isCopy(u"round(1)")) << "no keyword comes from there";
+        EXPECT_FALSE(Xml::isExpression(text)) << toUtf8(text);
+    EXPECT_FALSE(Xml::isExpression(std::u16string(1'000'000, u'('))) << "nesting has a limit";
+    EXPECT_TRUE(Xml::isCopy(u" from-parent(break-before) "));
+    EXPECT_TRUE(Xml::isCopy(u"from-parent(keep-together.within-page)"));
+    EXPECT_FALSE(Xml::isCopy(u"from-parent() + 1"));
+    EXPECT_FALSE(Xml::isCopy(u"round(1)")) << "no keyword comes from there";
 }
 
 TEST(Shorthand, SplitsBetweenBlanksAndKeepsExpressions) {
@@ -76,7 +76,7 @@ TEST(Shorthand, SplitsBetweenBlanksAndKeepsExpressions) {
     for (Row const& row : {Row{u" 1pt  solid rgb(1, 2, 3)", {u"1pt", u"solid", u"rgb(1, 2, 3)"}},
                            Row{u"3mm + 1mm 3mm", {u"3mm + 1mm", u"3mm"}}, Row{u"1 div 2 mod 3", {u"1 div 2 mod 3"}},
                            Row{u"12pt 'a b' (c", {u"12pt", u"'a b'", u"(c"}}, Row{u" ", {}}})
-        EXPECT_EQ(splitParts(row.text), row.parts) << toUtf8(row.text);
+        EXPECT_EQ(Xml::splitParts(row.text), row.parts) << toUtf8(row.text);
 }
 
 TEST(Shorthand, LetsTheTypesOfItsPartsRead) {
@@ -84,10 +84,10 @@ TEST(Shorthand, LetsTheTypesOfItsPartsRead) {
         Vocabulary vocabulary;
         char const* attribute;
         char16_t const* text;
-        Verdict verdict;
+        Xml::Verdict verdict;
         char const* wrong; // the refused part, or what is wrong with the whole
     };
-    using enum Verdict;
+    using enum Xml::Verdict;
     for (Row const& row : {
              Row{Vocabulary::Fo, "border", u"red 1pt + 1pt dashed", Checked, ""},
              Row{Vocabulary::Fo, "border", u"1q solid red", Refused, "1q"},
@@ -112,7 +112,8 @@ TEST(Shorthand, LetsTheTypesOfItsPartsRead) {
              Row{Vocabulary::Svg, "font", u"12/14 serif", Checked, ""},
              Row{Vocabulary::Svg, "marker", u"url(#a)", Checked, ""},
          }) {
-        Judgement const verdict = judgeShorthand(*Xml::Catalogue::find(row.vocabulary, "*", row.attribute), row.text);
+        Xml::Judgement const verdict =
+            Xml::judgeShorthand(*Xml::Catalogue::find(row.vocabulary, "*", row.attribute), row.text);
         EXPECT_EQ(verdict.verdict, row.verdict) << row.attribute << ": " << toUtf8(row.text);
         EXPECT_EQ(verdict.part + verdict.problem, row.wrong) << row.attribute << ": " << toUtf8(row.text);
     }
@@ -121,8 +122,8 @@ TEST(Shorthand, LetsTheTypesOfItsPartsRead) {
 TEST(StyleAttribute, SplitsDeclarations) {
     std::string text = "fill : red;;/* a; */stroke:url(a;b) ! important; font:'x;/*y' 3px;junk;;x:;"
                        "Y:url( 'a)/*;' ) /* ) */ !Important;z:url(//a/*b);w:1/**/2/*";
-    blankComments(text);
-    auto const declarations = splitStyle(text);
+    Xml::blankComments(text);
+    auto const declarations = Xml::splitStyle(text);
     struct Row {
         char const *property, *value;
     };
@@ -135,8 +136,8 @@ TEST(StyleAttribute, SplitsDeclarations) {
         EXPECT_EQ(text.substr(declarations[i].offset, 1), std::string_view(rows[i].property).substr(0, 1));
     }
     for (std::string open : {"", "/*", "a:/*", "'", "a:'", "a:(", ";", "/", "a:url(", "a:url( '", "a:!"}) {
-        blankComments(open);
-        splitStyle(open);
+        Xml::blankComments(open);
+        Xml::splitStyle(open);
     }
 }
 
@@ -154,7 +155,7 @@ TEST(Hints, SuggestWhatIsNear) {
           Row{"Break", "page", "", u"Page"}, Row{"BorderWidth", "", "thick", u"thickk"},
           Row{"SmartPtr<Drawing::Color>", "", "purple", u"pruple"}, Row{"Length", "", "", u"purple"},
           Row{"SmartPtr<Drawing::Color>", "", "green", u"gren"}}) {
-        Hints const hints = hintsFor(*findValueType(row.type), row.text);
+        Hints const hints = hintsFor(*Xml::findAttributeType(row.type), row.text);
         EXPECT_EQ(hints.variant, row.variant) << toUtf8(row.text);
         EXPECT_EQ(hints.nearest, row.nearest) << toUtf8(row.text);
     }

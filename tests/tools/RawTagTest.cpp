@@ -1,5 +1,5 @@
-#include "RawTag.h"
-#include "Encoding.h"
+#include "xml/RawTag.h"
+#include "xml/Encoding.h"
 
 #include <gtest/gtest.h>
 

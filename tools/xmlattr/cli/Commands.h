@@ -1,0 +1,54 @@
+// What the command can do; each call gives the exit code: 0 fine, 1 something was refused, 2 the
+// call could not be carried out.
+#pragma once
+
+#include "output/Output.h"
+
+#include "xmlattr/catalogue/Catalogue.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Command {
+
+enum class OutputFormat { Text, Json };
+
+struct CheckOptions {
+    std::vector<std::string> paths;
+    std::string filesFrom;
+    std::string stdinName = "<stdin>";
+    OutputFormat format = OutputFormat::Text;
+    ColorMode color = ColorMode::Auto;
+    bool isQuiet = false;
+    std::uint64_t maxFindings = UINT64_MAX;
+};
+
+struct ShowOptions {
+    std::string type, text;
+    std::optional<std::string> other;
+    OutputFormat format = OutputFormat::Text;
+    ColorMode color = ColorMode::Auto;
+};
+
+struct TypesOptions {
+    std::string name; // what the type's name contains
+    OutputFormat format = OutputFormat::Text;
+};
+
+struct PropertiesOptions {
+    std::string name; // what the attribute's name contains
+    std::optional<Xml::Vocabulary> vocabulary;
+    std::optional<std::string> type; // the value type
+    OutputFormat format = OutputFormat::Text;
+};
+
+int check(CheckOptions const& options);
+int show(ShowOptions const& options);
+int types(TypesOptions const& options);
+int properties(PropertiesOptions const& options);
+// What a message with this id means, and what to do about it.
+int explain(std::string const& id);
+
+} // namespace Command

@@ -1,0 +1,42 @@
+#include "cli/Commands.h"
+
+#include <string_view>
+
+namespace Command {
+
+namespace {
+
+struct Explanation {
+    std::string_view id, text;
+};
+
+constexpr Explanation explanations[] = {
+    {"bad-value", "The value type of the attribute does not read the text, and it is none of what the formatter\n"
+                  "works out by itself: \"inherit\", words and calls that the recommendation allows, expressions of\n"
+                  "XSL-FO. The message names the type, and a text that is nearly the same and accepted where there\n"
+                  "is one. `xmlattr show TYPE TEXT` tries a text; `xmlattr types TYPE` tells what the type reads.\n"},
+    {"malformed", "The file is no well-formed XML at the place that the message names. What stands before it\n"
+                  "was checked; nothing behind it was.\n"},
+    {"encoding", "The file declares an encoding that is not read, or is not in the one that it declares. UTF-8,\n"
+                 "UTF-16, ISO-8859-1, US-ASCII and windows-1252 are read.\n"},
+    {"limit", "The file goes beyond what is read: entities that expand to more than 100 times the file,\n"
+              "elements that nest more than 10000 deep, a tag or comment of more than 32 MiB.\n"},
+    {"unreadable", "The file does not exist or may not be read.\n"},
+};
+
+} // namespace
+
+int explain(std::string const& id) {
+    for (Explanation const& explanation : explanations) {
+        if (explanation.id != id) continue;
+        print(std::string(id) + "\n\n" + std::string(explanation.text));
+        flushOutput();
+        return 0;
+    }
+    std::string ids;
+    for (Explanation const& explanation : explanations) ids.append(" ").append(explanation.id);
+    printError("xmlattr: no message has the id \"" + id + "\"; there are:" + ids + "\n");
+    return 2;
+}
+
+} // namespace Command

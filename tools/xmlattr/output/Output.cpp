@@ -1,0 +1,46 @@
+#include "output/Output.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <unistd.h>
+
+namespace Command {
+
+void print(std::string_view text) {
+    if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size()) throw OutputClosed{errno};
+}
+
+void flushOutput() {
+    if (std::fflush(stdout) != 0) throw OutputClosed{errno};
+}
+
+void printError(std::string_view text) {
+    flushOutput();
+    std::fwrite(text.data(), 1, text.size(), stderr);
+}
+
+bool usesColor(ColorMode mode) {
+    if (mode != ColorMode::Auto) return mode == ColorMode::Always;
+    char const* const noColor = std::getenv("NO_COLOR");
+    char const* const terminal = std::getenv("TERM");
+    bool const isDumb = !terminal || std::string_view(terminal) == "dumb";
+    return isatty(STDOUT_FILENO) && !(noColor && *noColor) && !isDumb;
+}
+
+bool usesTrueColor(ColorMode mode) {
+    char const* const colors = std::getenv("COLORTERM");
+    std::string_view const value = colors ? colors : "";
+    return usesColor(mode) && (mode == ColorMode::Always || value == "truecolor" || value == "24bit");
+}
+
+bool isErrorTerminal() {
+    return isatty(STDERR_FILENO);
+}
+
+std::string colored(std::string_view text, std::string_view code, bool on) {
+    if (!on) return std::string(text);
+    return std::string("\x1b[").append(code).append("m").append(text).append("\x1b[0m");
+}
+
+} // namespace Command

@@ -1,0 +1,27 @@
+// What `check` says: findings on standard output, failures and the summary on standard error.
+#pragma once
+
+#include "checking/Checker.h"
+#include "output/Output.h"
+#include "xml/XmlReader.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace Command {
+
+class Reporter {
+public:
+    virtual ~Reporter() = default;
+    virtual void finding(std::string const& file, Finding const& finding) = 0;
+    virtual void failure(std::string const& file, XmlFailure const& failure) = 0;
+    virtual void summary(Counts const& counts, std::uint64_t shown) = 0;
+};
+
+// GCC style: "file:line:column: error: ... [id]".
+std::unique_ptr<Reporter> makeTextReporter(bool isColored);
+// An object a line.
+std::unique_ptr<Reporter> makeJsonReporter();
+
+} // namespace Command

@@ -1,0 +1,76 @@
+#include "text/Text.h"
+
+#include "xmlattr/core/String.h"
+#include "xmlattr/core/Text.h"
+
+#include <algorithm>
+#include <charconv>
+
+namespace Command {
+
+void toUtf16(std::string_view utf8, std::u16string& out) {
+    out.resize(utf8.size());
+    unsigned all = 0; // whether all is ASCII is asked once, so that the loop is a plain copy
+    for (std::size_t i = 0; i < utf8.size(); ++i) {
+        auto const byte = static_cast<unsigned char>(utf8[i]);
+        all |= byte;
+        out[i] = byte;
+    }
+    if (all >= 0x80) out = std::u16string_view(Core::String::fromUtf8(utf8));
+}
+
+std::u16string toUtf16(std::string_view utf8) {
+    std::u16string text;
+    toUtf16(utf8, text);
+    return text;
+}
+
+std::string toUtf8(std::u16string_view text) {
+    return Core::String(text).toUtf8();
+}
+
+namespace {
+
+std::string escaped(unsigned char control) {
+    char digits[2];
+    std::to_chars_result const result = std::to_chars(digits, digits + 2, control, 16);
+    return "\\u{" + std::string(&digits[0], result.ptr) + "}";
+}
+
+} // namespace
+
+std::string shown(std::string_view utf8) {
+    constexpr std::size_t most = 80;
+    std::string text;
+    std::size_t count = 0;
+    for (std::size_t i = 0; i < utf8.size(); ++i) {
+        auto const byte = static_cast<unsigned char>(utf8[i]);
+        bool const startsCodePoint = (byte & 0xC0) != 0x80;
+        if (startsCodePoint && count++ == most) return text + "...";
+        // C1 controls are C2 80 to C2 9F.
+        bool const isC1 = byte == 0xC2 && i + 1 < utf8.size() && static_cast<unsigned char>(utf8[i + 1]) < 0xA0;
+        if (byte < 0x20 || byte == 0x7F) {
+            text += escaped(byte);
+        } else if (isC1) {
+            text += escaped(static_cast<unsigned char>(utf8[++i]));
+        } else {
+            text += utf8[i];
+        }
+    }
+    return text;
+}
+
+std::string inQuotes(std::string_view text) {
+    return std::string(1, '"').append(text).append(1, '"');
+}
+
+std::string joinWith(std::vector<std::string> const& words, std::string_view last) {
+    std::string text;
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        if (i > 0) text += i + 1 == words.size() ? std::string(" ").append(last) + " " : ", ";
+        text += words[i];
+    }
+    return text;
+}
+
+} // namespace Command

@@ -1,0 +1,28 @@
+// Texts between documents, which are UTF-8, and value types, which read UTF-16.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Command {
+
+// Writes the UTF-16 of a well-formed UTF-8 text over `out`, whose memory is used again.
+void toUtf16(std::string_view utf8, std::u16string& out);
+std::u16string toUtf16(std::string_view utf8);
+std::string toUtf8(std::u16string_view text);
+
+// How many bytes the code point takes in UTF-8.
+constexpr std::size_t utf8Length(char32_t c) {
+    return c < 0x80 ? 1 : c < 0x800 ? 2 : c < 0x10000 ? 3 : 4;
+}
+
+// What a message shows of a text: at most 80 code points, control characters as \u{..}.
+std::string shown(std::string_view utf8);
+
+std::string inQuotes(std::string_view text);
+
+// "a", "a or b", "a, b or c".
+std::string joinWith(std::vector<std::string> const& words, std::string_view last);
+
+} // namespace Command

@@ -1,0 +1,129 @@
+#include "xml/RawTag.h"
+
+#include "text/Text.h"
+
+namespace Command {
+
+namespace {
+
+bool isBlank(char32_t c) {
+    return c == U' ' || c == U'\t' || c == U'\n' || c == U'\r';
+}
+
+std::string toUtf8(std::u32string_view text) {
+    std::string out;
+    for (char32_t const c : text) {
+        std::size_t const length = utf8Length(c);
+        constexpr unsigned char leads[] = {0, 0, 0xC0, 0xE0, 0xF0};
+        out += static_cast<char>(leads[length] | c >> 6 * (length - 1));
+        for (std::size_t i = length - 1; i-- > 0;) out += static_cast<char>(0x80 | (c >> 6 * i & 0x3F));
+    }
+    return out;
+}
+
+// The code point of "#10", "#xA" and the five names that XML has; 0 for other entities.
+char32_t codePointOf(std::u32string_view entity) {
+    constexpr std::pair<std::u32string_view, char32_t> names[] = {
+        {U"lt", U'<'}, {U"gt", U'>'}, {U"amp", U'&'}, {U"quot", U'"'}, {U"apos", U'\''}};
+    for (auto const& [name, c] : names)
+        if (entity == name) return c;
+    if (!entity.starts_with(U'#')) return 0;
+    bool const isHex = entity.starts_with(U"#x");
+    char32_t c = 0;
+    for (char32_t const digit : entity.substr(isHex ? 2 : 1))
+        c = isHex ? c * 16 + (digit <= U'9' ? digit - U'0' : (digit | 0x20) - U'a' + 10) : c * 10 + (digit - U'0');
+    return c;
+}
+
+} // namespace
+
+RawTag::RawTag(std::u32string tag, Place place) : text(std::move(tag)), start(place) {
+    if (!text.starts_with(U'<')) text.clear(); // the reference to an entity that holds the element
+    Cursor cursor{0, start};
+    auto const isName = [](char32_t c) { return !isBlank(c) && c != U'=' && c != U'/' && c != U'>'; };
+    skip(cursor, isName);
+    for (;;) {
+        skip(cursor, [](char32_t c) { return isBlank(c) || c == U'/'; });
+        if (atEnd(cursor) || text[cursor.index] == U'>') return;
+        Attribute attribute;
+        attribute.name = cursor;
+        skip(cursor, isName);
+        std::size_t const nameEnd = cursor.index;
+        skip(cursor, [](char32_t c) { return isBlank(c) || c == U'='; });
+        if (atEnd(cursor)) return;
+        char32_t const quote = text[cursor.index];
+        advance(cursor);
+        attribute.value = cursor;
+        skip(cursor, [&](char32_t c) { return c != quote; });
+        if (atEnd(cursor)) return;
+        attribute.end = cursor.index;
+        advance(cursor);
+        auto const name = std::u32string_view(text).substr(attribute.name.index, nameEnd - attribute.name.index);
+        if (name != U"xmlns" && !name.starts_with(U"xmlns:")) attributes.push_back(attribute);
+    }
+}
+
+void RawTag::advance(Cursor& cursor) const {
+    char32_t const c = text[cursor.index++];
+    if (c == U'\r' && !atEnd(cursor) && text[cursor.index] == U'\n') return;
+    if (c == U'\n' || c == U'\r')
+        cursor.place = {cursor.place.line + 1, 1};
+    else
+        ++cursor.place.column;
+}
+
+template <class Belongs> void RawTag::skip(Cursor& cursor, Belongs belongs) const {
+    while (!atEnd(cursor) && belongs(text[cursor.index])) advance(cursor);
+}
+
+std::string RawTag::elementName() const {
+    std::size_t end = 1;
+    while (end < text.size() && !isBlank(text[end]) && text[end] != U'/' && text[end] != U'>') ++end;
+    return text.empty() ? std::string() : toUtf8(std::u32string_view(text).substr(1, end - 1));
+}
+
+Place RawTag::attribute(std::size_t attribute) const {
+    return attribute < attributes.size() ? attributes[attribute].name.place : start;
+}
+
+std::size_t RawTag::advanceInValue(Cursor& cursor) const {
+    char32_t const c = text[cursor.index];
+    if (c == U'\r' && cursor.index + 1 < text.size() && text[cursor.index + 1] == U'\n') advance(cursor);
+    if (c != U'&') {
+        advance(cursor);
+        return utf8Length(c);
+    }
+    std::size_t const first = cursor.index + 1;
+    skip(cursor, [](char32_t unit) { return unit != U';'; });
+    char32_t const named = codePointOf(std::u32string_view(text).substr(first, cursor.index - first));
+    if (!atEnd(cursor)) advance(cursor);
+    return named == 0 ? 0 : utf8Length(named);
+}
+
+Place RawTag::inValue(std::size_t attribute, std::size_t offset) {
+    if (attribute >= attributes.size()) return start;
+    if (last.attribute != attribute || last.offset > offset) last = {attribute, 0, attributes[attribute].value};
+    while (last.offset < offset && !atEnd(last.cursor)) {
+        std::size_t const length = advanceInValue(last.cursor);
+        if (length == 0) {
+            last = {};
+            return attributes[attribute].name.place;
+        }
+        last.offset += length;
+    }
+    return last.cursor.place;
+}
+
+bool RawTag::refersOnlyTo(std::size_t attribute, std::set<std::string> const& entities) const {
+    if (attribute >= attributes.size()) return false;
+    auto const& [name, begin, end] = attributes[attribute];
+    for (auto rest = std::u32string_view(text).substr(begin.index, end - begin.index);;) {
+        std::size_t const reference = rest.find(U'&');
+        if (reference == std::u32string_view::npos) return true;
+        rest.remove_prefix(reference + 1);
+        std::u32string_view const entity = rest.substr(0, rest.find(U';'));
+        if (codePointOf(entity) == 0 && !entities.contains(toUtf8(entity))) return false;
+    }
+}
+
+} // namespace Command

@@ -1,0 +1,247 @@
+#include "xml/XmlReader.h"
+
+#include "text/Text.h"
+#include "xml/Encoding.h"
+
+#include "xmlattr/catalogue/legality/Words.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <exception>
+#include <memory>
+#include <set>
+#include <vector>
+
+#define XML_DTD // declares the limits on entities
+#include <expat.h>
+
+namespace Command {
+
+namespace {
+
+constexpr int maxDepth = 10'000;
+constexpr std::int64_t maxTag = 32 << 20;
+constexpr int blockSize = 64 << 10;
+constexpr char separator = '\x1F'; // between a namespace and a name; no document can contain it
+
+constexpr std::string_view readEncodings = "UTF-8, UTF-16, ISO-8859-1, US-ASCII and windows-1252 are";
+
+struct SingleByteEncoding {
+    std::string_view name;
+    ByteEncoding encoding;
+};
+
+constexpr SingleByteEncoding singleByteEncodings[] = {{"iso-8859-1", ByteEncoding::Latin1},
+                                                      {"us-ascii", ByteEncoding::Latin1},
+                                                      {"windows-1252", ByteEncoding::Windows1252},
+                                                      {"cp1252", ByteEncoding::Windows1252}};
+
+// UTF-8 when the name is none of theirs.
+ByteEncoding singleByteEncoding(std::string_view name) {
+    for (SingleByteEncoding const& row : singleByteEncodings)
+        if (Xml::equalsNoCase(name, row.name)) return row.encoding;
+    return ByteEncoding::Utf8;
+}
+
+class Reader final : XmlHandler::Tag {
+public:
+    explicit Reader(XmlHandler& handler) : handler(handler), parser(XML_ParserCreateNS(nullptr, separator)) {
+        if (!parser) throw std::bad_alloc();
+        XML_SetUserData(parser.get(), this);
+        XML_SetElementHandler(parser.get(), onStart, onEnd);
+        XML_SetXmlDeclHandler(parser.get(), onDeclaration);
+        XML_SetUnknownEncodingHandler(parser.get(), onUnknownEncoding, this);
+        XML_SetNotStandaloneHandler(parser.get(), onUnreadDeclarations);
+        XML_SetEntityDeclHandler(parser.get(), onEntity);
+        XML_SetParamEntityParsing(parser.get(), XML_PARAM_ENTITY_PARSING_NEVER);
+        XML_SetBillionLaughsAttackProtectionMaximumAmplification(parser.get(), 100.0f);
+        XML_SetBillionLaughsAttackProtectionActivationThreshold(parser.get(), 1 << 20);
+    }
+
+    std::optional<XmlFailure> read(std::FILE* file) {
+        std::int64_t total = 0;
+        for (int size = blockSize;;) {
+            void* const buffer = XML_GetBuffer(parser.get(), size);
+            if (!buffer) return failed("limit", "out of memory");
+            std::size_t const count = std::fread(buffer, 1, static_cast<std::size_t>(size), file);
+            if (std::ferror(file)) return XmlFailure{"unreadable", std::strerror(errno), std::nullopt};
+            if (total == 0) noteMark({static_cast<char const*>(buffer), count});
+            total += static_cast<std::int64_t>(count);
+
+            bool const isLast = count < static_cast<std::size_t>(size);
+            XML_Status const status = XML_ParseBuffer(parser.get(), static_cast<int>(count), isLast);
+            if (thrown) std::rethrow_exception(thrown);
+            if (failure) return failure;
+            if (status != XML_STATUS_OK) return parserFailure();
+            if (isLast) return std::nullopt;
+
+            // A tag is read anew with each block until it is whole: blocks that grow with it keep
+            // the time linear.
+            std::int64_t const pending = total - XML_GetCurrentByteIndex(parser.get());
+            if (pending > maxTag) return failed("limit", "a tag or comment of more than 32 MiB");
+            size = static_cast<int>(std::clamp<std::int64_t>(pending, blockSize, maxTag - pending + blockSize));
+        }
+    }
+
+private:
+    static void XMLCALL onStart(void* self, XML_Char const* name, XML_Char const** attributes) {
+        static_cast<Reader*>(self)->start(name, attributes);
+    }
+
+    static void XMLCALL onEnd(void* self, XML_Char const*) { --static_cast<Reader*>(self)->depth; }
+
+    static void XMLCALL onDeclaration(void* self, XML_Char const*, XML_Char const* encoding, int) {
+        auto& known = static_cast<Reader*>(self)->encoding;
+        if (encoding && known == ByteEncoding::Utf8) known = singleByteEncoding(encoding);
+    }
+
+    // Called for an external DTD and for a parameter entity: the parser then takes an entity that it
+    // does not know for one that is declared there, and leaves it out.
+    static int XMLCALL onUnreadDeclarations(void* self) {
+        static_cast<Reader*>(self)->hasUnreadDeclarations = true;
+        return XML_STATUS_OK;
+    }
+
+    // What refers to others is known as little as they are.
+    static void XMLCALL onEntity(void* self, XML_Char const* name, int isParameter, XML_Char const* value, int length,
+                                 XML_Char const*, XML_Char const*, XML_Char const*, XML_Char const*) {
+        if (isParameter || !value) return;
+        std::string_view const text(value, static_cast<std::size_t>(length));
+        if (text.find('&') == std::string_view::npos) static_cast<Reader*>(self)->knownEntities.emplace(name);
+    }
+
+    static int XMLCALL onUnknownEncoding(void* self, XML_Char const* name, XML_Encoding* info) {
+        if (singleByteEncoding(name) != ByteEncoding::Windows1252) {
+            static_cast<Reader*>(self)->unknownEncoding = name;
+            return XML_STATUS_ERROR;
+        }
+        for (int i = 0; i < 256; ++i) info->map[i] = windows1252(static_cast<unsigned char>(i));
+        info->data = nullptr;
+        info->convert = nullptr;
+        info->release = nullptr;
+        return XML_STATUS_OK;
+    }
+
+    // What the first bytes tell of the encoding. The parser counts a byte order mark as a column.
+    void noteMark(std::string_view bytes) {
+        using namespace std::string_view_literals;
+        bool const isMarkedBig = bytes.starts_with("\xFE\xFF"sv), isMarkedLittle = bytes.starts_with("\xFF\xFE"sv);
+        if (isMarkedBig || bytes.starts_with("\0<"sv)) encoding = ByteEncoding::Utf16Big;
+        if (isMarkedLittle || bytes.starts_with("<\0"sv)) encoding = ByteEncoding::Utf16Little;
+        if (isMarkedBig || isMarkedLittle || bytes.starts_with("\xEF\xBB\xBF"sv)) markColumns = 1;
+    }
+
+    void start(XML_Char const* name, XML_Char const** texts) {
+        // The parser calls once more after it was stopped inside an empty element.
+        if (failure || thrown) return;
+        if (depth >= maxDepth) {
+            failure = failed("limit", "elements nest more than 10000 deep");
+            XML_StopParser(parser.get(), XML_FALSE);
+            return;
+        }
+        XmlElement element{.space = {}, .name = name, .attributes = {}, .depth = depth++};
+        split(element.space, element.name);
+        attributes.clear();
+        for (; texts[0]; texts += 2) {
+            XmlAttributeText& attribute = attributes.emplace_back();
+            attribute.name = texts[0];
+            attribute.value = texts[1];
+            split(attribute.space, attribute.name);
+        }
+        element.attributes = attributes;
+        hasTag = false;
+        last = {};
+        try {
+            handler.startElement(element, *this);
+        } catch (...) {
+            thrown = std::current_exception();
+            XML_StopParser(parser.get(), XML_FALSE);
+        }
+    }
+
+    static void split(std::string_view& space, std::string_view& name) {
+        std::size_t const at = name.find(separator);
+        if (at == std::string_view::npos) return;
+        space = name.substr(0, at);
+        name.remove_prefix(at + 1);
+    }
+
+    RawTag& raw() override {
+        if (hasTag) return tag;
+        hasTag = true;
+        int offset = 0, size = 0;
+        char const* const context = XML_GetInputContext(parser.get(), &offset, &size);
+        int const count = XML_GetCurrentByteCount(parser.get()); // 0 inside of an entity
+        std::string_view const bytes = context && offset >= 0 && count <= size - offset
+                                           ? std::string_view(context + offset, static_cast<std::size_t>(count))
+                                           : std::string_view();
+        tag = RawTag(decode(bytes, encoding), here());
+        return tag;
+    }
+
+    bool isWhole(std::size_t attribute) override {
+        if (!hasUnreadDeclarations) return true;
+        if (last.attribute != attribute) last = {attribute, raw().refersOnlyTo(attribute, knownEntities)};
+        return last.isWhole;
+    }
+
+    Place here() const {
+        std::uint64_t const line = XML_GetCurrentLineNumber(parser.get());
+        std::uint64_t const before = XML_GetCurrentColumnNumber(parser.get());
+        return {line, before + 1 - (line == 1 ? std::min(before, markColumns) : 0)};
+    }
+
+    XmlFailure failed(std::string_view id, std::string message) const { return {id, std::move(message), here()}; }
+
+    XmlFailure parserFailure() const {
+        XML_Error const code = XML_GetErrorCode(parser.get());
+        switch (code) {
+        case XML_ERROR_UNKNOWN_ENCODING:
+        case XML_ERROR_INCORRECT_ENCODING:
+            return failed("encoding", unknownEncoding.empty() ? "the file is not in the encoding that it declares"
+                                                              : "encoding " + shown(unknownEncoding) +
+                                                                    " is not read; " + std::string(readEncodings));
+        case XML_ERROR_AMPLIFICATION_LIMIT_BREACH:
+            return failed("limit", "entities expand to more than 100 times the size of the file");
+        case XML_ERROR_NO_MEMORY: return failed("limit", "more memory than the size of the file explains");
+        case XML_ERROR_NO_ELEMENTS:
+            return failed("malformed", depth > 0 ? "the file ends inside of an element" : "no element in the file");
+        case XML_ERROR_UNCLOSED_TOKEN:
+        case XML_ERROR_PARTIAL_CHAR:
+        case XML_ERROR_UNCLOSED_CDATA_SECTION:
+            return failed("malformed", std::string("the file ends too early: ") + XML_ErrorString(code));
+        default: return failed("malformed", std::string("no well-formed XML: ") + XML_ErrorString(code));
+        }
+    }
+
+    struct Free {
+        void operator()(XML_Parser parser) const { XML_ParserFree(parser); }
+    };
+
+    XmlHandler& handler;
+    std::unique_ptr<std::remove_pointer_t<XML_Parser>, Free> parser;
+    ByteEncoding encoding = ByteEncoding::Utf8;
+    std::uint64_t markColumns = 0; // on line 1
+    std::string unknownEncoding;
+    int depth = 0;
+    std::vector<XmlAttributeText> attributes;
+    bool hasTag = false;
+    RawTag tag;
+    bool hasUnreadDeclarations = false;
+    std::set<std::string> knownEntities;
+    struct {
+        std::size_t attribute = SIZE_MAX;
+        bool isWhole = false;
+    } last;
+    std::optional<XmlFailure> failure;
+    std::exception_ptr thrown;
+};
+
+} // namespace
+
+std::optional<XmlFailure> readXml(std::FILE* file, XmlHandler& handler) {
+    return Reader(handler).read(file);
+}
+
+} // namespace Command

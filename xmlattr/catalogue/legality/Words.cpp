@@ -1,0 +1,77 @@
+#include "xmlattr/catalogue/legality/Words.h"
+
+#include "xmlattr/core/Text.h"
+
+#include <algorithm>
+
+namespace Xml {
+
+namespace {
+
+char lowerLetter(char c) {
+    return static_cast<char>(Core::toLower(static_cast<unsigned char>(c)));
+}
+
+} // namespace
+
+std::u16string_view trimXmlSpace(std::u16string_view text) {
+    while (!text.empty() && isXmlSpace(text.front())) text.remove_prefix(1);
+    while (!text.empty() && isXmlSpace(text.back())) text.remove_suffix(1);
+    return text;
+}
+
+std::string toLower(std::string_view text) {
+    std::string lower(text);
+    std::ranges::transform(lower, lower.begin(), lowerLetter);
+    return lower;
+}
+
+bool equalsNoCase(std::string_view a, std::string_view b) {
+    return std::ranges::equal(a, b, {}, lowerLetter, lowerLetter);
+}
+
+bool equalsWord(std::u16string_view text, std::string_view word, bool ignoreCase) {
+    return std::equal(text.begin(), text.end(), word.begin(), word.end(), [&](char16_t unit, char letter) {
+        auto const expected = static_cast<char16_t>(static_cast<unsigned char>(letter));
+        return ignoreCase ? Core::toLower(unit) == Core::toLower(expected) : unit == expected;
+    });
+}
+
+std::vector<std::u16string_view> splitValues(std::u16string_view text, bool commas) {
+    std::vector<std::u16string_view> values;
+    std::size_t start = 0;
+    int depth = 0;
+    char16_t quote = 0;
+    auto const take = [&](std::size_t end) {
+        if (end > start) values.push_back(text.substr(start, end - start));
+        start = end + 1;
+    };
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        char16_t const unit = text[i];
+        if (quote != 0) {
+            if (unit == quote) quote = 0;
+        } else if (unit == u'"' || unit == u'\'') {
+            quote = unit;
+        } else if (unit == u'(') {
+            ++depth;
+        } else if (unit == u')') {
+            depth = std::max(depth - 1, 0);
+        } else if (depth == 0 && (isXmlSpace(unit) || (commas && unit == u','))) {
+            take(i);
+        }
+    }
+    take(text.size());
+    return values;
+}
+
+std::vector<std::string_view> splitWords(std::string_view text) {
+    std::vector<std::string_view> words;
+    while (!text.empty()) {
+        std::size_t const end = std::min(text.find(' '), text.size());
+        if (end > 0) words.push_back(text.substr(0, end));
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return words;
+}
+
+} // namespace Xml
