@@ -1,6 +1,7 @@
 // Reading, printing and comparing through the public interface, and the floors beside them. Each
 // benchmark goes over a whole workload; "item" is the time for one of its values or commands, "allocs"
-// is how often each pass asks for memory per text.
+// is how often each pass asks for memory per text. With the argument --count, each goes over its workload
+// once and nothing is timed: scripts/count-instructions runs that in a simulated processor.
 #include "Allocations.h"
 #include "Floors.h"
 #include "Workloads.h"
@@ -8,7 +9,14 @@
 #include "xmlattr/xmlattr.h"
 
 #include <benchmark/benchmark.h>
+#if __has_include(<valgrind/callgrind.h>)
+#include <valgrind/callgrind.h>
+#else
+#define CALLGRIND_TOGGLE_COLLECT
+#define CALLGRIND_DUMP_STATS_AT(name)
+#endif
 
+#include <functional>
 #include <string>
 
 using benchmark::Counter;
@@ -24,6 +32,28 @@ template <class T> std::size_t itemsIn(T const&) {
 
 template <class T> std::size_t itemsIn(Core::Vector<T> const& list) {
     return list.size();
+}
+
+// One benchmark as --count runs it.
+struct Counted {
+    std::string name;
+    std::size_t items;
+    std::function<void()> run;
+};
+
+std::vector<Counted>& counted() {
+    static std::vector<Counted> all;
+    return all;
+}
+
+// The first run finds memory and caches as every later one does; only the second is counted.
+void count(Counted const& row) {
+    row.run();
+    CALLGRIND_TOGGLE_COLLECT;
+    row.run();
+    CALLGRIND_TOGGLE_COLLECT;
+    std::string const title = row.name + " " + std::to_string(row.items);
+    CALLGRIND_DUMP_STATS_AT(title.c_str());
 }
 
 // Runs pass(text index) for every text and reports per item.
@@ -70,8 +100,12 @@ public:
 
 private:
     template <class Pass> Suite& add(char const* what, Pass pass) {
-        benchmark::RegisterBenchmark((name + "/" + what).c_str(),
+        std::string const title = name + "/" + what;
+        benchmark::RegisterBenchmark(title.c_str(),
                                      [this, pass](State& state) mutable { measure(state, texts, items, pass); });
+        counted().push_back({title, items, [this, pass]() mutable {
+                                 for (std::size_t i = 0; i < texts.size(); ++i) pass(i);
+                             }});
         return *this;
     }
 
@@ -138,6 +172,10 @@ void registerAll() {
 
 int main(int argc, char** argv) {
     Bench::registerAll();
+    if (argc == 2 && std::string_view(argv[1]) == "--count") {
+        for (Bench::Counted const& row : Bench::counted()) Bench::count(row);
+        return 0;
+    }
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
     benchmark::RunSpecifiedBenchmarks();
