@@ -3,7 +3,7 @@
 //
 //   fuzz_seeds FOLDER DOCUMENT...
 #include "xml/XmlReader.h"
-#include "xmlattr/catalogue/legality/Property.h"
+#include "xmlattr/catalogue/Catalogue.h"
 #include "xmlattr/catalogue/types/AttributeTypes.h"
 
 #include "text/Text.h"
@@ -172,9 +172,8 @@ struct Seeds final : Command::XmlHandler {
         elementNames.emplace(element.name);
         for (auto const& attribute : element.attributes) {
             elementNames.emplace(attribute.name);
-            auto const* const property = Command::findProperty(*vocabulary, element.name, attribute.name);
-            if (property && property->type)
-                addValue(static_cast<std::size_t>(property->type - Command::attributeTypes().data()), attribute.value);
+            auto const* const entry = Xml::Catalogue::find(*vocabulary, element.name, attribute.name);
+            if (entry && entry->type()) addValue(static_cast<std::size_t>(entry->typeNumber), attribute.value);
         }
     }
 
@@ -190,7 +189,7 @@ int main(int argc, char** argv) {
     fs::path const folder = argv[1];
     Seeds seeds(folder);
     std::set<std::string> words;
-    auto const types = Command::attributeTypes();
+    auto const types = Xml::attributeTypes();
     for (std::size_t i = 0; i < types.size(); ++i) {
         for (std::u16string_view const word : types[i].keywords()) {
             words.insert(Command::toUtf8(word));

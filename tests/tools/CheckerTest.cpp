@@ -14,7 +14,7 @@ std::string const block = "<b xmlns='http://www.w3.org/1999/XSL/Format' ";
 std::string classesOf(Counts const& counts) {
     std::string classes;
     for (std::uint64_t const count : {counts.checked, counts.passedOver, counts.identifiers, counts.texts,
-                                      counts.noType, counts.foreign, counts.unread, counts.unknown})
+                                      counts.untyped, counts.foreign, counts.unread, counts.unknown})
         classes += std::to_string(count) + " ";
     return classes;
 }

@@ -1,28 +1,179 @@
 #include "xmlattr/catalogue/Catalogue.h"
 
-#include <array>
-#include <cstddef>
-#include <iterator>
+#include "xmlattr/Values.h"
+#include "xmlattr/catalogue/TableText.h"
+#include "xmlattr/catalogue/types/AttributeTypes.h"
+#include "xmlattr/defaults/DefaultAttributes.h"
+
+#include <type_traits>
 
 namespace Xml {
 
 namespace {
 
-using enum AttributeKind;
-constexpr bool Yes = true, No = false;
-
-constexpr CatalogueEntry rows[] = {
-#define XMLATTR_PROPERTY(...) {Vocabulary::Fo, __VA_ARGS__},
-#include "xmlattr/catalogue/FoProperties.inc"
-#undef XMLATTR_PROPERTY
-#define XMLATTR_PROPERTY(...) {Vocabulary::Svg, __VA_ARGS__},
-#include "xmlattr/catalogue/SvgProperties.inc"
-#undef XMLATTR_PROPERTY
+// What each row stands for, and the place where it will stand: rows refer to each other.
+struct RowName {
+    Vocabulary vocabulary;
+    std::span<std::string_view const> elements;
+    std::string_view attribute;
 };
 
-constexpr bool isSameAttribute(CatalogueEntry const& row, Vocabulary vocabulary, std::string_view attribute) {
+constexpr RowName rowNames[] = {
+#define XMLATTR_TYPED(elements, attribute, ...) {XMLATTR_VOCABULARY, wordsOf<elements>, attribute},
+#define XMLATTR_SHORTHAND XMLATTR_TYPED
+#define XMLATTR_UNTYPED XMLATTR_TYPED
+#define XMLATTR_IDENTIFIER XMLATTR_TYPED
+#define XMLATTR_TEXT XMLATTR_TYPED
+#include "xmlattr/catalogue/Properties.inc"
+};
+
+constexpr std::size_t rowCount = std::size(rowNames);
+extern CatalogueEntry const rows[rowCount];
+
+constexpr bool isSameAttribute(RowName const& row, Vocabulary vocabulary, std::string_view attribute) {
     return row.vocabulary == vocabulary && row.attribute == attribute;
 }
+
+consteval bool areInOrder() {
+    for (std::size_t i = 0; i < rowCount; ++i) {
+        RowName const& row = rowNames[i];
+        requireOf(row.attribute, !row.elements.empty(), "the row names no element");
+        for (std::size_t j = 1; j < row.elements.size(); ++j)
+            requireOf(row.attribute, row.elements[j - 1] < row.elements[j], "the elements of the row are not sorted");
+        if (i == 0 || rowNames[i - 1].vocabulary != row.vocabulary) continue;
+        bool const follows =
+            rowNames[i - 1].attribute < row.attribute ||
+            (rowNames[i - 1].attribute == row.attribute && rowNames[i - 1].elements.front() < row.elements.front());
+        requireOf(row.attribute, follows, "the rows are not sorted by attribute, then by elements");
+        for (std::size_t j = i; j > 0 && isSameAttribute(rowNames[j - 1], row.vocabulary, row.attribute); --j)
+            for (std::string_view const element : rowNames[j - 1].elements)
+                requireOf(row.attribute, std::ranges::find(row.elements, element) == row.elements.end(),
+                          "an element has two rows of the attribute");
+    }
+    return true;
+}
+
+static_assert(areInOrder());
+
+// The value types that the rows name.
+
+template <class T> constexpr char mark = 0; // its address tells types apart
+
+constexpr char const* typeMarks[] = {
+#define XMLATTR_PUBLIC_VALUE(...) &mark<__VA_ARGS__>,
+#define XMLATTR_INTERNAL_VALUE(...) &mark<__VA_ARGS__>,
+#include "xmlattr/ValueTypes.inc"
+};
+
+constexpr std::string_view typeNames[] = {
+#define XMLATTR_PUBLIC_VALUE(...) #__VA_ARGS__,
+#define XMLATTR_INTERNAL_VALUE(...) #__VA_ARGS__,
+#include "xmlattr/ValueTypes.inc"
+};
+
+template <class T>
+constexpr std::size_t typeNumber = [] {
+    std::size_t number = 0;
+    while (number < std::size(typeMarks) && typeMarks[number] != &mark<T>) ++number;
+    return number;
+}();
+
+template <class T> constexpr bool isListType = std::is_same_v<T, ViewBox>;
+template <class T> constexpr bool isListType<Core::Vector<T>> = true;
+
+constexpr struct None {
+} NoDefault;
+
+// The columns of the rows.
+
+struct Scope {
+    bool isInherited, isPresentation;
+};
+
+constexpr Scope Local{false, false}, Inherited{true, false}, Presentation{false, true},
+    InheritedPresentation{true, true};
+
+struct Parts {
+    std::uint8_t most;
+    bool areOfFont = false;
+};
+
+constexpr Parts AsFont{255, true};
+
+constexpr Parts UpTo(std::uint8_t count) {
+    return {count};
+}
+
+template <TableText text>
+constexpr auto tokensOf = [] {
+    std::array<LegalToken, wordsOf<text>.size()> tokens{};
+    for (std::size_t i = 0; i < tokens.size(); ++i) {
+        auto const token = LegalToken::parse(wordsOf<text>[i]);
+        requireOf(wordsOf<text>[i], token.has_value(), "LegalToken.h has no such token");
+        tokens[i] = *token;
+    }
+    return tokens;
+}();
+
+constexpr CatalogueEntry const* rowOfLonghand(Vocabulary vocabulary, std::string_view attribute) {
+    std::size_t i = 0;
+    while (i < rowCount && !(isSameAttribute(rowNames[i], vocabulary, attribute) && rowNames[i].elements[0] == "*"))
+        ++i;
+    requireOf(attribute, i < rowCount, "the longhand is no row of its vocabulary for every element");
+    return &rows[i];
+}
+
+template <Vocabulary vocabulary, TableText text>
+constexpr auto longhandsOf = [] {
+    std::array<CatalogueEntry const*, wordsOf<text>.size()> longhands{};
+    for (std::size_t i = 0; i < longhands.size(); ++i) longhands[i] = rowOfLonghand(vocabulary, wordsOf<text>[i]);
+    return longhands;
+}();
+
+template <class T, class Constant>
+consteval CatalogueEntry typed(CatalogueEntry row, std::string_view constant, std::span<LegalToken const> alsoLegal) {
+    constexpr bool hasDefault = !std::is_same_v<Constant, None const>;
+    static_assert(typeNumber<T> < std::size(typeNames), "the value type of this row is not in ValueTypes.inc");
+    static_assert(!hasDefault || std::is_same_v<Constant, TXmlAttribute<T> const>,
+                  "the default constant of this row holds a value of another type than the row's");
+    row.valueType = typeNames[typeNumber<T>];
+    row.typeNumber = static_cast<std::int16_t>(typeNumber<T>);
+    row.isList = isListType<T>;
+    row.isUrl = std::is_same_v<T, Url>;
+    if (hasDefault) row.defaultConstant = constant;
+    row.alsoLegal = alsoLegal;
+    return row;
+}
+
+consteval CatalogueEntry shorthand(CatalogueEntry row, Parts parts, std::span<CatalogueEntry const* const> longhands,
+                                   std::span<std::string_view const> words) {
+    requireOf(row.attribute, !parts.areOfFont || longhands.size() == 5 || longhands.size() == 6,
+              "a font is made of its style, variant, weight, size, family and, perhaps, line height");
+    row.mostParts = parts.most;
+    row.isFont = parts.areOfFont;
+    row.longhands = longhands;
+    row.ownWords = words;
+    return row;
+}
+
+#define XMLATTR_ROW(kind, elements, attribute, scope, grammar, initial, note)                                          \
+    CatalogueEntry {                                                                                                   \
+        XMLATTR_VOCABULARY, AttributeKind::kind, (scope).isInherited, (scope).isPresentation, wordsOf<elements>,       \
+            attribute, grammar, initial, note                                                                          \
+    }
+#define XMLATTR_TYPED(elements, attribute, scope, type, constant, alsoLegal, grammar, initial, note)                   \
+    typed<type, decltype(constant)>(XMLATTR_ROW(Typed, elements, attribute, scope, grammar, initial, note), #constant, \
+                                    tokensOf<alsoLegal>),
+#define XMLATTR_SHORTHAND(elements, attribute, scope, parts, longhands, words, grammar, initial, note)                 \
+    shorthand(XMLATTR_ROW(Shorthand, elements, attribute, scope, grammar, initial, note), parts,                       \
+              longhandsOf<XMLATTR_VOCABULARY, longhands>, wordsOf<words>),
+#define XMLATTR_UNTYPED(...) XMLATTR_ROW(Untyped, __VA_ARGS__),
+#define XMLATTR_IDENTIFIER(...) XMLATTR_ROW(Identifier, __VA_ARGS__),
+#define XMLATTR_TEXT(...) XMLATTR_ROW(Text, __VA_ARGS__),
+constinit CatalogueEntry const rows[rowCount] = {
+#include "xmlattr/catalogue/Properties.inc"
+};
+#undef XMLATTR_ROW
 
 // An open hash table of the first row of each attribute: row number plus one, 0 where nothing is.
 // It is at most a third full.
@@ -36,9 +187,9 @@ constexpr std::size_t slotOf(Vocabulary vocabulary, std::string_view attribute) 
 
 constexpr auto firstRows = [] {
     std::array<std::uint16_t, slotCount> slots{};
-    for (std::size_t i = 0; i < std::size(rows); ++i) {
-        CatalogueEntry const& row = rows[i];
-        if (i > 0 && isSameAttribute(rows[i - 1], row.vocabulary, row.attribute)) continue;
+    for (std::size_t i = 0; i < rowCount; ++i) {
+        RowName const& row = rowNames[i];
+        if (i > 0 && isSameAttribute(rowNames[i - 1], row.vocabulary, row.attribute)) continue;
         std::size_t slot = slotOf(row.vocabulary, row.attribute);
         while (slots[slot] != 0) slot = (slot + 1) % slotCount;
         slots[slot] = static_cast<std::uint16_t>(i + 1);
@@ -48,6 +199,10 @@ constexpr auto firstRows = [] {
 
 } // namespace
 
+AttributeType const* CatalogueEntry::type() const noexcept {
+    return typeNumber < 0 ? nullptr : &attributeTypes()[static_cast<std::size_t>(typeNumber)];
+}
+
 std::span<CatalogueEntry const> Catalogue::entries() noexcept {
     return rows;
 }
@@ -55,12 +210,12 @@ std::span<CatalogueEntry const> Catalogue::entries() noexcept {
 CatalogueEntry const* Catalogue::find(Vocabulary vocabulary, std::string_view element,
                                       std::string_view attribute) noexcept {
     for (std::size_t slot = slotOf(vocabulary, attribute); firstRows[slot] != 0; slot = (slot + 1) % slotCount) {
-        CatalogueEntry const* row = &rows[firstRows[slot] - 1];
-        if (!isSameAttribute(*row, vocabulary, attribute)) continue;
+        std::size_t i = firstRows[slot] - 1u;
+        if (!isSameAttribute(rowNames[i], vocabulary, attribute)) continue;
         CatalogueEntry const* forEvery = nullptr;
-        for (; row != std::end(rows) && isSameAttribute(*row, vocabulary, attribute); ++row) {
-            if (row->element == element) return row;
-            if (row->element == "*") forEvery = row;
+        for (; i < rowCount && isSameAttribute(rowNames[i], vocabulary, attribute); ++i) {
+            if (rows[i].isForEveryElement()) forEvery = &rows[i];
+            if (std::ranges::find(rows[i].elements, element) != rows[i].elements.end()) return &rows[i];
         }
         return forEvery;
     }
@@ -79,11 +234,11 @@ std::string_view Catalogue::name(Vocabulary vocabulary) noexcept {
 
 std::string_view Catalogue::name(AttributeKind kind) noexcept {
     switch (kind) {
-    case Typed: return "typed";
-    case Shorthand: return "shorthand";
-    case Identifier: return "identifier";
-    case Text: return "text";
-    case None: return "none";
+    case AttributeKind::Typed: return "typed";
+    case AttributeKind::Shorthand: return "shorthand";
+    case AttributeKind::Identifier: return "identifier";
+    case AttributeKind::Text: return "text";
+    case AttributeKind::Untyped: return "none";
     }
     return {};
 }

@@ -1,6 +1,8 @@
-// Which value type an attribute of XSL-FO 1.1 or SVG 1.1 has: a table that is compiled in.
+// Which value type an attribute of XSL-FO 1.1 or SVG 1.1 has, and what else is known of it: a table that is compiled in.
+// Whether a text is legal on an attribute is told by legality/Judge.h.
 #pragma once
 
+#include "xmlattr/catalogue/LegalToken.h"
 #include "xmlattr/core/Export.h"
 
 #include <cstdint>
@@ -10,6 +12,8 @@
 
 namespace Xml {
 
+struct AttributeType;
+
 enum class Vocabulary : std::uint8_t { Fo, Svg };
 
 enum class AttributeKind : std::uint8_t {
@@ -17,30 +21,50 @@ enum class AttributeKind : std::uint8_t {
     Shorthand,  // sets several attributes, which have rows of their own
     Identifier, // a name, or a reference to one
     Text,       // free text
-    None        // no value type reads it
+    Untyped     // no value type reads it
 };
 
-// All texts are ASCII and live as long as the program.
+// An attribute on the elements where it has one meaning. All texts are ASCII and live as long as the program.
 struct CatalogueEntry {
     Vocabulary vocabulary;
-    // The local name of the only element that the row holds for, or "*".
-    std::string_view element;
+    AttributeKind kind;
+    bool isInherited;
+    // Whether the SVG attribute is a property, which a style attribute may hold too.
+    bool isPresentation;
+    // The local names of the elements, sorted; "*" alone for all that have no row of their own.
+    std::span<std::string_view const> elements;
     // The local name; those of the XML and XLink namespaces have their usual prefix: "xml:lang".
     std::string_view attribute;
-    AttributeKind kind;
-    // The name under which ValueTypes.inc lists the type; empty when the kind is not Typed.
-    std::string_view valueType;
-    // What the recommendation allows and the value type does not read, divided by blanks: words, and
-    // tokens for kinds of values: <number> <integer> <percentage> <angle> <color> <uri> <language>,
-    // <number>{4}, <number>{2,}, <list> (several items, each legal alone) and name() (a call).
-    std::string_view alsoLegal;
-    // The name of the constant that holds the default; may be empty.
-    std::string_view defaultConstant;
-    bool inherited;
+
+    // The values that the recommendation allows, in the value definition syntax of CSS, and the one that an absent
+    // attribute has; both may be empty.
+    std::string_view grammar, initial;
+    // For people: what to know of the attribute and its type.
     std::string_view note;
 
-    // Whether the SVG attribute is a property, which a style attribute may hold too.
-    constexpr bool isPresentation() const { return note.starts_with("presentation"); }
+    // Of a typed attribute: the name under which ValueTypes.inc lists the type, and its place there.
+    std::string_view valueType{};
+    std::int16_t typeNumber = -1;
+    // Whether the value is a list, which can take many times the memory of its text.
+    bool isList = false;
+    // Whether it is a Url, which any text is.
+    bool isUrl = false;
+    // The name of the constant that holds the default; may be empty.
+    std::string_view defaultConstant{};
+    // What the recommendation allows and the value type does not read.
+    std::span<LegalToken const> alsoLegal{};
+
+    // Of a shorthand: the attributes that its parts are values of, the words that are no value of theirs, and how many
+    // parts there are at most. Without the first two, nothing is known of its parts. A font has its parts in an order
+    // of their own; its attributes are style, variant, weight, size, family and, where there is one, line height.
+    std::span<CatalogueEntry const* const> longhands{};
+    std::span<std::string_view const> ownWords{};
+    std::uint8_t mostParts = 0;
+    bool isFont = false;
+
+    bool isForEveryElement() const { return elements.front() == "*"; }
+    // The value type; null when the attribute is not typed.
+    XMLATTR_API AttributeType const* type() const noexcept;
 };
 
 class XMLATTR_API Catalogue {
@@ -48,8 +72,8 @@ public:
     // Every row: the vocabularies one after the other, each sorted by attribute.
     static std::span<CatalogueEntry const> entries() noexcept;
 
-    // The row of an attribute on an element, by local names: the element's own one before the one
-    // for every element. Null when the vocabulary has no such attribute. Takes constant time.
+    // The row of an attribute on an element, by local names: one that names the element before the one for every
+    // element. Null when the vocabulary has no such attribute. Takes constant time.
     static CatalogueEntry const* find(Vocabulary vocabulary, std::string_view element,
                                       std::string_view attribute) noexcept;
 

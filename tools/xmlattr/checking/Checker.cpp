@@ -1,12 +1,7 @@
 #include "checking/Checker.h"
 
 #include "text/Text.h"
-#include "xmlattr/catalogue/legality/Shorthand.h"
 #include "xmlattr/catalogue/legality/StyleAttribute.h"
-
-#include "xmlattr/catalogue/legality/Words.h"
-
-#include "xmlattr/core/String.h"
 
 namespace Command {
 
@@ -18,13 +13,6 @@ constexpr std::string_view xlinkSpace = "http://www.w3.org/1999/xlink";
 // The values of a list take up to twenty times the memory of its text.
 constexpr std::size_t longestList = 4 << 20;
 
-Xml::Judgement judge(Xml::Property const& property, std::u16string_view text) {
-    if (property.entry->kind == Xml::AttributeKind::Shorthand) return Xml::judgeShorthand(*property.entry, text);
-    Xml::Verdict const verdict = property.judge(text);
-    if (verdict != Xml::Verdict::Refused) return {verdict, {}, {}, {}};
-    return {verdict, {}, {property.type}, {}};
-}
-
 } // namespace
 
 struct Checker::Occurrence {
@@ -33,8 +21,10 @@ struct Checker::Occurrence {
     std::string_view element;
     std::size_t number; // of the attribute in its tag
     std::string_view name, value;
-    std::size_t offset = 0;     // in the attribute's value
-    bool isDeclaration = false; // of a style attribute
+    std::size_t offset = 0; // in the attribute's value
+    Xml::Notation notation = Xml::Notation::Attribute;
+
+    bool isDeclaration() const { return notation == Xml::Notation::Declaration; }
 };
 
 void Checker::startElement(XmlElement const& element, Tag& tag) {
@@ -61,16 +51,17 @@ void Checker::startElement(XmlElement const& element, Tag& tag) {
 }
 
 void Checker::check(Occurrence const& occurrence) {
-    Xml::Property const* const property = Xml::findProperty(occurrence.vocabulary, occurrence.element, occurrence.name);
-    if (!property || (occurrence.isDeclaration && !property->entry->isPresentation())) {
+    auto const find = occurrence.isDeclaration() ? Xml::findProperty : Xml::Catalogue::find;
+    Xml::CatalogueEntry const* const entry = find(occurrence.vocabulary, occurrence.element, occurrence.name);
+    if (!entry) {
         ++counts.unknown;
         return;
     }
-    switch (property->entry->kind) {
+    switch (entry->kind) {
     case Xml::AttributeKind::Typed:
-    case Xml::AttributeKind::Shorthand: return checkValue(occurrence, *property);
+    case Xml::AttributeKind::Shorthand: return checkValue(occurrence, *entry);
     case Xml::AttributeKind::Identifier: ++counts.identifiers; return;
-    case Xml::AttributeKind::None: ++counts.noType; return;
+    case Xml::AttributeKind::Untyped: ++counts.untyped; return;
     case Xml::AttributeKind::Text:
         ++counts.texts;
         if (occurrence.vocabulary == Xml::Vocabulary::Svg && occurrence.name == "style") checkStyle(occurrence);
@@ -78,25 +69,22 @@ void Checker::check(Occurrence const& occurrence) {
     }
 }
 
-void Checker::checkValue(Occurrence const& occurrence, Xml::Property const& property) {
-    if (property.isList() && occurrence.value.size() > longestList) {
+void Checker::checkValue(Occurrence const& occurrence, Xml::CatalogueEntry const& entry) {
+    if (entry.isList && occurrence.value.size() > longestList) {
         ++counts.tooLong;
         return;
     }
-    Xml::Judgement found;
-    Xml::Verdict verdict = cache.find(property, occurrence.value, [&] {
+    Xml::Judgement judgement;
+    Xml::Verdict const verdict = cache.find(entry, occurrence.notation, occurrence.value, [&] {
         toUtf16(occurrence.value, text);
-        found = judge(property, text);
-        return found.verdict;
+        judgement = Xml::judge(entry, text, occurrence.notation);
+        return judgement.verdict;
     });
-    // CSS has no case; the value types read attributes, which have one.
-    if (verdict == Xml::Verdict::Refused && occurrence.isDeclaration &&
-        judge(property, Core::String(text).toLower()).verdict != Xml::Verdict::Refused)
-        verdict = Xml::Verdict::PassedOver;
     switch (verdict) {
-    case Xml::Verdict::Checked: ++counts.checked; return;
+    case Xml::Verdict::Read: ++counts.checked; return;
     case Xml::Verdict::PassedOver: ++counts.passedOver; return;
-    case Xml::Verdict::NotCovered: ++counts.noType; return;
+    case Xml::Verdict::FreeText: ++counts.texts; return;
+    case Xml::Verdict::NotCovered: ++counts.untyped; return;
     case Xml::Verdict::Refused: break;
     }
     if (!occurrence.tag.isWhole(occurrence.number)) {
@@ -105,14 +93,15 @@ void Checker::checkValue(Occurrence const& occurrence, Xml::Property const& prop
     }
     if (counts.refused++ >= maxFindings) return;
     Finding finding;
-    finding.part = found.part;
-    finding.problem = found.problem;
-    for (Xml::AttributeType const* const type : found.types) {
+    finding.attribute = entry.attribute;
+    finding.part = toUtf8(judgement.part);
+    finding.problem = judgement.problem;
+    for (Xml::AttributeType const* const type : judgement.tried) {
         finding.types.emplace_back(type->name);
         if (finding.hints.variant.empty() && finding.hints.nearest.empty())
-            finding.hints = hintsFor(*type, found.part.empty() ? text : toUtf16(found.part));
+            finding.hints = hintsFor(*type, judgement.part.empty() ? text : judgement.part);
     }
-    if (found.types.size() > 1) finding.hints.accepted.clear(); // those of one type are not all
+    if (judgement.tried.size() > 1) finding.hints.accepted.clear(); // those of one type are not all
     refuse(occurrence, std::move(finding));
 }
 
@@ -121,19 +110,17 @@ void Checker::checkStyle(Occurrence const& occurrence) {
     Xml::blankComments(style);
     for (Xml::Declaration const& declaration : Xml::splitStyle(style)) {
         ++counts.declarations;
-        std::string const name = Xml::toLower(declaration.property); // CSS has no case
-        check({occurrence.tag, occurrence.vocabulary, occurrence.element, occurrence.number, name, declaration.value,
-               declaration.offset, true});
+        check({occurrence.tag, occurrence.vocabulary, occurrence.element, occurrence.number, declaration.property,
+               declaration.value, declaration.offset, Xml::Notation::Declaration});
     }
 }
 
 void Checker::refuse(Occurrence const& occurrence, Finding finding) {
     RawTag& tag = occurrence.tag.raw();
-    finding.place =
-        occurrence.isDeclaration ? tag.inValue(occurrence.number, occurrence.offset) : tag.attribute(occurrence.number);
+    finding.place = occurrence.isDeclaration() ? tag.inValue(occurrence.number, occurrence.offset)
+                                               : tag.attribute(occurrence.number);
     finding.element = tag.elementName();
     if (finding.element.empty()) finding.element = occurrence.element;
-    finding.attribute = occurrence.name;
     finding.text = occurrence.value;
     report(finding);
 }

@@ -1,10 +1,10 @@
-// Looks every attribute of a document up in the catalogue and lets its value type read the text.
+// Looks every attribute of a document up in the catalogue, and has its text judged.
 #pragma once
 
 #include "checking/Hints.h"
 #include "checking/VerdictCache.h"
 #include "xml/XmlReader.h"
-#include "xmlattr/catalogue/legality/Property.h"
+#include "xmlattr/catalogue/legality/Judge.h"
 
 #include <cstdint>
 #include <functional>
@@ -34,9 +34,9 @@ struct Counts {
     std::uint64_t attributes = 0, declarations = 0;
     std::uint64_t checked = 0, passedOver = 0, refused = 0, identifiers = 0, texts = 0;
     // Not covered, by reason.
-    std::uint64_t noType = 0, foreign = 0, tooLong = 0, unread = 0, unknown = 0;
+    std::uint64_t untyped = 0, foreign = 0, tooLong = 0, unread = 0, unknown = 0;
 
-    std::uint64_t notCovered() const { return noType + foreign + tooLong + unread + unknown; }
+    std::uint64_t notCovered() const { return untyped + foreign + tooLong + unread + unknown; }
 };
 
 class Checker final : public XmlHandler {
@@ -53,7 +53,7 @@ private:
     struct Occurrence;
 
     void check(Occurrence const& occurrence);
-    void checkValue(Occurrence const& occurrence, Xml::Property const& property);
+    void checkValue(Occurrence const& occurrence, Xml::CatalogueEntry const& entry);
     void checkStyle(Occurrence const& occurrence);
     void refuse(Occurrence const& occurrence, Finding finding);
 

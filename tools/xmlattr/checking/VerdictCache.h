@@ -1,7 +1,7 @@
 // Remembers what was found of short texts, since documents say the same thing over and over.
 #pragma once
 
-#include "xmlattr/catalogue/legality/Property.h"
+#include "xmlattr/catalogue/legality/Judge.h"
 
 #include <array>
 #include <cstdint>
@@ -13,8 +13,9 @@ namespace Command {
 
 class VerdictCache {
     struct Key {
-        Xml::Property const* property = nullptr;
-        std::array<std::uint64_t, 3> text{}; // the bytes, zeros behind them
+        Xml::CatalogueEntry const* entry = nullptr;
+        Xml::Notation notation{};
+        std::array<std::uint64_t, 3> text{}; // the bytes, zeros after them
         bool operator==(Key const&) const = default;
     };
     struct Row {
@@ -23,13 +24,15 @@ class VerdictCache {
     };
 
 public:
-    // What `judge()` gives for the property and the text; it is not asked again for a text of up to
+    // What `judge()` gives for the entry and the text; it is not asked again for a text of up to
     // 24 bytes that it did not refuse a short while ago.
-    template <class Judge> Xml::Verdict find(Xml::Property const& property, std::string_view text, Judge judge) {
-        Key key{&property, {}};
+    template <class Judge>
+    Xml::Verdict find(Xml::CatalogueEntry const& entry, Xml::Notation notation, std::string_view text, Judge judge) {
+        Key key{&entry, notation, {}};
         if (text.size() > sizeof key.text) return judge();
         std::memcpy(key.text.data(), text.data(), text.size());
-        auto hash = static_cast<std::uint64_t>(reinterpret_cast<std::uintptr_t>(&property));
+        auto hash =
+            static_cast<std::uint64_t>(reinterpret_cast<std::uintptr_t>(&entry)) + static_cast<unsigned>(notation);
         for (std::uint64_t const part : key.text) hash = (hash ^ part) * 0x9E3779B97F4A7C15u;
         Row& row = rows[static_cast<std::size_t>(hash >> 53)];
         if (row.key == key) return row.verdict;

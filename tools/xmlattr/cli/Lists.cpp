@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <nlohmann/json.hpp>
+#include <tuple>
+#include <vector>
 
 namespace Command {
 
@@ -45,6 +47,54 @@ std::string syntaxOf(Xml::AttributeType const& type) {
     return text + (text.empty() ? "" : "; ") + std::string(type.syntax());
 }
 
+struct ElementRow {
+    std::string_view element;
+    Xml::CatalogueEntry const* entry;
+};
+
+// A row for each element, sorted by attribute, then by element.
+std::vector<ElementRow> rowsByElement() {
+    std::vector<ElementRow> rows;
+    for (Xml::CatalogueEntry const& entry : Xml::Catalogue::entries())
+        for (std::string_view const element : entry.elements) rows.push_back({element, &entry});
+    std::ranges::sort(rows, {}, [](ElementRow const& row) {
+        return std::tuple(row.entry->vocabulary, row.entry->attribute, row.element);
+    });
+    return rows;
+}
+
+std::string tokensOf(Xml::CatalogueEntry const& entry) {
+    std::string text;
+    for (Xml::LegalToken const& token : entry.alsoLegal) text.append(text.empty() ? "" : " ").append(token.text);
+    return text;
+}
+
+std::string jsonLine(std::string_view element, Xml::CatalogueEntry const& entry) {
+    Json line = {{"vocabulary", Xml::Catalogue::name(entry.vocabulary)},
+                 {"element", element},
+                 {"attribute", entry.attribute},
+                 {"kind", Xml::Catalogue::name(entry.kind)},
+                 {"valueType", entry.valueType},
+                 {"alsoLegal", tokensOf(entry)},
+                 {"defaultConstant", entry.defaultConstant},
+                 {"inherited", entry.isInherited},
+                 {"note", entry.note},
+                 {"presentation", entry.isPresentation},
+                 {"grammar", entry.grammar},
+                 {"initial", entry.initial}};
+    for (Xml::CatalogueEntry const* const longhand : entry.longhands) line["longhands"].push_back(longhand->attribute);
+    return line.dump() + "\n";
+}
+
+std::string textLine(std::string_view element, Xml::CatalogueEntry const& entry) {
+    std::string_view const type = entry.valueType.empty() ? Xml::Catalogue::name(entry.kind) : entry.valueType;
+    std::string const also = tokensOf(entry);
+    return trimmedLine(padded(Xml::Catalogue::name(entry.vocabulary), 3) + padded(element, 6) +
+                       padded(entry.attribute, 28) + padded(type, 24) +
+                       padded(entry.isInherited ? "inherited" : "", 9) + padded(entry.defaultConstant, 24) +
+                       (also.empty() ? "" : "also: " + also));
+}
+
 } // namespace
 
 int types(TypesOptions const& options) {
@@ -65,30 +115,12 @@ int properties(PropertiesOptions const& options) {
     Xml::AttributeType const* const type = options.type ? findNamedType(*options.type) : nullptr;
     if (options.type && !type) return 2;
     bool isAny = false;
-    for (Xml::CatalogueEntry const& entry : Xml::Catalogue::entries()) {
-        std::string_view const vocabulary = Xml::Catalogue::name(entry.vocabulary);
-        std::string_view const kind = Xml::Catalogue::name(entry.kind);
-        if ((options.vocabulary && options.vocabulary != entry.vocabulary) || (type && type->name != entry.valueType) ||
-            !contains(entry.attribute, options.name))
+    for (auto const& [element, entry] : rowsByElement()) {
+        if ((options.vocabulary && options.vocabulary != entry->vocabulary) || (type && type != entry->type()) ||
+            !contains(entry->attribute, options.name))
             continue;
         isAny = true;
-        if (options.format == OutputFormat::Json)
-            print(Json({{"vocabulary", vocabulary},
-                        {"element", entry.element},
-                        {"attribute", entry.attribute},
-                        {"kind", kind},
-                        {"valueType", entry.valueType},
-                        {"alsoLegal", entry.alsoLegal},
-                        {"defaultConstant", entry.defaultConstant},
-                        {"inherited", entry.inherited},
-                        {"note", entry.note}})
-                      .dump() +
-                  "\n");
-        else
-            print(trimmedLine(padded(vocabulary, 3) + padded(entry.element, 6) + padded(entry.attribute, 28) +
-                              padded(entry.valueType.empty() ? kind : entry.valueType, 24) +
-                              padded(entry.inherited ? "inherited" : "", 9) + padded(entry.defaultConstant, 24) +
-                              (entry.alsoLegal.empty() ? "" : "also: " + std::string(entry.alsoLegal))));
+        print(options.format == OutputFormat::Json ? jsonLine(element, *entry) : textLine(element, *entry));
     }
     flushOutput();
     return isAny ? 0 : nothingMatches();

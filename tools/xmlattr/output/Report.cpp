@@ -48,7 +48,7 @@ public:
             if (number == 0) return;
             reasons += (reasons.empty() ? " (" : ", ") + std::to_string(number).append(" ").append(why);
         };
-        reason(counts.noType, "without a value type");
+        reason(counts.untyped, "untyped");
         reason(counts.foreign, "of other vocabularies");
         reason(counts.tooLong, "too long");
         reason(counts.unread, "with an entity that is not read");
@@ -106,7 +106,7 @@ public:
                           {"identifiers", counts.identifiers},
                           {"texts", counts.texts},
                           {"notCovered",
-                           {{"noType", counts.noType},
+                           {{"untyped", counts.untyped},
                             {"foreign", counts.foreign},
                             {"tooLong", counts.tooLong},
                             {"unread", counts.unread},

@@ -1,14 +1,11 @@
 #include "xml/RawTag.h"
 
 #include "text/Text.h"
+#include "xmlattr/catalogue/legality/Words.h"
 
 namespace Command {
 
 namespace {
-
-bool isBlank(char32_t c) {
-    return c == U' ' || c == U'\t' || c == U'\n' || c == U'\r';
-}
 
 std::string toUtf8(std::u32string_view text) {
     std::string out;
@@ -40,16 +37,16 @@ char32_t codePointOf(std::u32string_view entity) {
 RawTag::RawTag(std::u32string tag, Place place) : text(std::move(tag)), start(place) {
     if (!text.starts_with(U'<')) text.clear(); // the reference to an entity that holds the element
     Cursor cursor{0, start};
-    auto const isName = [](char32_t c) { return !isBlank(c) && c != U'=' && c != U'/' && c != U'>'; };
+    auto const isName = [](char32_t c) { return !Xml::isXmlSpace(c) && c != U'=' && c != U'/' && c != U'>'; };
     skip(cursor, isName);
     for (;;) {
-        skip(cursor, [](char32_t c) { return isBlank(c) || c == U'/'; });
+        skip(cursor, [](char32_t c) { return Xml::isXmlSpace(c) || c == U'/'; });
         if (atEnd(cursor) || text[cursor.index] == U'>') return;
         Attribute attribute;
         attribute.name = cursor;
         skip(cursor, isName);
         std::size_t const nameEnd = cursor.index;
-        skip(cursor, [](char32_t c) { return isBlank(c) || c == U'='; });
+        skip(cursor, [](char32_t c) { return Xml::isXmlSpace(c) || c == U'='; });
         if (atEnd(cursor)) return;
         char32_t const quote = text[cursor.index];
         advance(cursor);
@@ -78,7 +75,7 @@ template <class Belongs> void RawTag::skip(Cursor& cursor, Belongs belongs) cons
 
 std::string RawTag::elementName() const {
     std::size_t end = 1;
-    while (end < text.size() && !isBlank(text[end]) && text[end] != U'/' && text[end] != U'>') ++end;
+    while (end < text.size() && !Xml::isXmlSpace(text[end]) && text[end] != U'/' && text[end] != U'>') ++end;
     return text.empty() ? std::string() : toUtf8(std::u32string_view(text).substr(1, end - 1));
 }
 

@@ -62,8 +62,8 @@ std::size_t countNumbers(std::u16string_view text) {
         std::size_t const length = numberLength(text);
         if (length == 0) return 0;
         ++count;
-        text = Core::trimStart(text.substr(length));
-        if (text.starts_with(u',')) text = Core::trimStart(text.substr(1));
+        text = trimXmlSpace(text.substr(length));
+        if (text.starts_with(u',')) text = trimXmlSpace(text.substr(1));
     }
     return count;
 }
@@ -97,12 +97,12 @@ bool isColor(std::u16string_view text, Accepts accepts) {
                });
     if (text.size() > opening.size() && Core::equalsNoCase(text.substr(0, opening.size()), opening) &&
         text.ends_with(u')')) {
-        text = Core::trim(text.substr(opening.size(), text.size() - opening.size() - 1));
+        text = trimXmlSpace(text.substr(opening.size(), text.size() - opening.size() - 1));
         bool const arePercentages = text.ends_with(u'%');
         for (int i = 0; i < 3; ++i) {
             std::size_t const end = i < 2 ? text.find(u',') : text.size();
             if (end == std::u16string_view::npos) return false;
-            std::u16string_view const part = Core::trim(text.substr(0, end));
+            std::u16string_view const part = trimXmlSpace(text.substr(0, end));
             if (!(arePercentages ? isNumberWith(part, u"%") : isInteger(part))) return false;
             text.remove_prefix(std::min(end + 1, text.size()));
         }
@@ -112,45 +112,66 @@ bool isColor(std::u16string_view text, Accepts accepts) {
     return isName && accepts(Core::String(text).toLower());
 }
 
-bool isOneOf(std::string_view token, CatalogueEntry const& entry, std::u16string_view text, Accepts accepts) {
-    if (!token.starts_with('<')) return equalsWord(text, token, entry.vocabulary == Vocabulary::Svg);
-    if (token == "<number>") return isNumber(text);
-    if (token == "<integer>") return isInteger(text);
-    if (token == "<percentage>") return isNumberWith(text, u"%");
-    if (token == "<angle>") return isAngle(text);
-    if (token == "<color>") return isColor(text, accepts);
-    if (token == "<uri>") return true;
-    if (token == "<language>") return isLanguage(text);
-    if (token == "<number>{4}") return countNumbers(text) == 4;
-    if (token == "<number>{2,}") return countNumbers(text) >= 2;
-    return false;
-}
+class Row {
+public:
+    Row(std::span<LegalToken const> tokens, Vocabulary vocabulary, Accepts accepts)
+        : tokens(tokens), ignoresCase(vocabulary == Vocabulary::Svg), accepts(accepts) {}
+
+    bool allows(std::u16string_view text) const {
+        return std::ranges::any_of(tokens, [&](LegalToken const& token) { return allows(token, text); });
+    }
+
+private:
+    bool allows(LegalToken const& token, std::u16string_view text) const {
+        switch (token.kind) {
+        case LegalToken::Kind::Word: return equalsWord(text, token.text, ignoresCase);
+        case LegalToken::Kind::Call: return endsWithCall(token.text.substr(0, token.text.find('(')), text);
+        case LegalToken::Kind::List: return isList(text);
+        case LegalToken::Kind::Number: return isNumber(text);
+        case LegalToken::Kind::FourNumbers: return countNumbers(text) == 4;
+        case LegalToken::Kind::SeveralNumbers: return countNumbers(text) >= 2;
+        case LegalToken::Kind::Integer: return isInteger(text);
+        case LegalToken::Kind::Percentage: return isNumberWith(text, u"%");
+        case LegalToken::Kind::Angle: return isAngle(text);
+        case LegalToken::Kind::Color: return isColor(text, accepts);
+        case LegalToken::Kind::Uri: return true;
+        case LegalToken::Kind::Language: return isLanguage(text);
+        }
+        return false;
+    }
+
+    // Whether the text is legal without a list or a call.
+    bool isLegalAlone(std::u16string_view text) const {
+        return accepts(text) || std::ranges::any_of(tokens, [&](LegalToken const& token) {
+                   return token.kind != LegalToken::Kind::Call && token.kind != LegalToken::Kind::List &&
+                          allows(token, text);
+               });
+    }
+
+    bool isList(std::u16string_view text) const {
+        auto const items = splitValues(text, u",");
+        return items.size() > 1 &&
+               std::ranges::all_of(items, [&](std::u16string_view item) { return isLegalAlone(item); });
+    }
+
+    bool endsWithCall(std::string_view name, std::u16string_view text) const {
+        auto const items = splitValues(text);
+        if (items.empty() || !items.back().ends_with(u')')) return false;
+        std::u16string_view const call = items.back();
+        if (!equalsWord(call.substr(0, call.find(u'(')), name)) return false;
+        std::u16string_view const before = trimXmlSpace(text.substr(0, text.size() - call.size()));
+        return before.empty() || isLegalAlone(before);
+    }
+
+    std::span<LegalToken const> tokens;
+    bool ignoresCase;
+    Accepts accepts;
+};
 
 } // namespace
 
-bool isAlsoLegal(CatalogueEntry const& entry, std::u16string_view text, Accepts accepts) {
-    std::vector<std::string_view> const tokens = splitWords(entry.alsoLegal);
-    auto const isLegalAlone = [&](std::u16string_view item) {
-        return accepts(item) || std::ranges::any_of(tokens, [&](std::string_view token) {
-                   return isOneOf(token, entry, item, accepts);
-               });
-    };
-    for (std::string_view const token : tokens) {
-        if (isOneOf(token, entry, text, accepts)) return true;
-        if (token == "<list>") {
-            auto const items = splitValues(text, true);
-            if (items.size() > 1 && std::ranges::all_of(items, isLegalAlone)) return true;
-        }
-        if (token.ends_with("()")) {
-            auto const items = splitValues(text);
-            if (items.empty() || !items.back().ends_with(u')')) continue;
-            std::u16string_view const call = items.back();
-            if (!equalsWord(call.substr(0, call.find(u'(')), token.substr(0, token.size() - 2))) continue;
-            std::u16string_view const before = Core::trim(text.substr(0, text.size() - call.size()));
-            if (before.empty() || isLegalAlone(before)) return true;
-        }
-    }
-    return false;
+bool isAlsoLegal(std::span<LegalToken const> tokens, Vocabulary vocabulary, std::u16string_view text, Accepts accepts) {
+    return Row(tokens, vocabulary, accepts).allows(text);
 }
 
 } // namespace Xml

@@ -189,7 +189,7 @@ bool isExpression(std::u16string_view text) {
 }
 
 bool isCopy(std::u16string_view text) {
-    return Parser(Core::trim(text)).wholeCopy();
+    return Parser(trimXmlSpace(text)).wholeCopy();
 }
 
 } // namespace Xml

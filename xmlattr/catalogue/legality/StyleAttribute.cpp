@@ -8,12 +8,19 @@ namespace Xml {
 
 namespace {
 
-constexpr std::string_view blanks = " \t\r\n\f";
+bool isBlank(char c) {
+    return isXmlSpace(static_cast<unsigned char>(c));
+}
+
+std::string_view trimStart(std::string_view text) {
+    while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
+    return text;
+}
 
 std::string_view trim(std::string_view text) {
-    std::size_t const first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos) return text.substr(0, 0);
-    return text.substr(first, text.find_last_not_of(blanks) + 1 - first);
+    text = trimStart(text);
+    while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
+    return text;
 }
 
 // The length of the string, the comment or the url() without quotation marks that may begin with
@@ -26,8 +33,8 @@ std::size_t tokenLength(std::string_view text) {
     if (text.starts_with('"') || text.starts_with('\'')) return through(text.substr(0, 1), 1);
     if (text.starts_with("/*")) return through("*/", 2);
     if (!equalsNoCase(text.substr(0, 4), "url(")) return 1;
-    std::size_t const first = text.find_first_not_of(blanks, 4);
-    bool const isString = first < text.size() && (text[first] == '"' || text[first] == '\'');
+    std::string_view const reference = trimStart(text.substr(4));
+    bool const isString = reference.starts_with('"') || reference.starts_with('\'');
     return isString ? 1 : through(")", 4);
 }
 
@@ -80,6 +87,11 @@ std::vector<Declaration> splitStyle(std::string_view text) {
         rest.remove_prefix(std::min(end + 1, rest.size()));
     }
     return declarations;
+}
+
+CatalogueEntry const* findProperty(Vocabulary vocabulary, std::string_view element, std::string_view property) {
+    CatalogueEntry const* const entry = Catalogue::find(vocabulary, element, toLower(property));
+    return entry && entry->isPresentation ? entry : nullptr;
 }
 
 } // namespace Xml

@@ -1,5 +1,8 @@
-// The style attribute of SVG: declarations of properties.
+// The style attribute of SVG, in UTF-8: declarations of properties, whose values are judged as Notation::Declaration.
 #pragma once
+
+#include "xmlattr/catalogue/Catalogue.h"
+#include "xmlattr/core/Export.h"
 
 #include <cstddef>
 #include <string>
@@ -15,10 +18,15 @@ struct Declaration {
 };
 
 // Writes blanks over the comments of a text, so that what is left keeps its offset.
-void blankComments(std::string& text);
+XMLATTR_API void blankComments(std::string& text);
 
 // Declarations stand between semicolons outside of strings, parentheses and URLs, as in CSS 2; there
-// are no comments any more. What has no colon is left out.
-std::vector<Declaration> splitStyle(std::string_view text);
+// are no comments any more. What has no colon is left out. Takes time linear in the text.
+XMLATTR_API std::vector<Declaration> splitStyle(std::string_view text);
+
+// The row of a property that is declared on an element, by its name in any case; null when the vocabulary has no such
+// property.
+XMLATTR_API CatalogueEntry const* findProperty(Vocabulary vocabulary, std::string_view element,
+                                               std::string_view property);
 
 } // namespace Xml

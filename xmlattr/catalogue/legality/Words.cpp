@@ -37,7 +37,8 @@ bool equalsWord(std::u16string_view text, std::string_view word, bool ignoreCase
     });
 }
 
-std::vector<std::u16string_view> splitValues(std::u16string_view text, bool commas) {
+std::vector<std::u16string_view> splitValues(std::u16string_view text, std::u16string_view separators,
+                                             std::u16string_view marks) {
     std::vector<std::u16string_view> values;
     std::size_t start = 0;
     int depth = 0;
@@ -56,22 +57,15 @@ std::vector<std::u16string_view> splitValues(std::u16string_view text, bool comm
             ++depth;
         } else if (unit == u')') {
             depth = std::max(depth - 1, 0);
-        } else if (depth == 0 && (isXmlSpace(unit) || (commas && unit == u','))) {
+        } else if (depth == 0 && marks.find(unit) != std::u16string_view::npos) {
+            take(i);
+            values.push_back(text.substr(i, 1));
+        } else if (depth == 0 && (isXmlSpace(unit) || separators.find(unit) != std::u16string_view::npos)) {
             take(i);
         }
     }
     take(text.size());
     return values;
-}
-
-std::vector<std::string_view> splitWords(std::string_view text) {
-    std::vector<std::string_view> words;
-    while (!text.empty()) {
-        std::size_t const end = std::min(text.find(' '), text.size());
-        if (end > 0) words.push_back(text.substr(0, end));
-        text.remove_prefix(std::min(end + 1, text.size()));
-    }
-    return words;
 }
 
 } // namespace Xml

@@ -8,8 +8,8 @@
 namespace Xml {
 
 // The white space of XML: space, tab, line feed and carriage return, nothing else.
-constexpr bool isXmlSpace(char16_t unit) {
-    return unit == u' ' || unit == u'\t' || unit == u'\n' || unit == u'\r';
+constexpr bool isXmlSpace(char32_t unit) {
+    return unit == U' ' || unit == U'\t' || unit == U'\n' || unit == U'\r';
 }
 
 std::u16string_view trimXmlSpace(std::u16string_view text);
@@ -21,11 +21,9 @@ bool equalsNoCase(std::string_view a, std::string_view b);
 // Whether the text is this ASCII word.
 bool equalsWord(std::u16string_view text, std::string_view word, bool ignoreCase = false);
 
-// The pieces between blanks, and between commas where `commas` says so, that stand outside of
-// parentheses and quotation marks. No piece is empty.
-std::vector<std::u16string_view> splitValues(std::u16string_view text, bool commas = false);
-
-// The ASCII words between blanks.
-std::vector<std::string_view> splitWords(std::string_view text);
+// The pieces of a value between white space that stand outside of parentheses and quotation marks. The units in
+// `separators` separate pieces like white space, those in `marks` are pieces of their own. No piece is empty.
+std::vector<std::u16string_view> splitValues(std::u16string_view text, std::u16string_view separators = {},
+                                             std::u16string_view marks = {});
 
 } // namespace Xml

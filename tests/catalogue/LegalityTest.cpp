@@ -1,0 +1,211 @@
+#include "Support.h"
+#include "xmlattr/catalogue/legality/AlsoLegal.h"
+#include "xmlattr/catalogue/legality/Expression.h"
+#include "xmlattr/catalogue/legality/Judge.h"
+#include "xmlattr/catalogue/legality/Shorthand.h"
+#include "xmlattr/catalogue/legality/StyleAttribute.h"
+
+#include <iterator>
+
+namespace Xml {
+namespace {
+
+std::vector<std::u16string_view> between(char16_t mark, std::u16string_view text) {
+    std::vector<std::u16string_view> pieces;
+    for (std::size_t end = 0; end != text.npos; text.remove_prefix(end + 1)) {
+        end = text.find(mark);
+        pieces.push_back(text.substr(0, end));
+        if (end == text.npos) break;
+    }
+    return pieces;
+}
+
+TEST(AlsoLegal, MatchesWordsAndKindsOfValues) {
+    struct Row {
+        Vocabulary vocabulary;
+        std::vector<char const*> also;
+        char16_t const *legal, *refused;
+    };
+    // Texts between bars; "x" and "y" are what the type accepts.
+    for (Row const& row : {
+             Row{Vocabulary::Fo, {"start", "end"}, u"start|end", u"Start|star||start end"},
+             Row{Vocabulary::Svg, {"currentColor"}, u"currentColor|CURRENTCOLOR", u"current"},
+             Row{Vocabulary::Fo, {"<number>"}, u"1|-1.5|+.5|1e3|1.", u"|.|1pt|1 2|1e"},
+             Row{Vocabulary::Fo, {"<integer>"}, u"1|-12", u"1.5|1e3|x1"},
+             Row{Vocabulary::Fo, {"<percentage>"}, u"5%|-.5%", u"5|%|5 %"},
+             Row{Vocabulary::Svg, {"<angle>"}, u"5|5deg|-1.5rad|400grad", u"deg|5turn|5 deg"},
+             Row{Vocabulary::Svg,
+                 {"<color>"},
+                 u"#abc|#ABCDEF|RGB( 1 , 2 ,3)|rgb(1%,2%, 3%)|X",
+                 u"#ab|#abcdeg|rgb(1,2)|rgb(1,2%,3)|rgb(1,2,3,4)|rgb(a,b,c)|rgb(|z"},
+             Row{Vocabulary::Svg, {"<language>"}, u"|de|zh-Hant-TW|x-klingon1", u"de-|toolongalanguage|d1|de_AT"},
+             Row{Vocabulary::Svg, {"<number>{4}"}, u"0 0 10 10|0,0,10,10|0 , 0 10-5", u"0 0 10|0 0 10 10 1|0 0 a b"},
+             Row{Vocabulary::Svg, {"<number>{2,}"}, u"1 2|1,2 3,4|10-20", u"1|1 a"},
+             Row{Vocabulary::Svg, {"all", "<list>"}, u"all|x all|all, x, y", u"x z|all z|x"},
+             Row{Vocabulary::Svg,
+                 {"auto", "icc()"},
+                 u"icc(a, 1)|x icc(a)|auto icc( a )",
+                 u"z icc(a)|icc|icc(a|icc(a) x"},
+         }) {
+        std::vector<LegalToken> tokens;
+        for (char const* const text : row.also) tokens.push_back(LegalToken::parse(text).value());
+        auto const accepts = [](std::u16string_view text) { return text == u"x" || text == u"y"; };
+        for (bool const isLegal : {true, false})
+            for (std::u16string_view const text : between(u'|', isLegal ? row.legal : row.refused))
+                EXPECT_EQ(isAlsoLegal(tokens, row.vocabulary, text, accepts), isLegal) << narrow(text);
+    }
+}
+
+TEST(LegalToken, KnowsNoOtherText) {
+    for (char const* const text : {"<nubmer>", "<number", "<number>{3}", "<LIST>", "au to", "", "()", "rect(", "a1"})
+        EXPECT_FALSE(LegalToken::parse(text)) << text;
+}
+
+TEST(Expression, IsMoreThanAValue) {
+    for (char16_t const* const text :
+         {u"1em + 2pt", u"5 mod 3 * 7.5pt", u"(5cm * 1cm) div 2cm", u"abs(-30cm + .3cm)", u"from-parent( font-size )",
+          u"inherited-property-value()", u"2.5cm -3pt", u"max(1pt,min(2pt, 3%))", u"- (1pt)", u"label-end() - 1pt",
+          u"rgb-icc(0, 0, 0, 'profile', 1)", u"1pt+1pt", u"from-parent(space-before.optimum)",
+          u"inherited-property-value( keep-together.within-line ) div 2"})
+        EXPECT_TRUE(isExpression(text)) << narrow(text);
+    for (char16_t const* const text : {u"", u"12pt", u"-1pt", u"12 q", u"1em + ", u"1em 2pt", u"+", u"(1pt", u"1pt)",
+                                       u"round()", u"round(1,2)", u"rgb(1,2)", u"from-parrent(color)", u"even-page",
+                                       u"5modx 3", u"'a' 'b'", u"'a", u"from-parent(.a)", u"from-parent(a.b c)"})
+        EXPECT_FALSE(isExpression(text)) << narrow(text);
+    EXPECT_FALSE(isExpression(std::u16string(1'000'000, u'('))) << "nesting has a limit";
+    EXPECT_TRUE(isCopy(u" from-parent(break-before) "));
+    EXPECT_TRUE(isCopy(u"from-parent(keep-together.within-page)"));
+    EXPECT_FALSE(isCopy(u"from-parent() + 1"));
+    EXPECT_FALSE(isCopy(u"round(1)")) << "no keyword comes from there";
+}
+
+TEST(Shorthand, SplitsBetweenBlanksAndKeepsExpressions) {
+    struct Row {
+        char16_t const* text;
+        std::vector<std::u16string_view> parts;
+    };
+    for (Row const& row : {Row{u" 1pt  solid rgb(1, 2, 3)", {u"1pt", u"solid", u"rgb(1, 2, 3)"}},
+                           Row{u"3mm + 1mm 3mm", {u"3mm + 1mm", u"3mm"}}, Row{u"1 div 2 mod 3", {u"1 div 2 mod 3"}},
+                           Row{u"12pt 'a b' (c", {u"12pt", u"'a b'", u"(c"}}, Row{u" ", {}}})
+        EXPECT_EQ(splitParts(row.text), row.parts) << narrow(row.text);
+}
+
+TEST(Shorthand, LetsTheTypesOfItsPartsRead) {
+    struct Row {
+        Vocabulary vocabulary;
+        char const* attribute;
+        char16_t const* text;
+        Verdict verdict;
+        char const* wrong = ""; // the refused part, or what is wrong with the whole
+    };
+    using enum Verdict;
+    for (Row const& row : {
+             Row{Vocabulary::Fo, "border", u"red 1pt + 1pt dashed", Read},
+             Row{Vocabulary::Fo, "border", u"1q solid red", Refused, "1q"},
+             Row{Vocabulary::Fo, "border", u"inherit", PassedOver},
+             Row{Vocabulary::Fo, "border", u"from-parent(border)", PassedOver},
+             Row{Vocabulary::Fo, "border", u" ", Refused, "is empty"},
+             Row{Vocabulary::Fo, "background", u"url(a b.png) no-repeat fixed center", Read},
+             Row{Vocabulary::Fo, "background", u"puce", Refused, "puce"},
+             Row{Vocabulary::Fo, "margin", u"auto 1pt 2pt 3pt", Read},
+             Row{Vocabulary::Fo, "margin", u"1pt 2pt 3pt 4pt 5pt", Refused, "has more than 4 parts"},
+             Row{Vocabulary::Fo, "vertical-align", u"middle", PassedOver},
+             Row{Vocabulary::Fo, "position", u"fixed", Read},
+             Row{Vocabulary::Fo, "size", u"21cm 29.7cm", Read},
+             Row{Vocabulary::Fo, "white-space", u"pre", NotCovered},
+             Row{Vocabulary::Fo, "font", u"italic bold 12pt/14pt 'A', serif", Read},
+             Row{Vocabulary::Fo, "font", u"12pt / 120% serif", Read},
+             Row{Vocabulary::Fo, "font", u"caption", PassedOver},
+             Row{Vocabulary::Fo, "font", u"bold huge serif", Refused, "huge"},
+             Row{Vocabulary::Fo, "font", u"12pt/high serif", Refused, "high"},
+             Row{Vocabulary::Fo, "font", u"12pt", Refused, "has no font family"},
+             Row{Vocabulary::Fo, "font", u"bold", Refused, "has no font size"},
+             Row{Vocabulary::Svg, "font", u"12/14 serif", Read},
+             Row{Vocabulary::Svg, "marker", u"url(#a)", Read},
+         }) {
+        Judgement const judgement = judge(row.vocabulary, "*", row.attribute, row.text);
+        EXPECT_EQ(judgement.verdict, row.verdict) << row.attribute << ": " << narrow(row.text);
+        EXPECT_EQ(narrow(judgement.part) + judgement.problem, row.wrong) << row.attribute << ": " << narrow(row.text);
+    }
+}
+
+TEST(Judge, TellsWhatIsLegalByNames) {
+    struct Row {
+        Vocabulary vocabulary;
+        char const *element, *attribute;
+        char16_t const* text;
+        Verdict verdict;
+        Notation notation = Notation::Attribute;
+    };
+    using enum Verdict;
+    using enum Notation;
+    for (Row const& row : {
+             Row{Vocabulary::Fo, "block", "span", u"all", Read},
+             Row{Vocabulary::Fo, "block", "span", u"al", Refused},
+             Row{Vocabulary::Fo, "block", "span", u"\tinherit\r\n", PassedOver},
+             Row{Vocabulary::Fo, "block", "span", u"inherit\u00A0", Refused},
+             Row{Vocabulary::Fo, "block", "span", u"\finherit", Refused},
+             Row{Vocabulary::Fo, "block", "span", u"from-parent(span)\u00A0", Refused},
+             Row{Vocabulary::Fo, "block", "border", u"inherit\u00A0", Refused},
+             Row{Vocabulary::Fo, "block", "span", u"INHERIT", Refused},
+             Row{Vocabulary::Fo, "block", "start-indent", u"1pt + 1em", PassedOver},
+             Row{Vocabulary::Fo, "block", "span", u"1 + 1", Refused},
+             Row{Vocabulary::Fo, "block", "space-before", u"-0.0", PassedOver},
+             Row{Vocabulary::Fo, "block", "orphans", u"-0.0", Refused},
+             Row{Vocabulary::Fo, "table", "width", u"auto", PassedOver},
+             Row{Vocabulary::Fo, "block", "id", u"", FreeText},
+             Row{Vocabulary::Fo, "block", "writing-mode", u"lr-tb", NotCovered},
+             Row{Vocabulary::Fo, "block", "widht", u"1pt", NotCovered},
+             Row{Vocabulary::Svg, "svg", "viewBox", u"0,0,9,9", PassedOver},
+             Row{Vocabulary::Svg, "svg", "viewBox", u"0,0,9,9\u00A0", Refused},
+             Row{Vocabulary::Svg, "path", "stroke-dasharray", u"\n none", PassedOver},
+             Row{Vocabulary::Svg, "path", "stroke-dasharray", u"\u00A0none", Refused},
+             Row{Vocabulary::Svg, "g", "fill", u"RED", Read},
+             Row{Vocabulary::Svg, "g", "stroke-linecap", u"BUTT", Refused},
+             Row{Vocabulary::Svg, "g", "stroke-linecap", u"BUTT", PassedOver, Declaration},
+             Row{Vocabulary::Svg, "g", "Stroke-Linecap", u"butt", Read, Declaration},
+             Row{Vocabulary::Svg, "g", "stroke-linecap", u"but", Refused, Declaration},
+             Row{Vocabulary::Svg, "g", "width", u"1", NotCovered, Declaration},
+         })
+        EXPECT_EQ(judge(row.vocabulary, row.element, row.attribute, row.text, row.notation).verdict, row.verdict)
+            << row.attribute << ": " << narrow(row.text);
+}
+
+TEST(Judge, GivesTheReason) {
+    std::u16string const text = u"1pt solid rde";
+    Judgement const part = judge(Vocabulary::Fo, "block", "border", text);
+    EXPECT_EQ(part.part.data() - text.data(), 10);
+    EXPECT_EQ(part.part, u"rde");
+    ASSERT_EQ(part.tried.size(), 3u);
+    EXPECT_EQ(part.tried[0], Catalogue::find(Vocabulary::Fo, "*", "border-top-width")->type());
+    Judgement const whole = judge(Vocabulary::Fo, "block", "span", u"al");
+    EXPECT_EQ(whole.part, u"");
+    ASSERT_EQ(whole.tried.size(), 1u);
+    EXPECT_EQ(whole.tried[0], Catalogue::find(Vocabulary::Fo, "*", "span")->type());
+    EXPECT_EQ(judge(Vocabulary::Svg, "g", "font", u"BALD 1px A", Notation::Declaration).part, u"BALD");
+}
+
+TEST(StyleAttribute, SplitsDeclarations) {
+    std::string text = "fill : red;;/* a; */stroke:url(a;b) ! important; font:'x;/*y' 3px;junk;;x:;"
+                       "Y:url( 'a)/*;' ) /* ) */ !Important;z:url(//a/*b);w:1/**/2/*";
+    blankComments(text);
+    auto const declarations = splitStyle(text);
+    struct Row {
+        char const *property, *value;
+    };
+    Row const rows[] = {{"fill", "red"},         {"stroke", "url(a;b)"}, {"font", "'x;/*y' 3px"}, {"x", ""},
+                        {"Y", "url( 'a)/*;' )"}, {"z", "url(//a/*b)"},   {"w", "1    2"}};
+    ASSERT_EQ(declarations.size(), std::size(rows));
+    for (std::size_t i = 0; i < std::size(rows); ++i) {
+        EXPECT_EQ(declarations[i].property, rows[i].property);
+        EXPECT_EQ(declarations[i].value, rows[i].value);
+        EXPECT_EQ(text.substr(declarations[i].offset, 1), std::string_view(rows[i].property).substr(0, 1));
+    }
+    for (std::string open : {"", "/*", "a:/*", "'", "a:'", "a:(", ";", "/", "a:url(", "a:url( '", "a:!"}) {
+        blankComments(open);
+        splitStyle(open);
+    }
+}
+
+} // namespace
+} // namespace Xml
