@@ -1,0 +1,258 @@
+#include "xmlattr/catalogue/grammar/Agrees.h"
+
+#include "xmlattr/catalogue/legality/Words.h"
+#include "xmlattr/measures/LengthUnits.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+namespace Xml {
+
+namespace {
+
+bool isNear(float a, float b) {
+    constexpr float rounding = 1e-6f;
+    return a == b || std::abs(a - b) <= rounding * std::max(std::abs(a), std::abs(b));
+}
+
+// The unit in the spelling of the recommendations; pixels are the user units of SVG.
+bool isUnit(std::u16string_view written, std::u16string_view held) {
+    return Core::equalsNoCase(written == u"" ? u"px" : written, held == u"" ? u"px" : held);
+}
+
+bool isWord(Meaning const& meaning, std::string_view word) {
+    return meaning.size() == 1 && meaning[0].kind == ItemKind::Word && equalsWord(meaning[0].text, word, true);
+}
+
+// The one number of the text; null for a word.
+Item const* numberOf(Meaning const& meaning) {
+    return meaning.size() == 1 && meaning[0].kind == ItemKind::Number ? &meaning[0] : nullptr;
+}
+
+bool agreesWith(Item const& item, int r, int g, int b) {
+    auto const isClose = [&](int held, int shift) {
+        return std::abs(held - static_cast<int>(item.rgb >> shift & 0xFF)) <= static_cast<int>(item.number);
+    };
+    return isClose(r, 16) && isClose(g, 8) && isClose(b, 0);
+}
+
+bool agreesWith(Item const& item, SmartPtr<Drawing::Color> const& color) {
+    if (item.kind != ItemKind::Color) return true;
+    if (!color) return false;
+    if (auto const* const rgb = dynamic_cast<Drawing::RGBColor const*>(&*color))
+        return agreesWith(item, rgb->getR(), rgb->getG(), rgb->getB());
+    if (auto const* const icc = dynamic_cast<Drawing::ICCColor const*>(&*color))
+        return agreesWith(item, icc->getFallBackR(), icc->getFallBackG(), icc->getFallBackB());
+    return false;
+}
+
+bool refersTo(Item const& item, std::u16string_view reference) {
+    return item.kind != ItemKind::Uri || item.text == reference;
+}
+
+bool agreesWith(Item const& item, SColor const& paint) {
+    switch (item.kind) {
+    case ItemKind::Color: return paint.getType() == SColor::Color && agreesWith(item, paint.getColor());
+    case ItemKind::Uri: return paint.getType() == SColor::Url && refersTo(item, paint.getUrl());
+    case ItemKind::Word:
+        return (paint.getType() == SColor::None) == (equalsWord(item.text, "none", true) ||
+                                                     equalsWord(item.text, "transparent", true));
+    case ItemKind::Number:
+    case ItemKind::Length:
+    case ItemKind::Percentage:
+    case ItemKind::Angle:
+    case ItemKind::Time:
+    case ItemKind::Frequency:
+    case ItemKind::Text: break;
+    }
+    return true;
+}
+
+} // namespace
+
+Held heldOf(float number) {
+    return {ItemKind::Number, number, {}};
+}
+
+Held heldOf(FloatOrPercent const& number) {
+    return heldOf(number.getValue());
+}
+
+Held heldOf(Length const& length) {
+    switch (length.getUnit()) {
+    case Length::Px: return {ItemKind::Length, length.getSize(), u"px"};
+    case Length::Pt: return {ItemKind::Length, length.getSize(), u"pt"};
+    case Length::Pc: return {ItemKind::Length, length.getSize(), u"pc"};
+    case Length::Cm: return {ItemKind::Length, length.getSize(), u"cm"};
+    case Length::Mm: return {ItemKind::Length, length.getSize(), u"mm"};
+    case Length::In: return {ItemKind::Length, length.getSize(), u"in"};
+    case Length::Em: return {ItemKind::Length, length.getSize(), u"em"};
+    case Length::Ex: return {ItemKind::Length, length.getSize(), u"ex"};
+    }
+    return {};
+}
+
+Held heldOf(SLength const& length) {
+    switch (length.getUnit()) {
+    case SLength::UserUnit: return {ItemKind::Length, length.getSize(), {}};
+    case SLength::Pt: return {ItemKind::Length, length.getSize(), u"pt"};
+    case SLength::Cm: return {ItemKind::Length, length.getSize(), u"cm"};
+    case SLength::Mm: return {ItemKind::Length, length.getSize(), u"mm"};
+    case SLength::In: return {ItemKind::Length, length.getSize(), u"in"};
+    case SLength::Em: return {ItemKind::Length, length.getSize(), u"em"};
+    case SLength::Ex: return {ItemKind::Length, length.getSize(), u"ex"};
+    case SLength::Pc: return {ItemKind::Length, length.getSize(), u"pc"};
+    case SLength::Percent: return {ItemKind::Percentage, length.getSize() * 100, u"%"};
+    }
+    return {};
+}
+
+bool agrees(Item const& item, Held const& held) {
+    bool const isPercentage = held.kind == ItemKind::Percentage;
+    switch (item.kind) {
+    case ItemKind::Number:
+        if (isPercentage) return isNear(item.number * 100, held.number);
+        return isNear(item.number, held.number) && (held.kind == ItemKind::Number || held.unit.empty());
+    case ItemKind::Length:
+        // A bare length of SVG may be held as a plain number.
+        if (isPercentage) return item.number == 0 && held.number == 0;
+        return isNear(item.number, held.number) &&
+               (item.number == 0 || isUnit(item.unit, held.kind == ItemKind::Number ? u"" : held.unit));
+    case ItemKind::Percentage:
+        return isNear(item.number, held.kind == ItemKind::Number ? held.number * 100 : held.number) &&
+               (isPercentage || held.kind == ItemKind::Number);
+    case ItemKind::Angle:
+    case ItemKind::Time:
+    case ItemKind::Frequency:
+        return isNear(item.number, held.number) && (item.unit.empty() || item.unit == u"deg" || item.unit == u"s");
+    case ItemKind::Word:
+    case ItemKind::Color:
+    case ItemKind::Uri:
+    case ItemKind::Text: break;
+    }
+    return true;
+}
+
+bool agrees(Meaning const& meaning, std::initializer_list<Held> held) {
+    bool const isWord = std::ranges::any_of(meaning.values(), [](Item const& item) { return item.kind == ItemKind::Word; });
+    return isWord || std::ranges::equal(meaning.values(), held,
+                                        [](Item const& item, Held const& value) { return agrees(item, value); });
+}
+
+bool agrees(Meaning const& meaning, Keep keep) {
+    Item const* const strength = numberOf(meaning);
+    return !strength || agrees(*strength, heldOf(static_cast<float>(keep)));
+}
+
+bool agrees(Meaning const& meaning, MaxRepeats repeats) {
+    Item const* const count = numberOf(meaning);
+    return count ? agrees(*count, heldOf(static_cast<float>(repeats))) : repeats == MaxRepeats::NoLimit;
+}
+
+bool agrees(Meaning const& meaning, ReferenceOrientation orientation) {
+    if (meaning.size() != 1 || meaning[0].kind == ItemKind::Word) return true;
+    constexpr float turn = 360;
+    float const degrees = std::fmod(meaning[0].number + turn, turn);
+    return degrees == static_cast<float>(orientation) * 90;
+}
+
+bool agrees(Meaning const& meaning, ThreeState state) {
+    if (isWord(meaning, "true")) return state == ThreeState::True;
+    if (isWord(meaning, "false")) return state == ThreeState::False;
+    return state == ThreeState::Other;
+}
+
+bool agrees(Meaning const& meaning, DLength const& lengths) {
+    Held const first = heldOf(lengths.getFirst()), second = heldOf(lengths.getSecond());
+    return meaning.size() == 1 ? first == second && agrees(meaning, {first}) : agrees(meaning, {first, second});
+}
+
+bool agrees(Meaning const& meaning, Drawing::RectF const& rectangle) {
+    float const sides[] = {rectangle.getTop(), rectangle.getRight(), rectangle.getBottom(), rectangle.getLeft()};
+    return std::ranges::equal(meaning.values(), sides, [](Item const& item, float side) {
+        auto const* const row =
+            std::ranges::find_if(lengthUnitRows, [&](auto const& unit) { return isUnit(item.unit, unit.suffix); });
+        return row != std::end(lengthUnitRows) && isNear(row->toPixels.of(item.number), side);
+    });
+}
+
+bool agrees(Meaning const& meaning, ViewBox const& box) {
+    return agrees(meaning, {heldOf(box.x), heldOf(box.y), heldOf(box.width), heldOf(box.height)});
+}
+
+bool agrees(Meaning const& meaning, Core::Vector<SLength> const& lengths) {
+    if (isWord(meaning, "none")) return lengths.empty();
+    return std::ranges::equal(meaning.values(), lengths,
+                              [](Item const& item, SLength const& length) { return agrees(item, heldOf(length)); });
+}
+
+bool agrees(Meaning const& meaning, SmartPtr<Drawing::Color> const& color) {
+    return std::ranges::all_of(meaning.values(), [&](Item const& item) { return agreesWith(item, color); });
+}
+
+bool agrees(Meaning const& meaning, SColor const& paint) {
+    // The paint after a reference is for readers that do not find what it refers to.
+    return !meaning.empty() && agreesWith(meaning[0], paint);
+}
+
+bool agrees(Meaning const& meaning, STextShadow const& shadow) {
+    Held const held[] = {heldOf(shadow.getDx()), heldOf(shadow.getDy()), heldOf(shadow.getBlurRadius())};
+    std::size_t lengths = 0, colors = 0;
+    for (Item const& item : meaning.values()) {
+        if (item.kind == ItemKind::Length) {
+            if (lengths == std::size(held) || !agrees(item, held[lengths])) return false;
+            ++lengths;
+        } else if (item.kind == ItemKind::Color) {
+            if (++colors > 1 || !agreesWith(item, shadow.getColor())) return false;
+        }
+    }
+    return true;
+}
+
+bool agrees(Meaning const& meaning, STextDecoration const& decoration) {
+    auto const has = [&](std::string_view line) {
+        return std::ranges::any_of(meaning.values(), [&](Item const& item) { return equalsWord(item.text, line, true); });
+    };
+    return has("underline") == decoration.isUnderline() && has("overline") == decoration.isOverline() &&
+           has("line-through") == decoration.isLineThrough();
+}
+
+bool agrees(Meaning const& meaning, SPreserveAspectRatio const& ratio) {
+    constexpr int none = 1, meet = 2, slice = 4;
+    constexpr int alignment = 8;
+    constexpr std::string_view positions[] = {"Min", "Mid", "Max"};
+    int expected = 0;
+    bool isSlice = false;
+    for (Item const& item : meaning.values()) {
+        if (equalsWord(item.text, "none")) return (ratio.getAspectRatio() & none) != 0;
+        isSlice = isSlice || equalsWord(item.text, "slice");
+        if (item.text.size() != 8) continue; // as long as xMidYMid
+        for (int i = 0; i < 3; ++i) {
+            if (equalsWord(item.text.substr(1, 3), positions[i])) expected |= alignment << i;
+            if (equalsWord(item.text.substr(5, 3), positions[i])) expected |= alignment << (3 + i);
+        }
+    }
+    return ratio.getAspectRatio() == (expected | (isSlice ? slice : meet));
+}
+
+bool agrees(Meaning const& meaning, TextAlign const& align) {
+    bool const isString = meaning.size() == 1 && meaning[0].kind == ItemKind::Text;
+    return isString == (align.getType() == TextAlignType::AlignmentString);
+}
+
+bool agrees(Meaning const& meaning, InitialPageNumber const& number) {
+    Item const* const page = numberOf(meaning);
+    if (!page) return number.getType() != InitialPageNumberType::Number;
+    return number.getType() == InitialPageNumberType::Number && agrees(*page, heldOf(static_cast<float>(number.getNumber())));
+}
+
+bool agrees(Meaning const& meaning, ForcePageCount const& count) {
+    return isWord(meaning, "auto") == (count.getType() == ForcePageCountType::Auto);
+}
+
+bool agrees(Meaning const& meaning, Url const& url) {
+    return std::ranges::all_of(meaning.values(), [&](Item const& item) { return refersTo(item, url.getUrl()); });
+}
+
+} // namespace Xml

@@ -1,0 +1,97 @@
+// Whether what a value type made of a text is what the text means.
+#pragma once
+
+#include "xmlattr/catalogue/grammar/Meaning.h"
+
+#include "xmlattr/xmlattr.h"
+
+#include <initializer_list>
+
+namespace Xml {
+
+// One value as a value type holds it, in the terms of an Item.
+struct Held {
+    ItemKind kind = ItemKind::Word;
+    float number = 0;
+    std::u16string_view unit{}; // in the spelling of its recommendation
+    bool operator==(Held const&) const = default;
+};
+
+Held heldOf(float number);
+Held heldOf(FloatOrPercent const& number);
+Held heldOf(Length const& length);
+Held heldOf(SLength const& length);
+
+template <class LengthType> Held heldOf(MeasureOrPercent<LengthType> const& measure) {
+    return measure.isPercent() ? Held{ItemKind::Percentage, measure.getPercent() * 100} : heldOf(measure.getLength());
+}
+
+// Whether one value of a text is the one that is held: numbers in single precision, give or take the rounding of a
+// percentage to its fraction; a length of 0 whatever its unit; a bare number as pixels, as a fraction (1.5 is 150%)
+// or as degrees. A word is what the type makes of it.
+bool agrees(Item const& item, Held const& held);
+// The same for every value of the text: the held ones in their order, with nothing left over on either side.
+bool agrees(Meaning const& meaning, std::initializer_list<Held> held);
+
+// The types that hold a measure or one of a few words.
+template <class T> concept HoldsMeasure = requires(T const& value) { heldOf(value); };
+template <class T> concept HoldsLengthOrPercent = requires(T const& value) { heldOf(value.getLengthOrPercent()); };
+template <class T> concept HoldsLength = requires(T const& value) { heldOf(value.getLength()); };
+template <class T> concept HoldsSLength = requires(T const& value) { heldOf(value.getSLength()); };
+template <class T> concept HoldsAbsoluteSize = requires(T const& value) { heldOf(value.getAbsoluteSize()); };
+template <class T> concept HoldsAbsoluteStretch = requires(T const& value) { heldOf(value.getAbsoluteStretch()); };
+
+// Every overload: whether a value type, having accepted the text, holds what it means. It does where the text is a
+// word, but for the types that accept every text and might have missed the word.
+
+template <class T>
+    requires HoldsMeasure<T> || HoldsLengthOrPercent<T> || HoldsLength<T> || HoldsSLength<T> || HoldsAbsoluteSize<T> ||
+             HoldsAbsoluteStretch<T>
+bool agrees(Meaning const& meaning, T const& value) {
+    if constexpr (HoldsMeasure<T>)
+        return agrees(meaning, {heldOf(value)});
+    else if constexpr (HoldsLengthOrPercent<T>)
+        return agrees(meaning, {heldOf(value.getLengthOrPercent())});
+    else if constexpr (HoldsLength<T>)
+        return agrees(meaning, {heldOf(value.getLength())});
+    else if constexpr (HoldsSLength<T>)
+        return agrees(meaning, {heldOf(value.getSLength())});
+    else if constexpr (HoldsAbsoluteSize<T>)
+        return agrees(meaning, {heldOf(value.getAbsoluteSize())});
+    else
+        return agrees(meaning, {heldOf(value.getAbsoluteStretch())});
+}
+
+// A legal word that an enumeration accepts is its own.
+template <KeywordEnumeration E> bool agrees(Meaning const&, E) {
+    return true;
+}
+// Those that read numbers, or accept every text.
+bool agrees(Meaning const& meaning, Keep keep);
+bool agrees(Meaning const& meaning, MaxRepeats repeats);
+bool agrees(Meaning const& meaning, ReferenceOrientation orientation);
+bool agrees(Meaning const& meaning, ThreeState state);
+
+bool agrees(Meaning const& meaning, DLength const& lengths);
+bool agrees(Meaning const& meaning, Drawing::RectF const& rectangle);
+bool agrees(Meaning const& meaning, ViewBox const& box);
+bool agrees(Meaning const& meaning, Core::Vector<SLength> const& lengths);
+bool agrees(Meaning const& meaning, SmartPtr<Drawing::Color> const& color);
+bool agrees(Meaning const& meaning, SColor const& paint);
+bool agrees(Meaning const& meaning, STextShadow const& shadow);
+bool agrees(Meaning const& meaning, STextDecoration const& decoration);
+bool agrees(Meaning const& meaning, SPreserveAspectRatio const& ratio);
+bool agrees(Meaning const& meaning, TextAlign const& align);
+bool agrees(Meaning const& meaning, InitialPageNumber const& number);
+bool agrees(Meaning const& meaning, ForcePageCount const& count);
+bool agrees(Meaning const& meaning, Url const& url);
+
+// They keep the text, or know a few tags and refuse all others: legal is enough.
+inline bool agrees(Meaning const&, Core::String const&) {
+    return true;
+}
+inline bool agrees(Meaning const&, Language const&) {
+    return true;
+}
+
+} // namespace Xml

@@ -1,0 +1,153 @@
+#include "xmlattr/catalogue/grammar/NewerRecommendation.h"
+
+#include "xmlattr/catalogue/legality/Words.h"
+#include "xmlattr/core/Text.h"
+
+#include <algorithm>
+
+namespace Xml {
+
+namespace {
+
+// The words between blanks are of the recommendation; those of colours and units are in CSS Color and CSS Values.
+struct Words {
+    std::string_view recommendation, words;
+};
+
+constexpr Words newWords[] = {
+    {"SVG 2", "context-fill context-stroke context-value auto-start-reverse arcs miter-clip fill-box stroke-box "
+              "view-box non-scaling-stroke non-scaling-size non-rotation fixed-position"},
+    {"CSS 2.1", "inline-block pre-line pre-wrap"},
+    {"CSS 3", "initial unset content-box border-box padding-box margin-box horizontal-tb vertical-rl vertical-lr "
+              "sideways upright isolate isolate-override plaintext match-parent justify-all max-content min-content "
+              "fit-content flex inline-flex grid inline-grid contents flow-root overlay color-dodge color-burn "
+              "hard-light soft-light difference exclusion hue saturation luminosity wavy not-allowed "
+              "no-drop grab grabbing zoom-in zoom-out context-menu cell vertical-text alias copy all-scroll "
+              "col-resize row-resize ew-resize ns-resize nesw-resize nwse-resize break-word"},
+    {"CSS 4", "revert revert-layer rebeccapurple xxx-large break-spaces plus-lighter"},
+};
+
+constexpr Words newFunctions[] = {
+    {"SVG 2", "child"},
+    {"CSS 3", "rgba hsl hsla calc var linear-gradient radial-gradient repeating-linear-gradient "
+              "repeating-radial-gradient blur brightness contrast drop-shadow grayscale hue-rotate invert opacity "
+              "saturate sepia translateX translateY translateZ translate3d scaleX scaleY scaleZ scale3d rotateX "
+              "rotateY rotateZ rotate3d skew matrix3d perspective circle ellipse polygon inset path"},
+    {"CSS 4", "hwb lab lch oklab oklch color color-mix device-cmyk light-dark clamp env conic-gradient "
+              "repeating-conic-gradient image-set cross-fade"},
+};
+// XSL-FO has functions of these names.
+constexpr Words newSvgFunctions[] = {{"CSS 4", "min max round mod rem abs"}};
+// Those of SVG 1.1 take plain numbers.
+constexpr std::string_view transforms = "translate scale rotate skewX skewY";
+
+constexpr Words newUnits[] = {
+    {"CSS 3", "rem vw vh vmin vmax ch q turn dpi dpcm dppx fr"},
+    {"CSS 4", "lh rlh vi vb ic cap rex rch ric rcap svw svh lvw lvh dvw dvh"},
+};
+
+bool hasWord(std::string_view words, std::u16string_view word) {
+    while (!words.empty()) {
+        std::string_view const known = words.substr(0, words.find(' '));
+        if (equalsWord(word, known, true)) return true;
+        words.remove_prefix(std::min(known.size() + 1, words.size()));
+    }
+    return false;
+}
+
+template <std::size_t count> std::string_view find(Words const (&tables)[count], std::u16string_view word) {
+    for (Words const& table : tables)
+        if (hasWord(table.words, word)) return table.recommendation;
+    return {};
+}
+
+bool belongsToWord(char16_t unit) {
+    char16_t const lower = Core::toLower(unit);
+    return (lower >= u'a' && lower <= u'z') || Core::isDigit(unit) || unit == u'-' || unit == u'_' || unit >= 0x80;
+}
+
+class Scanner {
+public:
+    Scanner(Vocabulary vocabulary, std::u16string_view text) : isSvg(vocabulary == Vocabulary::Svg), text(text) {}
+
+    std::string_view find() {
+        while (index < text.size()) {
+            char16_t const unit = text[index];
+            std::string_view found;
+            if (unit == u'"' || unit == u'\'') {
+                index = std::min(text.find(unit, index + 1), text.size() - 1) + 1;
+            } else if (unit == u'#') {
+                ++index;
+                found = color(takeWord());
+            } else if (Core::isDigit(unit)) {
+                found = number();
+            } else if (belongsToWord(unit)) {
+                found = word(takeWord());
+            } else {
+                if (unit == u')') isTransform = false;
+                ++index;
+            }
+            if (!found.empty()) return found;
+        }
+        return {};
+    }
+
+private:
+    std::u16string_view takeWord() {
+        std::size_t const first = index;
+        while (index < text.size() && belongsToWord(text[index])) ++index;
+        return text.substr(first, index - first);
+    }
+
+    static std::string_view color(std::u16string_view digits) {
+        bool const hasAlpha = (digits.size() == 4 || digits.size() == 8) &&
+                              std::ranges::all_of(digits, [](char16_t unit) { return Core::hexDigit(unit) >= 0; });
+        return hasAlpha ? "CSS 4" : "";
+    }
+
+    std::string_view number() {
+        while (index < text.size() && (Core::isDigit(text[index]) || text[index] == u'.')) ++index;
+        bool const isPercentage = index < text.size() && text[index] == u'%';
+        std::u16string_view const unit = takeWord();
+        bool const isExponent = unit.size() > 1 && Core::toLower(unit[0]) == u'e' && !belongsToUnit(unit[1]);
+        if (isTransform && (isPercentage || (!unit.empty() && belongsToUnit(unit[0]) && !isExponent))) return "CSS 3";
+        return Xml::find(newUnits, unit);
+    }
+
+    static bool belongsToUnit(char16_t unit) { return Core::toLower(unit) >= u'a' && Core::toLower(unit) <= u'z'; }
+
+    std::string_view word(std::u16string_view word) {
+        if (index == text.size() || text[index] != u'(')
+            return word == u"currentcolor" ? "CSS 4" : Xml::find(newWords, word);
+        if (equalsWord(word, "url", true)) {
+            index = std::min(text.find(u')', index), text.size());
+            return {};
+        }
+        if (equalsWord(word, "rgb", true)) return components();
+        isTransform = isSvg && hasWord(transforms, word);
+        std::string_view const found = Xml::find(newFunctions, word);
+        return found.empty() && isSvg ? Xml::find(newSvgFunctions, word) : found;
+    }
+
+    // rgb() with blanks instead of commas, or with a fourth part.
+    std::string_view components() const {
+        std::u16string_view arguments = text.substr(index + 1);
+        arguments = arguments.substr(0, arguments.find(u')'));
+        auto const commas = std::ranges::count(arguments, u',');
+        bool const hasBlanks = commas == 0 && splitValues(trimXmlSpace(arguments)).size() >= 3;
+        return hasBlanks || commas == 3 || arguments.find(u'/') != std::u16string_view::npos ? "CSS 4" : "";
+    }
+
+    bool isSvg;
+    std::u16string_view text;
+    std::size_t index = 0;
+    bool isTransform = false;
+};
+
+} // namespace
+
+std::string_view newerRecommendation(Vocabulary vocabulary, std::u16string_view text) {
+    return Scanner(vocabulary, text).find();
+}
+
+} // namespace Xml
