@@ -56,8 +56,8 @@ bool agreesWith(Item const& item, SColor const& paint) {
     case ItemKind::Color: return paint.getType() == SColor::Color && agreesWith(item, paint.getColor());
     case ItemKind::Uri: return paint.getType() == SColor::Url && refersTo(item, paint.getUrl());
     case ItemKind::Word:
-        return (paint.getType() == SColor::None) == (equalsWord(item.text, "none", true) ||
-                                                     equalsWord(item.text, "transparent", true));
+        return (paint.getType() == SColor::None) ==
+               (equalsWord(item.text, "none", true) || equalsWord(item.text, "transparent", true));
     case ItemKind::Number:
     case ItemKind::Length:
     case ItemKind::Percentage:
@@ -73,6 +73,10 @@ bool agreesWith(Item const& item, SColor const& paint) {
 
 Held heldOf(float number) {
     return {ItemKind::Number, number, {}};
+}
+
+Held heldOf(int number) {
+    return heldOf(static_cast<float>(number));
 }
 
 Held heldOf(FloatOrPercent const& number) {
@@ -135,19 +139,20 @@ bool agrees(Item const& item, Held const& held) {
 }
 
 bool agrees(Meaning const& meaning, std::initializer_list<Held> held) {
-    bool const isWord = std::ranges::any_of(meaning.values(), [](Item const& item) { return item.kind == ItemKind::Word; });
+    bool const isWord =
+        std::ranges::any_of(meaning.values(), [](Item const& item) { return item.kind == ItemKind::Word; });
     return isWord || std::ranges::equal(meaning.values(), held,
                                         [](Item const& item, Held const& value) { return agrees(item, value); });
 }
 
 bool agrees(Meaning const& meaning, Keep keep) {
     Item const* const strength = numberOf(meaning);
-    return !strength || agrees(*strength, heldOf(static_cast<float>(keep)));
+    return !strength || agrees(*strength, heldOf(static_cast<int>(keep)));
 }
 
 bool agrees(Meaning const& meaning, MaxRepeats repeats) {
     Item const* const count = numberOf(meaning);
-    return count ? agrees(*count, heldOf(static_cast<float>(repeats))) : repeats == MaxRepeats::NoLimit;
+    return count ? agrees(*count, heldOf(static_cast<int>(repeats))) : repeats == MaxRepeats::NoLimit;
 }
 
 bool agrees(Meaning const& meaning, ReferenceOrientation orientation) {
@@ -181,12 +186,6 @@ bool agrees(Meaning const& meaning, ViewBox const& box) {
     return agrees(meaning, {heldOf(box.x), heldOf(box.y), heldOf(box.width), heldOf(box.height)});
 }
 
-bool agrees(Meaning const& meaning, Core::Vector<SLength> const& lengths) {
-    if (isWord(meaning, "none")) return lengths.empty();
-    return std::ranges::equal(meaning.values(), lengths,
-                              [](Item const& item, SLength const& length) { return agrees(item, heldOf(length)); });
-}
-
 bool agrees(Meaning const& meaning, SmartPtr<Drawing::Color> const& color) {
     return std::ranges::all_of(meaning.values(), [&](Item const& item) { return agreesWith(item, color); });
 }
@@ -212,7 +211,8 @@ bool agrees(Meaning const& meaning, STextShadow const& shadow) {
 
 bool agrees(Meaning const& meaning, STextDecoration const& decoration) {
     auto const has = [&](std::string_view line) {
-        return std::ranges::any_of(meaning.values(), [&](Item const& item) { return equalsWord(item.text, line, true); });
+        return std::ranges::any_of(meaning.values(),
+                                   [&](Item const& item) { return equalsWord(item.text, line, true); });
     };
     return has("underline") == decoration.isUnderline() && has("overline") == decoration.isOverline() &&
            has("line-through") == decoration.isLineThrough();
@@ -244,7 +244,7 @@ bool agrees(Meaning const& meaning, TextAlign const& align) {
 bool agrees(Meaning const& meaning, InitialPageNumber const& number) {
     Item const* const page = numberOf(meaning);
     if (!page) return number.getType() != InitialPageNumberType::Number;
-    return number.getType() == InitialPageNumberType::Number && agrees(*page, heldOf(static_cast<float>(number.getNumber())));
+    return number.getType() == InitialPageNumberType::Number && agrees(*page, heldOf(number.getNumber()));
 }
 
 bool agrees(Meaning const& meaning, ForcePageCount const& count) {

@@ -18,6 +18,7 @@ struct Held {
 };
 
 Held heldOf(float number);
+Held heldOf(int number);
 Held heldOf(FloatOrPercent const& number);
 Held heldOf(Length const& length);
 Held heldOf(SLength const& length);
@@ -34,19 +35,37 @@ bool agrees(Item const& item, Held const& held);
 bool agrees(Meaning const& meaning, std::initializer_list<Held> held);
 
 // The types that hold a measure or one of a few words.
-template <class T> concept HoldsMeasure = requires(T const& value) { heldOf(value); };
-template <class T> concept HoldsLengthOrPercent = requires(T const& value) { heldOf(value.getLengthOrPercent()); };
-template <class T> concept HoldsLength = requires(T const& value) { heldOf(value.getLength()); };
-template <class T> concept HoldsSLength = requires(T const& value) { heldOf(value.getSLength()); };
-template <class T> concept HoldsAbsoluteSize = requires(T const& value) { heldOf(value.getAbsoluteSize()); };
-template <class T> concept HoldsAbsoluteStretch = requires(T const& value) { heldOf(value.getAbsoluteStretch()); };
+template <class T>
+concept HoldsMeasure = requires(T const& value) {
+    heldOf(value);
+};
+template <class T>
+concept HoldsLengthOrPercent = requires(T const& value) {
+    heldOf(value.getLengthOrPercent());
+};
+template <class T>
+concept HoldsLength = requires(T const& value) {
+    heldOf(value.getLength());
+};
+template <class T>
+concept HoldsSLength = requires(T const& value) {
+    heldOf(value.getSLength());
+};
+template <class T>
+concept HoldsAbsoluteSize = requires(T const& value) {
+    heldOf(value.getAbsoluteSize());
+};
+template <class T>
+concept HoldsAbsoluteStretch = requires(T const& value) {
+    heldOf(value.getAbsoluteStretch());
+};
 
 // Every overload: whether a value type, having accepted the text, holds what it means. It does where the text is a
 // word, but for the types that accept every text and might have missed the word.
 
 template <class T>
-    requires HoldsMeasure<T> || HoldsLengthOrPercent<T> || HoldsLength<T> || HoldsSLength<T> || HoldsAbsoluteSize<T> ||
-             HoldsAbsoluteStretch<T>
+requires HoldsMeasure<T> || HoldsLengthOrPercent<T> || HoldsLength<T> || HoldsSLength<T> || HoldsAbsoluteSize<T> ||
+    HoldsAbsoluteStretch<T>
 bool agrees(Meaning const& meaning, T const& value) {
     if constexpr (HoldsMeasure<T>)
         return agrees(meaning, {heldOf(value)});
@@ -75,7 +94,6 @@ bool agrees(Meaning const& meaning, ThreeState state);
 bool agrees(Meaning const& meaning, DLength const& lengths);
 bool agrees(Meaning const& meaning, Drawing::RectF const& rectangle);
 bool agrees(Meaning const& meaning, ViewBox const& box);
-bool agrees(Meaning const& meaning, Core::Vector<SLength> const& lengths);
 bool agrees(Meaning const& meaning, SmartPtr<Drawing::Color> const& color);
 bool agrees(Meaning const& meaning, SColor const& paint);
 bool agrees(Meaning const& meaning, STextShadow const& shadow);

@@ -209,8 +209,7 @@ private:
 
     // The character that was just taken.
     constexpr Index addMark(Cursor const& cursor) {
-        return addNode(cursor,
-                       {.step = {.kind = GrammarStep::Mark, .word = cursor.text.substr(cursor.index - 1, 1)}});
+        return addNode(cursor, {.step = {.kind = GrammarStep::Mark, .word = cursor.text.substr(cursor.index - 1, 1)}});
     }
 
     constexpr Index parseToken(Cursor& cursor, int depth) {
@@ -385,7 +384,8 @@ template <std::size_t size> struct GrammarText {
     constexpr std::string_view view() const { return {units, size - 1}; }
 };
 
-template <GrammarText text> inline constexpr auto compiledGrammar = [] {
+template <GrammarText text>
+inline constexpr auto compiledGrammar = [] {
     constexpr std::size_t size = [] {
         GrammarCompiler const compiler(text.view());
         if (compiler.fault()) throw "the grammar is not well formed, or names an unknown token";

@@ -16,13 +16,16 @@ struct State {
 
     bool operator==(State const&) const = default;
 
-    std::uint64_t bitOf(GrammarStep const& option) const { return std::uint64_t{1} << (option.set * 8 + option.option); }
+    std::uint64_t bitOf(GrammarStep const& option) const {
+        return std::uint64_t{1} << (option.set * 8 + option.option);
+    }
     std::uint64_t maskOf(GrammarStep const& set) const { return std::uint64_t{0xFF} << (set.set * 8); }
 };
 
 struct StateHash {
     std::size_t operator()(State const& state) const {
-        std::uint64_t const mixed = (state.index * 0x9E3779B97F4A7C15u + state.step) ^ state.taken * 0xC2B2AE3D27D4EB4Fu;
+        std::uint64_t const mixed =
+            (state.index * 0x9E3779B97F4A7C15u + state.step) ^ state.taken * 0xC2B2AE3D27D4EB4Fu;
         return static_cast<std::size_t>(mixed ^ mixed >> 29);
     }
 };
@@ -99,9 +102,7 @@ private:
                 return true;
             }
             return leaveOpen(step.other) && goOnAt(step.next);
-        case GrammarStep::Begin:
-            state.taken &= ~state.maskOf(step);
-            return goOnAt(step.next);
+        case GrammarStep::Begin: state.taken &= ~state.maskOf(step); return goOnAt(step.next);
         case GrammarStep::Option:
             if ((state.taken & state.bitOf(step)) != 0) return goOnAt(step.other);
             if (!leaveOpen(step.other)) return false;

@@ -9,30 +9,30 @@
 namespace Xml {
 
 enum class Token : std::uint8_t {
-    Number,        // 1.5
-    Integer,       // -3
-    Length,        // 12pt; a bare 0 in XSL-FO, every bare number in SVG
-    Percentage,    // 50%
-    Angle,         // 90deg, grad or rad; in SVG also a bare number
-    Time,          // 2s or 200ms
-    Frequency,     // 100Hz or 1kHz
-    ClockValue,    // 02:30:03.5, 30:12 or 1.5h, min, s, ms and seconds without a unit (SVG animation)
-    Color,         // every form but the words transparent and currentColor, which grammars write out
-    Uri,           // url(...)
-    Reference,     // a bare reference without blanks
-    Iri,           // a bare reference: any text
-    String,        // in quotation marks
-    Name,          // an NCName
-    Id,            // an NCName that names its element
-    IdRef,         // an NCName that another element has as its id
-    Language,      // a tag such as en-GB
-    Country,       // two or three letters
-    Script,        // four letters
-    Character,     // one code point, which may be white space
-    FamilyName,    // a string, or anything up to a comma
-    Text,          // all the rest, also nothing
-    Empty,         // nothing
-    PathData,      // the rest, as GeometryReaders.h has it; likewise the next two
+    Number,     // 1.5
+    Integer,    // -3
+    Length,     // 12pt; a bare 0 in XSL-FO, every bare number in SVG
+    Percentage, // 50%
+    Angle,      // 90deg, grad or rad; in SVG also a bare number
+    Time,       // 2s or 200ms
+    Frequency,  // 100Hz or 1kHz
+    ClockValue, // 02:30:03.5, 30:12 or 1.5h, min, s, ms and seconds without a unit (SVG animation)
+    Color,      // every form but the words transparent and currentColor, which grammars write out
+    Uri,        // url(...)
+    Reference,  // a bare reference without blanks
+    Iri,        // a bare reference: any text
+    String,     // in quotation marks
+    Name,       // an NCName
+    Id,         // an NCName that names its element
+    IdRef,      // an NCName that another element has as its id
+    Language,   // a tag such as en-GB
+    Country,    // two or three letters
+    Script,     // four letters
+    Character,  // one code point, which may be white space
+    FamilyName, // a string, or anything up to a comma
+    Text,       // all the rest, also nothing
+    Empty,      // nothing
+    PathData,   // the rest, as GeometryReaders.h has it; likewise the next two
     Points,
     TransformList,
 };

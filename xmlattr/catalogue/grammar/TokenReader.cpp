@@ -62,8 +62,7 @@ bool takesUnit(ItemKind kind, Item const& item, Dialect dialect) {
     switch (kind) {
     case ItemKind::Length:
         return item.unit.empty() ? isSvg || item.number == 0 : isOneOf(item.unit, lengths, ignoreCase);
-    case ItemKind::Angle:
-        return item.unit.empty() ? isSvg || item.number == 0 : isOneOf(item.unit, angles, ignoreCase);
+    case ItemKind::Angle: return item.unit.empty() ? isSvg || item.number == 0 : isOneOf(item.unit, angles, ignoreCase);
     case ItemKind::Time: return isOneOf(item.unit, times, ignoreCase);
     case ItemKind::Frequency: return isOneOf(item.unit, frequencies, true);
     case ItemKind::Percentage: return item.unit == u"%";
@@ -82,9 +81,9 @@ bool readMeasure(Item& item, ItemKind kind, GrammarStep const& step, ValueCursor
     item.kind = kind;
     item.unit = takeUnit(cursor);
     // In a list the next number may follow at once, where it begins with a sign or a point.
-    bool const ends = cursor.atBoundary() ||
-                      (step.separated && item.unit.empty() &&
-                       std::u16string_view(u"+-.").find(cursor.peek()) != std::u16string_view::npos);
+    bool const ends =
+        cursor.atBoundary() || (step.separated && item.unit.empty() &&
+                                std::u16string_view(u"+-.").find(cursor.peek()) != std::u16string_view::npos);
     return ends && takesUnit(kind, item, cursor.dialect) && (step.token != Token::Integer || isInteger) &&
            step.isInRange(item.number);
 }
