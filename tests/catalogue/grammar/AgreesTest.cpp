@@ -46,7 +46,7 @@ TEST(Agrees, MeasuresOfXslFo) {
     expectJudges<ColumnWidth>("<length> | proportional-column-width( <number> )"_grammar, Dialect::Fo,
                               {{u"3cm", "same"}, {u"proportional-column-width(2.5)", "same"}});
     expectJudges<Indent>("<length> | <percentage> | body-start( )"_grammar, Dialect::Fo,
-                         {{u"3cm", "same"}, {u"10%", "same"}});
+                         {{u"3cm", "same"}, {u"10%", "same"}, {u"body-start()", "same"}});
     expectJudges<ContentLength>("scale-to-fit | <length> | <percentage>"_grammar, Dialect::Fo,
                                 {{u"scale-to-fit", "same"}, {u"3cm", "same"}, {u"150%", "same"}});
     expectJudges<FontSize>(

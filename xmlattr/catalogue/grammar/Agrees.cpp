@@ -139,10 +139,11 @@ bool agrees(Item const& item, Held const& held) {
 }
 
 bool agrees(Meaning const& meaning, std::initializer_list<Held> held) {
-    bool const isWord =
-        std::ranges::any_of(meaning.values(), [](Item const& item) { return item.kind == ItemKind::Word; });
-    return isWord || std::ranges::equal(meaning.values(), held,
-                                        [](Item const& item, Held const& value) { return agrees(item, value); });
+    auto const isWord = [](Item const& item) { return item.kind == ItemKind::Word; };
+    // A call without arguments has no values.
+    return meaning.empty() || std::ranges::any_of(meaning.values(), isWord) ||
+           std::ranges::equal(meaning.values(), held,
+                              [](Item const& item, Held const& one) { return agrees(item, one); });
 }
 
 bool agrees(Meaning const& meaning, Keep keep) {

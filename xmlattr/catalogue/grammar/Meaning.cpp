@@ -10,9 +10,9 @@ namespace {
 
 // Where reading stands: at which step, where in the text, and which options of each set were taken.
 struct State {
-    std::uint16_t step = 0;
-    std::size_t index = 0;
-    std::uint64_t taken = 0; // eight bits for each depth of sets
+    std::uint16_t step;
+    std::size_t index;
+    std::uint64_t taken; // eight bits for each depth of sets
 
     bool operator==(State const&) const = default;
 
@@ -52,7 +52,7 @@ public:
 private:
     struct Way {
         State state;
-        std::size_t items = 0;
+        std::size_t items;
     };
 
     // So many times a way may be left open before the states that were met are remembered, which few texts need.
@@ -101,6 +101,7 @@ private:
                 state.step = cursor.atEnd() ? 0 : step.next;
                 return true;
             }
+            if (!mayBegin(steps[step.next])) return goOnAt(step.other);
             return leaveOpen(step.other) && goOnAt(step.next);
         case GrammarStep::Begin: state.taken &= ~state.maskOf(step); return goOnAt(step.next);
         case GrammarStep::Option:
@@ -121,6 +122,14 @@ private:
         return true;
     }
 
+    // Of the many words of a choice, all but one or two are out of the question at their first letter.
+    bool mayBegin(GrammarStep const& step) const {
+        bool const isWord =
+            step.kind == GrammarStep::Word || step.kind == GrammarStep::Call || step.kind == GrammarStep::Mark;
+        return !isWord || cursor.dialect == Dialect::SvgStyle ||
+               cursor.peek() == static_cast<unsigned char>(step.word[0]);
+    }
+
     std::u16string_view written() const {
         std::u16string_view const text = cursor.text.substr(state.index, cursor.index - state.index);
         return trimXmlSpace(text);
@@ -136,8 +145,8 @@ private:
     Meaning& meaning;
     std::span<GrammarStep const> steps;
     ValueCursor cursor;
-    State state;
-    ShortList<Way, 32> ways;
+    State state{};
+    ShortList<Way, 8> ways;
     std::size_t opened = 0;
     std::unordered_set<State, StateHash> met;
 };

@@ -60,7 +60,7 @@ public:
 private:
     T const* data() const { return count > inlined ? far.data() : near.data(); }
 
-    std::array<T, inlined> near{};
+    std::array<T, inlined> near; // only the first `count` have been written
     std::vector<T> far;
     std::size_t count = 0;
 };

@@ -3,6 +3,7 @@
 
 #include "xmlattr/catalogue/grammar/Meaning.h"
 #include "xmlattr/catalogue/legality/Words.h"
+#include "xmlattr/core/Text.h"
 
 namespace Xml {
 
@@ -27,16 +28,21 @@ struct ValueCursor {
     }
     // The word, in any case where the dialect has it so, whatever follows.
     bool takeWord(std::string_view word) {
-        if (text.size() - index < word.size() ||
-            !equalsWord(text.substr(index, word.size()), word, dialect == Dialect::SvgStyle))
-            return false;
+        if (text.size() - index < word.size()) return false;
+        for (std::size_t i = 0; i < word.size(); ++i) {
+            auto const expected = static_cast<unsigned char>(word[i]);
+            char16_t const unit = text[index + i];
+            if (unit != expected && (dialect != Dialect::SvgStyle || Core::toLower(unit) != Core::toLower(expected)))
+                return false;
+        }
         index += word.size();
         return true;
     }
     // Whether a value may end here.
     bool atBoundary() const {
-        return atEnd() || isXmlSpace(text[index]) ||
-               std::u16string_view(u",/;)").find(text[index]) != std::u16string_view::npos;
+        if (atEnd()) return true;
+        char16_t const unit = text[index];
+        return isXmlSpace(unit) || unit == u',' || unit == u')' || unit == u'/' || unit == u';';
     }
     // All up to the next boundary.
     std::u16string_view takeRun() {
