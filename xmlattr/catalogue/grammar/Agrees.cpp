@@ -18,7 +18,7 @@ bool isNear(float a, float b) {
 
 // The unit in the spelling of the recommendations; pixels are the user units of SVG.
 bool isUnit(std::u16string_view written, std::u16string_view held) {
-    return Core::equalsNoCase(written == u"" ? u"px" : written, held == u"" ? u"px" : held);
+    return Core::equalsNoCase(written.empty() ? u"px" : written, held.empty() ? u"px" : held);
 }
 
 bool isWord(Meaning const& meaning, std::string_view word) {
