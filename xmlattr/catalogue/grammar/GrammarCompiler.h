@@ -1,9 +1,9 @@
 // From the text of a grammar to its steps.
 #pragma once
 
+#include "xmlattr/catalogue/TableText.h"
 #include "xmlattr/catalogue/grammar/Grammar.h"
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 
@@ -376,29 +376,31 @@ constexpr GrammarFault checkGrammar(std::string_view text) {
     return GrammarCompiler(text).fault();
 }
 
-// The text of a grammar as an argument of templates.
-template <std::size_t size> struct GrammarText {
-    char units[size]{};
-    // NOLINTNEXTLINE(google-explicit-constructor): literals become one.
-    consteval GrammarText(char const (&literal)[size]) { std::ranges::copy(literal, units); }
-    constexpr std::string_view view() const { return {units, size - 1}; }
-};
-
-template <GrammarText text>
-inline constexpr auto compiledGrammar = [] {
+template <TableText text>
+inline constexpr auto grammarSteps = [] {
     constexpr std::size_t size = [] {
-        GrammarCompiler const compiler(text.view());
-        if (compiler.fault()) throw "the grammar is not well formed, or names an unknown token";
+        GrammarCompiler const compiler(text);
+        requireOf(text, !compiler.fault(), compiler.fault().reason.data());
         return compiler.size();
     }();
-    GrammarCompiler const compiler(text.view());
+    GrammarCompiler const compiler(text);
     std::array<GrammarStep, size> steps{};
     for (std::size_t i = 0; i < size; ++i) steps[i] = compiler[i];
     return steps;
 }();
 
-template <GrammarText text> consteval Grammar operator""_grammar() {
-    return {text.view(), compiledGrammar<text>};
+// The grammar of this text, which does not compile where it is not well formed; of the empty text the one without
+// steps.
+template <TableText text>
+inline constexpr Grammar grammarOf = [] {
+    if constexpr (std::string_view(text).empty())
+        return Grammar();
+    else
+        return Grammar(text, grammarSteps<text>);
+}();
+
+template <TableText text> consteval Grammar operator""_grammar() {
+    return grammarOf<text>;
 }
 
 } // namespace Xml
