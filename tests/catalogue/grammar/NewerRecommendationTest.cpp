@@ -50,8 +50,8 @@ TEST(NewerRecommendation, NamesIt) {
              Row{u"context", "", ""},
              Row{u"", "", ""},
          }) {
-        EXPECT_EQ(newerRecommendation(Vocabulary::Svg, row.text), row.svg) << Core::String(row.text).toUtf8();
-        EXPECT_EQ(newerRecommendation(Vocabulary::Fo, row.text), row.fo) << Core::String(row.text).toUtf8();
+        EXPECT_EQ(newerRecommendation(Dialect::SvgAttribute, row.text), row.svg) << Core::String(row.text).toUtf8();
+        EXPECT_EQ(newerRecommendation(Dialect::Fo, row.text), row.fo) << Core::String(row.text).toUtf8();
     }
 }
 

@@ -3,7 +3,7 @@
 
 #include "xmlattr/catalogue/grammar/Meaning.h"
 
-#include "xmlattr/xmlattr.h"
+#include "xmlattr/Values.h"
 
 #include <initializer_list>
 

@@ -68,7 +68,7 @@ bool belongsToWord(char16_t unit) {
 
 class Scanner {
 public:
-    Scanner(Vocabulary vocabulary, std::u16string_view text) : isSvg(vocabulary == Vocabulary::Svg), text(text) {}
+    Scanner(Dialect dialect, std::u16string_view text) : isSvg(dialect != Dialect::Fo), text(text) {}
 
     std::string_view find() {
         while (index < text.size()) {
@@ -146,8 +146,8 @@ private:
 
 } // namespace
 
-std::string_view newerRecommendation(Vocabulary vocabulary, std::u16string_view text) {
-    return Scanner(vocabulary, text).find();
+std::string_view newerRecommendation(Dialect dialect, std::u16string_view text) {
+    return Scanner(dialect, text).find();
 }
 
 } // namespace Xml

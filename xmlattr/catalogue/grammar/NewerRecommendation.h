@@ -1,7 +1,7 @@
 // Values of recommendations that came after XSL-FO 1.1 and SVG 1.1.
 #pragma once
 
-#include "xmlattr/catalogue/Catalogue.h"
+#include "xmlattr/catalogue/grammar/Meaning.h"
 
 #include <string_view>
 
@@ -10,6 +10,6 @@ namespace Xml {
 // "SVG 2", "CSS 3" and the like for a text that has a word, a function, a unit or a form of colour of that
 // recommendation; empty when it has none. For texts that the grammar of their attribute refuses: whether the rest
 // is well formed is not looked at.
-std::string_view newerRecommendation(Vocabulary vocabulary, std::u16string_view text);
+std::string_view newerRecommendation(Dialect dialect, std::u16string_view text);
 
 } // namespace Xml
