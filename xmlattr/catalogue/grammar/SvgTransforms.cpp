@@ -1,0 +1,201 @@
+// Transform lists by SVG 1.1, section 7.6. As in SVG 2, nothing has to stand between two transforms.
+#include "xmlattr/catalogue/grammar/SvgRewriter.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+namespace Xml {
+
+namespace {
+
+struct TransformForm {
+    std::u16string_view word;
+    TransformType type;
+    int most;
+    bool oneOrAll; // how many numbers: one or all, else all
+};
+
+constexpr TransformForm transformForms[] = {
+    {u"matrix", TransformType::Matrix, 6, false}, {u"translate", TransformType::Translate, 2, true},
+    {u"scale", TransformType::Scale, 2, true},    {u"rotate", TransformType::Rotate, 3, true},
+    {u"skewX", TransformType::SkewX, 1, false},   {u"skewY", TransformType::SkewY, 1, false},
+};
+
+struct TransformVisitor {
+    void open(char16_t const* /*at*/, TransformForm const& /*form*/) {}
+    void number(SvgNumber const& /*number*/) {}
+    // At the parenthesis.
+    void close(char16_t const* /*at*/) {}
+};
+
+struct TransformsList {
+    using Visitor = TransformVisitor;
+
+    template <class TransformVisitor> bool read(SvgScanner& scanner, TransformVisitor& visitor) const {
+        scanner.skipSpace();
+        while (!scanner.atEnd()) {
+            if (!readTransform(scanner, visitor)) return false;
+            bool comma = false;
+            for (scanner.skipSpace(); scanner.isAt(u','); comma = true) scanner.skipSeparator();
+            if (comma && scanner.atEnd()) return scanner.fail(expectedTransform);
+        }
+        return true;
+    }
+
+private:
+    static constexpr std::string_view expectedTransform = "expected matrix, translate, scale, rotate, skewX or skewY";
+
+    template <class TransformVisitor> static bool readTransform(SvgScanner& scanner, TransformVisitor& visitor) {
+        std::u16string_view const rest(scanner.at, static_cast<std::size_t>(scanner.end() - scanner.at));
+        auto const* const form =
+            std::ranges::find_if(transformForms, [&](TransformForm const& row) { return rest.starts_with(row.word); });
+        if (form == std::end(transformForms)) return scanner.fail(expectedTransform);
+        char16_t const* const begin = scanner.at;
+        scanner.at += form->word.size();
+        scanner.skipSpace();
+        if (!scanner.isAt(u'(')) {
+            bool const longerWord = scanner.at == begin + form->word.size() && !scanner.atEnd();
+            if (!longerWord) return scanner.fail("expected \"(\"");
+            scanner.at = begin;
+            return scanner.fail(expectedTransform);
+        }
+        ++scanner.at;
+        visitor.open(begin, *form);
+        return readNumbers(scanner, visitor, *form);
+    }
+
+    template <class TransformVisitor>
+    static bool readNumbers(SvgScanner& scanner, TransformVisitor& visitor, TransformForm const& form) {
+        scanner.skipSpace();
+        for (int count = 1;; ++count) {
+            SvgNumber number;
+            if (!scanner.takeNumber(number)) return false;
+            visitor.number(number);
+            bool const comma = scanner.skipSeparator();
+            if (!comma && scanner.isAt(u')') && (count == form.most || (count == 1 && form.oneOrAll))) break;
+            if (count == form.most) return scanner.fail("expected \")\"");
+        }
+        visitor.close(scanner.at++);
+        return true;
+    }
+};
+
+class TransformsComparison : public SvgComparison {
+public:
+    TransformsComparison(std::u16string_view text, Core::Vector<Transform> const& held)
+        : SvgComparison(text.data()), next(held.data()), end(next + held.size()) {}
+
+    void open(char16_t const* at, TransformForm const& form) {
+        if (differs()) return;
+        if (next == end) return differ(at, at + form.word.size(), "nothing");
+        current = next++;
+        count = 0;
+        begin = at;
+        isIdentity = *current == Transform();
+        isLost = isIdentity && form.type != TransformType::Translate;
+        if (!isIdentity && current->type != form.type) differ(at, at + form.word.size(), wordOf(*current));
+    }
+
+    void number(SvgNumber const& number) {
+        if (differs()) return;
+        if (isIdentity) {
+            isLost |= number.value != 0;
+            return;
+        }
+        int const index = count++;
+        last = number;
+        switch (current->type) {
+        case TransformType::Matrix: return expect(number, current->matrix[index]);
+        case TransformType::Translate: return expect(number, (index == 0 ? current->tx : current->ty).getValue());
+        case TransformType::Scale: return expect(number, index == 0 ? current->sx : current->sy);
+        case TransformType::Rotate:
+            if (index == 0) return expect(number, current->angle);
+            return expect(number, (index == 1 ? current->cx : current->cy).getValue());
+        case TransformType::SkewX: return expect(number, current->skewAngleX);
+        case TransformType::SkewY: return expect(number, current->skewAngleY);
+        }
+    }
+
+    // What was left out is 0, but the second factor of a scale is the first.
+    void close(char16_t const* at) {
+        if (isLost) differ(begin, at + 1, "no transform");
+        if (differs() || isIdentity || count != 1) return;
+        SvgNumber const zero{last.begin, last.end, 0};
+        switch (current->type) {
+        case TransformType::Translate: return expect(zero, current->ty.getValue());
+        case TransformType::Scale: return expect(last, current->sy);
+        case TransformType::Rotate: expect(zero, current->cx.getValue()); return expect(zero, current->cy.getValue());
+        case TransformType::Matrix:
+        case TransformType::SkewX:
+        case TransformType::SkewY: return;
+        }
+    }
+
+    void finish(char16_t const* at) {
+        if (next != end) differ(at, at, wordOf(*next));
+    }
+
+private:
+    static std::string wordOf(Transform const& transform) {
+        auto const* const form = std::ranges::find(transformForms, transform.type, &TransformForm::type);
+        return {form->word.begin(), form->word.end()};
+    }
+
+    Transform const* next;
+    Transform const* end;
+    Transform const* current = nullptr;
+    char16_t const* begin = nullptr;
+    SvgNumber last;
+    int count = 0;
+    // What the value type cannot read it holds as the identity, a translation by nothing.
+    bool isIdentity = false, isLost = false;
+};
+
+// For the value type a number ends at one white space, a comma or the parenthesis, and nothing but white space may
+// follow before the next one.
+class TransformsRewriting : public SvgRewriter {
+public:
+    using SvgRewriter::SvgRewriter;
+
+    void open(char16_t const* /*at*/, TransformForm const& of) {
+        form = &of;
+        previousEnd = nullptr;
+    }
+    void number(SvgNumber const& number) {
+        if (previousEnd == number.begin)
+            insertSpace(number.begin);
+        else if (previousEnd)
+            mendSeparator(previousEnd, number.begin);
+        // The other numbers it reads as the recommendation has them.
+        bool const isLength =
+            form->type == TransformType::Translate || (form->type == TransformType::Rotate && previousEnd);
+        if (isLength) mendNumber(number);
+        previousEnd = number.end;
+    }
+    void close(char16_t const* at) {
+        if (at - previousEnd > 1) replace(previousEnd, at, {});
+    }
+
+private:
+    TransformForm const* form = nullptr;
+    char16_t const* previousEnd = nullptr;
+};
+
+} // namespace
+
+bool readTransformList(std::u16string_view text) {
+    return isLegalList(TransformsList(), text);
+}
+
+SvgReading compare(std::u16string_view text, Core::Vector<Transform> const& held) {
+    return compareList(TransformsList(), text, TransformsComparison(text, held));
+}
+
+std::optional<std::u16string> rewriteTransformList(std::u16string_view text) {
+    using Value = Core::Vector<Transform>;
+    return rewriteList<Value>(TransformsList(), text, TransformsRewriting(text),
+                              [](std::u16string_view of, Value const& held) { return compare(of, held); });
+}
+
+} // namespace Xml
