@@ -1,12 +1,13 @@
 #include "xmlattr/catalogue/grammar/SvgRewriter.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace Xml {
 
 namespace {
 
-// A number without its exponent. The sign stays even of what is read as 0, since it may separate two numbers.
+// A finite number without its exponent. The sign stays even of what is read as 0, since it may separate two numbers.
 std::u16string withoutExponent(SvgNumber const& number) {
     Core::Decimal const decimal =
         Core::scanDecimal({number.begin, static_cast<std::size_t>(number.end - number.begin)});
@@ -26,7 +27,7 @@ std::u16string withoutExponent(SvgNumber const& number) {
     for (; unit != number.end; ++unit)
         if (Core::isDigit(*unit)) exponent = std::min(exponent * 10 + (*unit - u'0'), 1'000'000);
     whole += isNegative ? -exponent : exponent;
-    // The number is no 0, so that with so small a power of ten its own digits are many.
+    // A float is neither 0 nor infinite for a few dozen powers of ten alone, besides those of the digits themselves.
     if (whole <= 0) digits.insert(0, static_cast<std::size_t>(1 - whole), u'0');
     whole = std::max<std::ptrdiff_t>(whole, 1);
     if (whole < std::ssize(digits))
@@ -49,6 +50,7 @@ void SvgRewriter::mendSeparator(char16_t const* begin, char16_t const* end, bool
 }
 
 void SvgRewriter::mendNumber(SvgNumber const& number, bool minusEnds) {
+    if (!std::isfinite(number.value)) return;
     std::u16string_view const token(number.begin, static_cast<std::size_t>(number.end - number.begin));
     SLength length;
     bool const minusWithin = minusEnds && token.find(u'-', 1) != token.npos;
