@@ -139,9 +139,8 @@ public:
 
 private:
     static std::string letterOf(Command const& command) {
-        constexpr std::string_view letters = "MZLHVCSQTA"; // by kind, from MoveTo on
-        char const letter = letters[static_cast<std::size_t>(command.kind - PathCommandKind::MoveTo)];
-        return std::string(1, command.relative ? static_cast<char>(letter - 'A' + 'a') : letter);
+        std::string_view const letters = command.relative ? "mzlhvcsqta" : "MZLHVCSQTA"; // by kind, from MoveTo on
+        return std::string(letters.substr(static_cast<std::size_t>(command.kind - PathCommandKind::MoveTo), 1));
     }
 
     Command const* next;

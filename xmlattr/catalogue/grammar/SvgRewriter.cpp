@@ -53,7 +53,7 @@ void SvgRewriter::mendNumber(SvgNumber const& number, bool minusEnds) {
     if (!std::isfinite(number.value)) return;
     std::u16string_view const token(number.begin, static_cast<std::size_t>(number.end - number.begin));
     SLength length;
-    bool const minusWithin = minusEnds && token.find(u'-', 1) != token.npos;
+    bool const minusWithin = minusEnds && token.find(u'-', 1) != std::u16string_view::npos;
     if (!minusWithin && AttributeTraits<SLength>::parse(length, token) &&
         length == SLength(number.value, SLength::UserUnit))
         return;

@@ -87,8 +87,8 @@ private:
         if (!decimal.end) return fail("expected a number");
         if (finalPoint == FinalPoint::Illegal) {
             std::u16string_view const text(at, static_cast<std::size_t>(decimal.end - at));
-            std::size_t const point = text.find(u'.');
-            if (point != text.npos && (point + 1 == text.size() || !Core::isDigit(text[point + 1])))
+            std::size_t const afterPoint = text.find(u'.') + 1; // 0 when there is no point
+            if (afterPoint != 0 && (afterPoint == text.size() || !Core::isDigit(text[afterPoint])))
                 return fail("expected a digit after the decimal point", decimal.end);
         }
         if (!Core::toFloat(decimal, number.value)) {
