@@ -15,6 +15,11 @@ constexpr bool isSpace(char16_t unit) noexcept {
     return unit == u' ' || (unit >= u'\t' && unit <= u'\r') || unit == u'\u00A0';
 }
 
+// The white space of XML: space, tab, line feed and carriage return, nothing else.
+constexpr bool isXmlSpace(char32_t unit) noexcept {
+    return unit == U' ' || unit == U'\t' || unit == U'\n' || unit == U'\r';
+}
+
 // The ASCII digits.
 constexpr bool isDigit(char16_t unit) noexcept {
     return unit >= u'0' && unit <= u'9';

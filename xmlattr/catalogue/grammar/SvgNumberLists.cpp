@@ -39,9 +39,12 @@ struct ItemList {
 private:
     static bool hasUnit(char16_t const* itemEnd) { return !Core::isDigit(itemEnd[-1]); }
 
+    // Moves on only where the word and white space are all.
     static bool takeNone(SvgScanner& scanner) {
+        constexpr std::u16string_view word = u"none";
         std::u16string_view const rest(scanner.at, static_cast<std::size_t>(scanner.end() - scanner.at));
-        if (trimXmlSpace(rest) != u"none") return false;
+        auto const after = rest.substr(std::min(word.size(), rest.size()));
+        if (!rest.starts_with(word) || !std::ranges::all_of(after, Core::isXmlSpace)) return false;
         scanner.at = scanner.end();
         return true;
     }
@@ -65,7 +68,7 @@ private:
     bool readUnit(SvgScanner& scanner, SLength::Unit& unit) const {
         char16_t const* after = scanner.at;
         auto const endsWord = [](char16_t code) {
-            return isXmlSpace(code) || code == u',' || code == u'-' || code == u'+' || code == u'.' ||
+            return Core::isXmlSpace(code) || code == u',' || code == u'-' || code == u'+' || code == u'.' ||
                    Core::isDigit(code);
         };
         after = std::find_if(after, scanner.end(), endsWord);

@@ -1,7 +1,6 @@
 // What the lists of SVG attributes are made of: white space, separators and numbers as the recommendation has them.
 #pragma once
 
-#include "xmlattr/catalogue/legality/Words.h"
 #include "xmlattr/core/NumberReader.h"
 #include "xmlattr/core/Text.h"
 
@@ -35,7 +34,7 @@ public:
     bool isAt(char16_t unit) const { return at != last && *at == unit; }
 
     void skipSpace() {
-        while (at != last && isXmlSpace(*at)) ++at;
+        while (at != last && Core::isXmlSpace(*at)) ++at;
     }
 
     // White space with at most one comma in it. True when there was a comma, which something has to follow.
@@ -62,7 +61,7 @@ public:
     bool fail(std::string_view what) {
         auto const isLetter = [](char16_t unit) { return Core::toLower(unit) >= u'a' && Core::toLower(unit) <= u'z'; };
         auto const isMark = [](char16_t unit) {
-            return isXmlSpace(unit) || unit == u',' || unit == u'(' || unit == u')';
+            return Core::isXmlSpace(unit) || unit == u',' || unit == u'(' || unit == u')';
         };
         if (at == last) return fail(what, at);
         char16_t const* after = at + 1;

@@ -1,16 +1,15 @@
 // Words and white space as XML and CSS have them, for everything that reads documents.
 #pragma once
 
+#include "xmlattr/core/Text.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace Xml {
 
-// The white space of XML: space, tab, line feed and carriage return, nothing else.
-constexpr bool isXmlSpace(char32_t unit) {
-    return unit == U' ' || unit == U'\t' || unit == U'\n' || unit == U'\r';
-}
+using Core::isXmlSpace;
 
 std::u16string_view trimXmlSpace(std::u16string_view text);
 

@@ -1,0 +1,88 @@
+#include "xmlattr/catalogue/grammar/SvgTexts.h"
+
+#include "xmlattr/attributes/TextCursor.h"
+#include "xmlattr/core/Text.h"
+
+namespace Xml {
+
+namespace {
+
+bool isLetter(char16_t unit) {
+    return Core::toLower(unit) >= u'a' && Core::toLower(unit) <= u'z';
+}
+
+void skipXmlSpace(TextCursor& cursor) {
+    cursor.takeWhile(Core::isXmlSpace);
+}
+
+// 02:30:03.5, 30:12 or 1.5 with h, min, s, ms or without a unit, which is seconds.
+bool takeClockValue(TextCursor& cursor) {
+    if (cursor.takeWhile(Core::isDigit).empty()) return false;
+    bool isCount = true;
+    for (int field = 1; field < 3 && cursor.take(u':'); ++field) {
+        if (cursor.takeWhile(Core::isDigit).size() != 2) return false;
+        isCount = false;
+    }
+    if (cursor.take(u'.') && cursor.takeWhile(Core::isDigit).empty()) return false;
+    if (!isCount) return true;
+    std::u16string_view const unit = cursor.takeWhile(isLetter);
+    return unit.empty() || unit == u"h" || unit == u"min" || unit == u"s" || unit == u"ms";
+}
+
+bool takeSign(TextCursor& cursor) {
+    skipXmlSpace(cursor);
+    bool const isTaken = cursor.take(u'+') || cursor.take(u'-');
+    skipXmlSpace(cursor);
+    return isTaken;
+}
+
+// A time, or an event with a time after or before it. A name may have a "-" and a "." in it, so that "a.end-2s" is one
+// too, which is legal either way.
+bool takeTiming(TextCursor& cursor) {
+    if (takeSign(cursor) || (!cursor.atEnd() && Core::isDigit(cursor.peek()))) return takeClockValue(cursor);
+    auto const belongsToName = [](char16_t unit) {
+        return isLetter(unit) || Core::isDigit(unit) || unit > 0x7F ||
+               std::u16string_view(u"_-.:\\").find(unit) != std::u16string_view::npos;
+    };
+    if (cursor.takeWhile(belongsToName).empty()) return false;
+    if (cursor.take(u'(')) { // of repeat, accessKey or wallclock
+        cursor.takeWhile([](char16_t unit) { return unit != u')'; });
+        if (!cursor.take(u')')) return false;
+    }
+    return !takeSign(cursor) || takeClockValue(cursor);
+}
+
+// One code point, all those that differ in the digits "?" only, or those from the first to the second.
+bool takeUnicodeRange(TextCursor& cursor) {
+    auto const isHexDigit = [](char16_t unit) { return Core::hexDigit(unit) >= 0; };
+    if ((!cursor.take(u'U') && !cursor.take(u'u')) || !cursor.take(u'+')) return false;
+    std::size_t const digits = cursor.takeWhile(isHexDigit).size();
+    std::size_t const wildcards = cursor.takeWhile([](char16_t unit) { return unit == u'?'; }).size();
+    if (digits + wildcards == 0 || digits + wildcards > 6) return false;
+    if (wildcards > 0 || !cursor.take(u'-')) return true;
+    std::size_t const lastDigits = cursor.takeWhile(isHexDigit).size();
+    return lastDigits > 0 && lastDigits <= 6;
+}
+
+// Whether the text is a list of what `takeItem` takes.
+template <class TakeItem> bool isList(std::u16string_view text, char16_t separator, TakeItem takeItem) {
+    TextCursor cursor{text};
+    do {
+        skipXmlSpace(cursor);
+        if (!takeItem(cursor)) return false;
+        skipXmlSpace(cursor);
+    } while (cursor.take(separator));
+    return cursor.atEnd();
+}
+
+} // namespace
+
+bool readTimingList(std::u16string_view text) {
+    return isList(text, u';', takeTiming);
+}
+
+bool readUnicodeRanges(std::u16string_view text) {
+    return isList(text, u',', takeUnicodeRange);
+}
+
+} // namespace Xml
