@@ -1,7 +1,7 @@
 #include "xmlattr/catalogue/Catalogue.h"
 
 #include "xmlattr/Values.h"
-#include "xmlattr/catalogue/TableText.h"
+#include "xmlattr/catalogue/text/TableText.h"
 #include "xmlattr/catalogue/types/AttributeTypes.h"
 #include "xmlattr/defaults/DefaultAttributes.h"
 

@@ -2,7 +2,7 @@
 
 #include "text/Text.h"
 
-#include "xmlattr/catalogue/legality/Words.h"
+#include "xmlattr/catalogue/text/Words.h"
 
 #include "xmlattr/color/ColorNames.h"
 #include "xmlattr/core/Text.h"

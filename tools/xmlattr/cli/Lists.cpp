@@ -2,7 +2,7 @@
 #include "cli/NamedType.h"
 #include "text/Text.h"
 
-#include "xmlattr/catalogue/legality/Words.h"
+#include "xmlattr/catalogue/text/Words.h"
 
 #include "xmlattr/catalogue/Catalogue.h"
 

@@ -4,7 +4,7 @@
 #include "output/Output.h"
 #include "text/Text.h"
 
-#include "xmlattr/catalogue/legality/Words.h"
+#include "xmlattr/catalogue/text/Words.h"
 
 namespace Command {
 

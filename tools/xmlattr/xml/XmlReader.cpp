@@ -3,7 +3,7 @@
 #include "text/Text.h"
 #include "xml/Encoding.h"
 
-#include "xmlattr/catalogue/legality/Words.h"
+#include "xmlattr/catalogue/text/Words.h"
 
 #include <algorithm>
 #include <cerrno>

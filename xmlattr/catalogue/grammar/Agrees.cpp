@@ -1,6 +1,6 @@
 #include "xmlattr/catalogue/grammar/Agrees.h"
 
-#include "xmlattr/catalogue/legality/Words.h"
+#include "xmlattr/catalogue/text/Words.h"
 #include "xmlattr/measures/LengthUnits.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 // From the text of a grammar to its steps.
 #pragma once
 
-#include "xmlattr/catalogue/TableText.h"
 #include "xmlattr/catalogue/grammar/Grammar.h"
+#include "xmlattr/catalogue/text/TableText.h"
 
 #include <array>
 #include <cstddef>

@@ -1,6 +1,6 @@
 #include "xmlattr/catalogue/grammar/NewerRecommendation.h"
 
-#include "xmlattr/catalogue/legality/Words.h"
+#include "xmlattr/catalogue/text/Words.h"
 #include "xmlattr/core/Text.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "xmlattr/catalogue/grammar/Meaning.h"
-#include "xmlattr/catalogue/legality/Words.h"
+#include "xmlattr/catalogue/text/Words.h"
 #include "xmlattr/core/Text.h"
 
 namespace Xml {

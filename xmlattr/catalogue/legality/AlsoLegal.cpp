@@ -1,6 +1,6 @@
 #include "xmlattr/catalogue/legality/AlsoLegal.h"
 
-#include "xmlattr/catalogue/legality/Words.h"
+#include "xmlattr/catalogue/text/Words.h"
 
 #include "xmlattr/core/String.h"
 #include "xmlattr/core/Text.h"

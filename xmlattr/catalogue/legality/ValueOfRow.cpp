@@ -2,7 +2,7 @@
 
 #include "xmlattr/catalogue/legality/AlsoLegal.h"
 #include "xmlattr/catalogue/legality/Expression.h"
-#include "xmlattr/catalogue/legality/Words.h"
+#include "xmlattr/catalogue/text/Words.h"
 #include "xmlattr/catalogue/types/AttributeTypes.h"
 
 namespace Xml {

@@ -1,4 +1,4 @@
-#include "xmlattr/catalogue/legality/Words.h"
+#include "xmlattr/catalogue/text/Words.h"
 
 #include "xmlattr/core/Text.h"
 
