@@ -45,7 +45,7 @@ RawTag::RawTag(std::u32string tag, Place place) : text(std::move(tag)), start(pl
         Attribute attribute;
         attribute.name = cursor;
         skip(cursor, isName);
-        std::size_t const nameEnd = cursor.index;
+        attribute.nameEnd = cursor.index;
         skip(cursor, [](char32_t c) { return Xml::isXmlSpace(c) || c == U'='; });
         if (atEnd(cursor)) return;
         char32_t const quote = text[cursor.index];
@@ -55,7 +55,7 @@ RawTag::RawTag(std::u32string tag, Place place) : text(std::move(tag)), start(pl
         if (atEnd(cursor)) return;
         attribute.end = cursor.index;
         advance(cursor);
-        auto const name = std::u32string_view(text).substr(attribute.name.index, nameEnd - attribute.name.index);
+        std::u32string_view const name = slice(attribute.name.index, attribute.nameEnd);
         if (name != U"xmlns" && !name.starts_with(U"xmlns:")) attributes.push_back(attribute);
     }
 }
@@ -76,7 +76,17 @@ template <class Belongs> void RawTag::skip(Cursor& cursor, Belongs belongs) cons
 std::string RawTag::elementName() const {
     std::size_t end = 1;
     while (end < text.size() && !Xml::isXmlSpace(text[end]) && text[end] != U'/' && text[end] != U'>') ++end;
-    return text.empty() ? std::string() : toUtf8(std::u32string_view(text).substr(1, end - 1));
+    return text.empty() ? std::string() : toUtf8(slice(1, end));
+}
+
+std::vector<std::string> RawTag::prefixes() const {
+    std::vector<std::string> all;
+    auto const add = [&](std::string const& name) {
+        if (std::size_t const colon = name.find(':'); colon != std::string::npos) all.push_back(name.substr(0, colon));
+    };
+    add(elementName());
+    for (Attribute const& attribute : attributes) add(toUtf8(slice(attribute.name.index, attribute.nameEnd)));
+    return all;
 }
 
 Place RawTag::attribute(std::size_t attribute) const {
@@ -113,8 +123,7 @@ Place RawTag::inValue(std::size_t attribute, std::size_t offset) {
 
 bool RawTag::refersOnlyTo(std::size_t attribute, std::set<std::string> const& entities) const {
     if (attribute >= attributes.size()) return false;
-    auto const& [name, begin, end] = attributes[attribute];
-    for (auto rest = std::u32string_view(text).substr(begin.index, end - begin.index);;) {
+    for (auto rest = slice(attributes[attribute].value.index, attributes[attribute].end);;) {
         std::size_t const reference = rest.find(U'&');
         if (reference == std::u32string_view::npos) return true;
         rest.remove_prefix(reference + 1);

@@ -25,6 +25,8 @@ public:
 
     // As the tag has it, prefix included; empty for an empty text.
     std::string elementName() const;
+    // The prefixes of the names in the tag, the element's first; declarations of namespaces left out.
+    std::vector<std::string> prefixes() const;
     // Where the name of the attribute begins.
     Place attribute(std::size_t attribute) const;
     // Where the code point stands that `offset` bytes of the value's UTF-8 precede. Asking for
@@ -42,10 +44,13 @@ private:
     };
     struct Attribute {
         Cursor name, value;
-        std::size_t end = 0; // of the value
+        std::size_t nameEnd = 0, end = 0; // of the name and the value
     };
 
     bool atEnd(Cursor const& cursor) const { return cursor.index >= text.size(); }
+    std::u32string_view slice(std::size_t begin, std::size_t end) const {
+        return std::u32string_view(text).substr(begin, end - begin);
+    }
     void advance(Cursor& cursor) const;
     template <class Belongs> void skip(Cursor& cursor, Belongs belongs) const;
     // Moves over one unit of a value and tells how many bytes it gives; 0 for an entity.

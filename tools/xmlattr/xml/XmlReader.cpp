@@ -2,12 +2,12 @@
 
 #include "text/Text.h"
 #include "xml/Encoding.h"
+#include "xml/GzipSource.h"
+#include "xml/TranscodedSource.h"
 
 #include "xmlattr/catalogue/text/Words.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
 #include <exception>
 #include <memory>
 #include <set>
@@ -22,10 +22,12 @@ namespace {
 
 constexpr int maxDepth = 10'000;
 constexpr std::int64_t maxTag = 32 << 20;
+constexpr std::size_t maxText = 64 << 10;
 constexpr int blockSize = 64 << 10;
-constexpr char separator = '\x1F'; // between a namespace and a name; no document can contain it
+constexpr std::size_t longestDeclaration = 1 << 10; // of XML, where it names an encoding
+constexpr char separator = '\x1F';                  // between a namespace and a name; no document can contain it
 
-constexpr std::string_view readEncodings = "UTF-8, UTF-16, ISO-8859-1, US-ASCII and windows-1252 are";
+constexpr std::string_view readEncodings = "UTF-8, UTF-16, ISO-8859-1, US-ASCII and windows-1252 always are";
 
 struct SingleByteEncoding {
     std::string_view name;
@@ -52,28 +54,46 @@ public:
         XML_SetElementHandler(parser.get(), onStart, onEnd);
         XML_SetXmlDeclHandler(parser.get(), onDeclaration);
         XML_SetUnknownEncodingHandler(parser.get(), onUnknownEncoding, this);
+        XML_SetNamespaceDeclHandler(parser.get(), onNamespace, onNamespaceEnd);
         XML_SetNotStandaloneHandler(parser.get(), onUnreadDeclarations);
+        XML_SetSkippedEntityHandler(parser.get(), onSkippedEntity);
+        XML_SetExternalEntityRefHandler(parser.get(), onExternalEntity);
         XML_SetEntityDeclHandler(parser.get(), onEntity);
         XML_SetParamEntityParsing(parser.get(), XML_PARAM_ENTITY_PARSING_NEVER);
         XML_SetBillionLaughsAttackProtectionMaximumAmplification(parser.get(), 100.0f);
         XML_SetBillionLaughsAttackProtectionActivationThreshold(parser.get(), 1 << 20);
     }
 
-    std::optional<XmlFailure> read(std::FILE* file) {
+    // In the encoding that it declares.
+    std::optional<XmlFailure> read(ByteSource& declared) {
+        PeekedSource source(declared);
+        std::string const foreign = foreignEncoding(source.peek(longestDeclaration));
+        if (foreign.empty()) return readOwn(source);
+        std::unique_ptr<TranscodedSource> const transcoded = TranscodedSource::open(source, foreign);
+        if (!transcoded) return readOwn(source); // the parser finds the name again and refuses it
+        XML_SetEncoding(parser.get(), "UTF-8");
+        isTranscoded = true;
+        return readOwn(*transcoded);
+    }
+
+private:
+    // In an encoding of the parser's own.
+    std::optional<XmlFailure> readOwn(ByteSource& source) {
         std::int64_t total = 0;
         for (int size = blockSize;;) {
             void* const buffer = XML_GetBuffer(parser.get(), size);
             if (!buffer) return failed("limit", "out of memory");
-            std::size_t const count = std::fread(buffer, 1, static_cast<std::size_t>(size), file);
-            if (std::ferror(file)) return XmlFailure{"unreadable", std::strerror(errno), std::nullopt};
-            if (total == 0) noteMark({static_cast<char const*>(buffer), count});
+            std::span const block(static_cast<char*>(buffer), static_cast<std::size_t>(size));
+            std::size_t const count = source.read(block);
+            if (total == 0) noteMark({block.data(), count});
             total += static_cast<std::int64_t>(count);
 
-            bool const isLast = count < static_cast<std::size_t>(size);
+            bool const isLast = count == 0 && !source.failure();
             XML_Status const status = XML_ParseBuffer(parser.get(), static_cast<int>(count), isLast);
             if (thrown) std::rethrow_exception(thrown);
             if (failure) return failure;
             if (status != XML_STATUS_OK) return parserFailure();
+            if (source.failure()) return sourceFailure(*source.failure());
             if (isLast) return std::nullopt;
 
             // A tag is read anew with each block until it is whole: blocks that grow with it keep
@@ -84,16 +104,38 @@ public:
         }
     }
 
-private:
     static void XMLCALL onStart(void* self, XML_Char const* name, XML_Char const** attributes) {
         static_cast<Reader*>(self)->start(name, attributes);
     }
 
-    static void XMLCALL onEnd(void* self, XML_Char const*) { --static_cast<Reader*>(self)->depth; }
+    static void XMLCALL onEnd(void* self, XML_Char const*) { static_cast<Reader*>(self)->end(); }
+
+    static void XMLCALL onText(void* self, XML_Char const* text, int length) {
+        static_cast<Reader*>(self)->collect({text, static_cast<std::size_t>(length)});
+    }
+
+    static void XMLCALL onNamespace(void* self, XML_Char const* prefix, XML_Char const* space) {
+        static_cast<Reader*>(self)->namespaces.begin(prefix ? prefix : "", space ? space : "");
+    }
+
+    static void XMLCALL onNamespaceEnd(void* self, XML_Char const* prefix) {
+        static_cast<Reader*>(self)->namespaces.end(prefix ? prefix : "");
+    }
+
+    static void XMLCALL onSkippedEntity(void* self, XML_Char const*, int isParameter) {
+        if (!isParameter) static_cast<Reader*>(self)->missContent();
+    }
+
+    static int XMLCALL onExternalEntity(XML_Parser parser, XML_Char const*, XML_Char const*, XML_Char const*,
+                                        XML_Char const*) {
+        static_cast<Reader*>(XML_GetUserData(parser))->missContent();
+        return XML_STATUS_OK;
+    }
 
     static void XMLCALL onDeclaration(void* self, XML_Char const*, XML_Char const* encoding, int) {
         auto& known = static_cast<Reader*>(self)->encoding;
-        if (encoding && known == ByteEncoding::Utf8) known = singleByteEncoding(encoding);
+        bool const isTranscoded = static_cast<Reader*>(self)->isTranscoded;
+        if (encoding && known == ByteEncoding::Utf8 && !isTranscoded) known = singleByteEncoding(encoding);
     }
 
     // Called for an external DTD and for a parameter entity: the parser then takes an entity that it
@@ -140,7 +182,7 @@ private:
             XML_StopParser(parser.get(), XML_FALSE);
             return;
         }
-        XmlElement element{.space = {}, .name = name, .attributes = {}, .depth = depth++};
+        XmlElement element{.space = {}, .name = name, .attributes = {}, .depth = depth++, .namespaces = namespaces};
         split(element.space, element.name);
         attributes.clear();
         for (; texts[0]; texts += 2) {
@@ -152,12 +194,61 @@ private:
         element.attributes = attributes;
         hasTag = false;
         last = {};
-        try {
+        guarded([&] {
             handler.startElement(element, *this);
+            if (collected.depth > 0 && (element.space != xsltNamespace || element.name != "text")) stopCollecting();
+            if (collected.depth == 0 && handler.wantsText(element)) startCollecting();
+        });
+    }
+
+    void end() {
+        if (collected.depth == depth && !failure && !thrown) {
+            Place const place = collected.place.value_or(here());
+            bool const isWhole = collected.isWhole;
+            stopCollecting();
+            guarded([&] { handler.text({collected.text, place, isWhole}); });
+        }
+        --depth;
+    }
+
+    // No exception passes through the parser.
+    template <class Call> void guarded(Call call) {
+        try {
+            call();
         } catch (...) {
             thrown = std::current_exception();
             XML_StopParser(parser.get(), XML_FALSE);
         }
+    }
+
+    void startCollecting() {
+        collected.depth = depth;
+        collected.text.clear();
+        collected.place.reset();
+        collected.isWhole = true;
+        XML_SetCharacterDataHandler(parser.get(), onText);
+    }
+
+    void stopCollecting() {
+        collected.depth = 0;
+        XML_SetCharacterDataHandler(parser.get(), nullptr);
+    }
+
+    // A line end comes alone.
+    void collect(std::string_view text) {
+        if (collected.depth == 0) return;
+        std::size_t const blanks = text.find_first_not_of(" \t\r\n");
+        if (!collected.place && blanks != std::string_view::npos) {
+            collected.place = here();
+            collected.place->column += blanks;
+        }
+        collected.text += text;
+        if (collected.text.size() > maxText) stopCollecting();
+    }
+
+    void missContent() {
+        collected.isWhole = false;
+        guarded([&] { handler.missingContent(); });
     }
 
     static void split(std::string_view& space, std::string_view& name) {
@@ -192,9 +283,21 @@ private:
         return {line, before + 1 - (line == 1 ? std::min(before, markColumns) : 0)};
     }
 
+    std::optional<XmlFailure> sourceFailure(SourceFailure const& source) const {
+        if (source.id == "unreadable") return XmlFailure{source.id, source.message, std::nullopt};
+        return failed(source.id, source.message);
+    }
+
+    // The prefix of the tag at hand that no declaration has.
+    std::string unboundPrefix() {
+        for (std::string const& prefix : raw().prefixes())
+            if (prefix != "xml" && namespaces.of(prefix).empty()) return prefix;
+        return {};
+    }
+
     XmlFailure failed(std::string_view id, std::string message) const { return {id, std::move(message), here()}; }
 
-    XmlFailure parserFailure() const {
+    XmlFailure parserFailure() {
         XML_Error const code = XML_GetErrorCode(parser.get());
         switch (code) {
         case XML_ERROR_UNKNOWN_ENCODING:
@@ -205,6 +308,11 @@ private:
         case XML_ERROR_AMPLIFICATION_LIMIT_BREACH:
             return failed("limit", "entities expand to more than 100 times the size of the file");
         case XML_ERROR_NO_MEMORY: return failed("limit", "more memory than the size of the file explains");
+        case XML_ERROR_UNBOUND_PREFIX:
+            hasTag = false;
+            if (std::string const prefix = unboundPrefix(); !prefix.empty())
+                return failed("malformed", "the prefix " + shown(prefix) + " is not declared");
+            return failed("malformed", "a prefix is not declared");
         case XML_ERROR_NO_ELEMENTS:
             return failed("malformed", depth > 0 ? "the file ends inside of an element" : "no element in the file");
         case XML_ERROR_UNCLOSED_TOKEN:
@@ -222,6 +330,7 @@ private:
     XmlHandler& handler;
     std::unique_ptr<std::remove_pointer_t<XML_Parser>, Free> parser;
     ByteEncoding encoding = ByteEncoding::Utf8;
+    bool isTranscoded = false;
     std::uint64_t markColumns = 0; // on line 1
     std::string unknownEncoding;
     int depth = 0;
@@ -230,6 +339,13 @@ private:
     RawTag tag;
     bool hasUnreadDeclarations = false;
     std::set<std::string> knownEntities;
+    Namespaces namespaces;
+    struct {
+        int depth = 0; // of the element whose text is wanted, counted from 1; 0 for none
+        std::string text;
+        std::optional<Place> place;
+        bool isWhole = true;
+    } collected;
     struct {
         std::size_t attribute = SIZE_MAX;
         bool isWhole = false;
@@ -240,8 +356,16 @@ private:
 
 } // namespace
 
+std::optional<XmlFailure> readXml(ByteSource& source, XmlHandler& handler) {
+    PeekedSource peeked(source);
+    if (!isGzip(peeked.peek(2))) return Reader(handler).read(peeked);
+    GzipSource expanded(peeked);
+    return Reader(handler).read(expanded);
+}
+
 std::optional<XmlFailure> readXml(std::FILE* file, XmlHandler& handler) {
-    return Reader(handler).read(file);
+    FileSource source(file);
+    return readXml(source, handler);
 }
 
 } // namespace Command

@@ -2,6 +2,8 @@
 // the tag at hand. The only face of the XML parser in the command.
 #pragma once
 
+#include "xml/ByteSource.h"
+#include "xml/Namespaces.h"
 #include "xml/RawTag.h"
 
 #include <cstdio>
@@ -21,6 +23,14 @@ struct XmlElement {
     std::string_view space, name;
     std::span<XmlAttributeText const> attributes; // without the declarations of namespaces
     int depth;                                    // 0 for the root
+    Namespaces const& namespaces;                 // in scope
+};
+
+// What an element holds when it holds nothing but text, its xsl:text elements taken for theirs.
+struct XmlText {
+    std::string_view text; // UTF-8
+    Place place;           // of the first character that is no white space; of the end when there is none
+    bool isWhole;          // false when an entity that is not read left something out
 };
 
 class XmlHandler {
@@ -38,6 +48,18 @@ public:
         ~Tag() = default;
     };
     virtual void startElement(XmlElement const& element, Tag& tag) = 0;
+
+    // Asked after the start of an element whether text() shall tell what it holds.
+    virtual bool wantsText(XmlElement const& element) {
+        (void)element;
+        return false;
+    }
+    // Called at the end of an element whose text is wanted, unless it holds other elements than xsl:text, or
+    // more than 64 KiB.
+    virtual void text(XmlText const& text) { (void)text; }
+
+    // Called when the content of an entity that is not read is missing: there may be elements in it.
+    virtual void missingContent() {}
 };
 
 // Why a document was not read to its end.
@@ -47,9 +69,11 @@ struct XmlFailure {
     std::optional<Place> place;
 };
 
-// Hands each element of an open file to the handler. The file may be in UTF-8, UTF-16, ISO-8859-1,
-// US-ASCII or windows-1252. No external entity is ever read. There is a limit to how far entities
-// may expand, how deep elements nest and how long one tag is; memory is bounded by the longest tag.
+// Hands each element of an open document to the handler. It may be in UTF-8, UTF-16, ISO-8859-1, US-ASCII or
+// windows-1252, or in any encoding that the machine's iconv knows, and compressed with gzip. No external entity
+// is ever read. There is a limit to how far entities and compressed files may expand, how deep elements nest and
+// how long one tag is; memory is bounded by the longest tag.
+std::optional<XmlFailure> readXml(ByteSource& source, XmlHandler& handler);
 std::optional<XmlFailure> readXml(std::FILE* file, XmlHandler& handler);
 
 } // namespace Command

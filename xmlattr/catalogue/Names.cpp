@@ -1,0 +1,136 @@
+#include "xmlattr/catalogue/Names.h"
+
+#include "xmlattr/catalogue/Elements.h"
+#include "xmlattr/catalogue/NameTable.h"
+#include "xmlattr/core/Text.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace Xml {
+
+namespace {
+
+enum class NameKind : std::uint8_t { Element, Attribute, Property };
+using enum NameKind;
+
+struct NewerName {
+    NameKind kind;
+    std::string_view name, source;
+};
+
+constexpr NewerName newerNames[] = {
+#define XMLATTR_NEWER(kind, name, source) {kind, name, source},
+#include "xmlattr/catalogue/NewerNames.inc"
+#undef XMLATTR_NEWER
+};
+
+// The rows of a kind stand together.
+template <NameKind kind>
+constexpr std::size_t countOf = static_cast<std::size_t>(std::ranges::count(newerNames, kind, &NewerName::kind));
+template <NameKind kind> constexpr NewerName const* firstOf = std::ranges::find(newerNames, kind, &NewerName::kind);
+
+template <NameKind kind> constexpr auto tableOf() {
+    std::array<std::string_view, countOf<kind>> names;
+    for (std::size_t i = 0; i < names.size(); ++i) names[i] = firstOf<kind>[i].name;
+    return NameTable<countOf<kind>>(names);
+}
+
+// Who has the newer name; empty when nobody does.
+template <NameKind kind> std::string_view newer(std::string_view name) {
+    static constexpr auto table = tableOf<kind>();
+    std::size_t const number = table.find(name);
+    return number == table.npos ? std::string_view() : firstOf<kind>[number].source;
+}
+
+constexpr char toLower(char c) {
+    return static_cast<char>(Core::toLower(static_cast<unsigned char>(c)));
+}
+
+bool equalsInLowerCase(std::string_view a, std::string_view b) {
+    return std::ranges::equal(a, b, {}, toLower, toLower);
+}
+
+// Whether one letter was left out, doubled or mistyped, or two neighbours were exchanged.
+bool isOneEdit(std::string_view a, std::string_view b) {
+    if (a.size() < b.size()) std::swap(a, b);
+    if (a.size() - b.size() > 1) return false;
+    std::size_t const at = static_cast<std::size_t>(std::ranges::mismatch(a, b).in1 - a.begin());
+    if (a.size() > b.size()) return a.substr(at + 1) == b.substr(at);
+    if (at == a.size() || a.substr(at + 1) == b.substr(at + 1)) return true;
+    return at + 1 < a.size() && a[at] == b[at + 1] && a[at + 1] == b[at] && a.substr(at + 2) == b.substr(at + 2);
+}
+
+// One letter of two says nothing.
+constexpr std::size_t shortestWithEdit = 3;
+
+template <class Accepts>
+std::string_view nearest(std::span<std::string_view const> names, std::string_view name, Accepts accepts) {
+    std::string_view edited;
+    for (std::string_view const known : names) {
+        if (equalsInLowerCase(known, name) && accepts(known)) return known;
+        bool const isNear = edited.empty() && name.size() >= shortestWithEdit && isOneEdit(known, name);
+        if (isNear && accepts(known)) edited = known;
+    }
+    return edited;
+}
+
+std::string_view nearest(std::span<std::string_view const> names, std::string_view name) {
+    return nearest(names, name, [](std::string_view) { return true; });
+}
+
+// "space" for "xml:space"; empty when no known name has such a prefix.
+std::string_view withPrefix(std::span<std::string_view const> names, std::string_view name) {
+    for (std::string_view const known : names) {
+        std::size_t const colon = known.find(':');
+        if (colon != std::string_view::npos && known.substr(colon + 1) == name) return known;
+    }
+    return {};
+}
+
+bool isEventHandler(std::string_view name) {
+    return name.size() > 2 && name.starts_with("on") &&
+           std::ranges::all_of(name, [](char c) { return c >= 'a' && c <= 'z'; });
+}
+
+} // namespace
+
+NameFact Names::ofElement(Vocabulary vocabulary, std::string_view element) noexcept {
+    if (Elements::isKnown(vocabulary, element)) return {NameStanding::Known, {}};
+    if (vocabulary == Vocabulary::Svg)
+        if (std::string_view const source = newer<Element>(element); !source.empty())
+            return {NameStanding::Newer, source};
+    return {NameStanding::Unknown, nearest(Elements::names(vocabulary), element)};
+}
+
+NameFact Names::ofAttribute(Vocabulary vocabulary, std::string_view attribute) noexcept {
+    if (Elements::isAttribute(vocabulary, attribute)) return {NameStanding::Known, {}};
+    if (attribute.starts_with("data-") || attribute.starts_with("aria-")) return {NameStanding::Open, {}};
+    bool const isSvg = vocabulary == Vocabulary::Svg;
+    // XSL-FO has no links of XLink's: there they are a foreign namespace's.
+    if (isSvg ? isEventHandler(attribute) || attribute == "role" : attribute.starts_with("xlink:"))
+        return {NameStanding::Open, {}};
+    std::string_view source = isSvg || attribute == "xml:id" ? newer<Attribute>(attribute) : std::string_view();
+    if (source.empty() && isSvg) source = newer<Property>(attribute);
+    if (!source.empty()) return {NameStanding::Newer, source};
+    std::span<std::string_view const> const known = Elements::attributes(vocabulary);
+    std::string_view const prefixed = withPrefix(known, attribute);
+    return {NameStanding::Unknown, prefixed.empty() ? nearest(known, attribute) : prefixed};
+}
+
+NameFact Names::ofProperty(std::string_view property) noexcept {
+    if (property.starts_with('-')) return {NameStanding::Open, {}};
+    std::array<char, 64> letters;
+    if (property.size() > letters.size()) return {NameStanding::Unknown, {}};
+    std::ranges::transform(property, letters.begin(), toLower);
+    std::string_view const name(letters.data(), property.size());
+    auto const isProperty = [](std::string_view known) {
+        CatalogueEntry const* const entry = Catalogue::find(Vocabulary::Svg, "*", known);
+        return entry && entry->isPresentation();
+    };
+    if (isProperty(name)) return {NameStanding::Known, {}};
+    if (std::string_view const source = newer<Property>(name); !source.empty()) return {NameStanding::Newer, source};
+    return {NameStanding::Unknown, nearest(Elements::attributes(Vocabulary::Svg), name, isProperty)};
+}
+
+} // namespace Xml
