@@ -1,6 +1,7 @@
 #include "xmlattr/catalogue/Elements.h"
 
 #include "xmlattr/catalogue/NameTable.h"
+#include "xmlattr/catalogue/TableText.h"
 
 #include <iterator>
 
@@ -8,41 +9,49 @@ namespace Xml {
 
 namespace {
 
-// What this file needs of a row of the catalogue.
-struct Attribute {
-    std::string_view name;
+struct Scope {
     bool isInherited, isPresentation;
 };
 
-constexpr bool Yes = true, No = false;
+constexpr Scope Local{false, false}, Inherited{true, false}, Presentation{false, true},
+    InheritedPresentation{true, true};
 
-#define XMLATTR_PROPERTY(element, attribute, kind, valueType, alsoLegal, defaultConstant, inherited, note)             \
-    {attribute, inherited, std::string_view(note).starts_with("presentation")},
-constexpr Attribute foRows[] = {
-#include "xmlattr/catalogue/FoProperties.inc"
+// What this file needs of a row of the catalogue.
+struct Attribute {
+    Vocabulary vocabulary;
+    std::string_view name;
+    Scope scope;
 };
-constexpr Attribute svgRows[] = {
-#include "xmlattr/catalogue/SvgProperties.inc"
+
+constexpr Attribute rows[] = {
+#define XMLATTR_TYPED(elements, attribute, scope, ...) {XMLATTR_VOCABULARY, attribute, scope},
+#define XMLATTR_SHORTHAND XMLATTR_TYPED
+#define XMLATTR_UNTYPED XMLATTR_TYPED
+#define XMLATTR_IDENTIFIER XMLATTR_TYPED
+#define XMLATTR_TEXT XMLATTR_TYPED
+#include "xmlattr/catalogue/Properties.inc"
 };
-#undef XMLATTR_PROPERTY
 
 // The rows of an attribute stand together.
-template <auto const& rows> constexpr auto tableOfAttributes() {
-    constexpr auto isNext = [](std::size_t i) { return i == 0 || rows[i - 1].name != rows[i].name; };
+template <Vocabulary vocabulary> constexpr auto tableOfAttributes() {
+    constexpr auto isFirst = [](std::size_t i) {
+        return rows[i].vocabulary == vocabulary &&
+               (i == 0 || rows[i - 1].vocabulary != vocabulary || rows[i - 1].name != rows[i].name);
+    };
     constexpr std::size_t count = [&] {
         std::size_t different = 0;
-        for (std::size_t i = 0; i < std::size(rows); ++i) different += isNext(i) ? 1u : 0u;
+        for (std::size_t i = 0; i < std::size(rows); ++i) different += isFirst(i) ? 1u : 0u;
         return different;
     }();
     std::array<std::string_view, count> names;
     std::size_t next = 0;
     for (std::size_t i = 0; i < std::size(rows); ++i)
-        if (isNext(i)) names[next++] = rows[i].name;
+        if (isFirst(i)) names[next++] = rows[i].name;
     return NameTable<count>(names);
 }
 
-constexpr auto foAttributes = tableOfAttributes<foRows>();
-constexpr auto svgAttributes = tableOfAttributes<svgRows>();
+constexpr auto foAttributes = tableOfAttributes<Vocabulary::Fo>();
+constexpr auto svgAttributes = tableOfAttributes<Vocabulary::Svg>();
 
 // A set of attributes of one vocabulary, by their numbers.
 struct AttributeSet {
@@ -127,8 +136,8 @@ constexpr AttributeSet Numbering = properties("format grouping-separator groupin
 constexpr AttributeSet Anywhere =
     properties("id index-class index-key role source-document text-decoration text-shadow xml:base xml:space") | [] {
         AttributeSet inherited;
-        for (Attribute const& row : foRows)
-            if (row.isInherited) inherited.add(foAttributes.find(row.name));
+        for (Attribute const& row : rows)
+            if (row.vocabulary == Vocabulary::Fo && row.scope.isInherited) inherited.add(foAttributes.find(row.name));
         return inherited;
     }();
 
@@ -171,8 +180,8 @@ constexpr AttributeSet Box = attributes("height width x y");
 constexpr AttributeSet Primitive = Box | attributes("result");
 constexpr AttributeSet Presentation = [] {
     AttributeSet all;
-    for (Attribute const& row : svgRows)
-        if (row.isPresentation) all.add(svgAttributes.find(row.name));
+    for (Attribute const& row : rows)
+        if (row.vocabulary == Vocabulary::Svg && row.scope.isPresentation) all.add(svgAttributes.find(row.name));
     return all;
 }();
 constexpr AttributeSet Graphics = Core | Conditional | GraphicalEvents | Presentation | Styling;

@@ -126,7 +126,7 @@ NameFact Names::ofProperty(std::string_view property) noexcept {
     std::string_view const name(letters.data(), property.size());
     auto const isProperty = [](std::string_view known) {
         CatalogueEntry const* const entry = Catalogue::find(Vocabulary::Svg, "*", known);
-        return entry && entry->isPresentation();
+        return entry && entry->isPresentation;
     };
     if (isProperty(name)) return {NameStanding::Known, {}};
     if (std::string_view const source = newer<Property>(name); !source.empty()) return {NameStanding::Newer, source};

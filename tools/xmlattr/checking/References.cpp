@@ -121,9 +121,10 @@ struct References::Occurrence {
 
 void References::startElement(XmlElement const& element, std::optional<Xml::Vocabulary> vocabulary,
                               XmlHandler::Tag& tag, Report const& report) {
-    if (drawingDepth && element.depth <= *drawingDepth) drawingDepth.reset();
     bool const isSvg = vocabulary == Xml::Vocabulary::Svg;
-    if (isSvg && !drawingDepth && element.depth > 0) {
+    if (element.depth == 0) isDrawing = isSvg;
+    if (drawingDepth && element.depth <= *drawingDepth) drawingDepth.reset();
+    if (isSvg && !isDrawing && !drawingDepth) {
         drawingDepth = element.depth;
         ++drawing;
     }
@@ -163,12 +164,12 @@ void References::startElement(XmlElement const& element, std::optional<Xml::Voca
 
 // An id of a foreign element is no fault, and can be referred to.
 void References::addId(Occurrence const& occurrence, Report const& report) {
-    std::string_view const id = trimmed(occurrence.text);
-    if (id.empty() || isFull) return;
     if (!occurrence.tag.isWhole(occurrence.number)) {
         knowsAllIds = false;
         return;
     }
+    std::string_view const id = trimmed(occurrence.text);
+    if (id.empty() || isFull) return;
     if (ids.size() + 2 > limits.ids) {
         isFull = true;
         return;

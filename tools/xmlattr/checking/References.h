@@ -80,7 +80,8 @@ private:
     NumberSet ids;
     std::vector<Pending> pending;
     bool isStylesheet = false, knowsAllIds = true, isFull = false;
-    std::optional<int> drawingDepth; // of the outermost svg element, where it is embedded
+    bool isDrawing = false;          // the document as a whole
+    std::optional<int> drawingDepth; // of the outermost element of an embedded drawing
     std::uint64_t drawing = 0;       // its number
 };
 

@@ -15,10 +15,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr std::u16string_view documentExtensions[] = {u".fo", u".svg", u".svgz", u".xml", u".xsl", u".xslt"};
+
 bool isDocument(fs::path const& path) {
     std::u16string const extension = path.extension().u16string();
-    return Core::equalsNoCase(extension, u".fo") || Core::equalsNoCase(extension, u".xml") ||
-           Core::equalsNoCase(extension, u".svg");
+    return std::ranges::any_of(documentExtensions,
+                               [&](std::u16string_view known) { return Core::equalsNoCase(extension, known); });
 }
 
 void gatherDirectory(std::string const& directory, FileList& list) {
@@ -33,7 +35,7 @@ void gatherDirectory(std::string const& directory, FileList& list) {
     if (error) list.problems.push_back(directory + ": " + error.message());
     std::sort(list.files.begin() + static_cast<std::ptrdiff_t>(before), list.files.end());
     if (!error && list.files.size() == before)
-        list.problems.push_back(directory + ": no .fo, .xml or .svg file in this directory");
+        list.problems.push_back(directory + ": no .fo, .svg, .svgz, .xml, .xsl or .xslt file in this directory");
 }
 
 } // namespace

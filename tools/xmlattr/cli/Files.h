@@ -11,8 +11,8 @@ struct FileList {
     std::vector<std::string> problems; // what names no document
 };
 
-// Files as they are; a directory stands for every .fo, .xml and .svg file in it and below it, in
-// the order of their names. Standard input is read once.
+// Files as they are; a directory stands for every .fo, .svg, .svgz, .xml, .xsl and .xslt file in it and
+// below it, in the order of their names. Standard input is read once.
 FileList gatherFiles(std::vector<std::string> const& paths);
 
 // The lines of a file that lists paths, empty ones left out; "-" is standard input. False when it

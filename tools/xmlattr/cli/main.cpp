@@ -64,7 +64,7 @@ int run(int argc, char** argv) {
     CLI::App* const checkCommand = app.add_subcommand("check", "Report each attribute that its value type refuses");
     checkCommand
         ->add_option("FILE", checking.paths,
-                     "Documents; directories, for the .fo, .xml and .svg files below; - for standard input")
+                     "Documents; directories, for their documents and stylesheets; - for standard input")
         ->type_name("");
     checkCommand->add_option("--files-from", checking.filesFrom, "Read paths from this file, one a line")
         ->type_name("FILE");

@@ -34,7 +34,8 @@ std::string_view declaredEncoding(std::string_view start) {
     if (!rest.starts_with('=')) return {};
     rest = afterBlanks(rest.substr(1));
     if (!rest.starts_with('"') && !rest.starts_with('\'')) return {};
-    return rest.substr(1, rest.find(rest[0], 1) - 1);
+    std::size_t const end = rest.find(rest[0], 1);
+    return end == std::string_view::npos ? std::string_view() : rest.substr(1, end - 1);
 }
 
 } // namespace

@@ -261,12 +261,10 @@ private:
     RawTag& raw() override {
         if (hasTag) return tag;
         hasTag = true;
-        int offset = 0, size = 0;
-        char const* const context = XML_GetInputContext(parser.get(), &offset, &size);
         int const count = XML_GetCurrentByteCount(parser.get()); // 0 inside of an entity
-        std::string_view const bytes = context && offset >= 0 && count <= size - offset
-                                           ? std::string_view(context + offset, static_cast<std::size_t>(count))
-                                           : std::string_view();
+        std::string_view const rest = bytesFromHere();
+        bool const isHere = count >= 0 && static_cast<std::size_t>(count) <= rest.size();
+        std::string_view const bytes = isHere ? rest.substr(0, static_cast<std::size_t>(count)) : std::string_view();
         tag = RawTag(decode(bytes, encoding), here());
         return tag;
     }
@@ -275,6 +273,14 @@ private:
         if (!hasUnreadDeclarations) return true;
         if (last.attribute != attribute) last = {attribute, raw().refersOnlyTo(attribute, knownEntities)};
         return last.isWhole;
+    }
+
+    // What the parser has of the file from the event at hand on.
+    std::string_view bytesFromHere() const {
+        int offset = 0, size = 0;
+        char const* const context = XML_GetInputContext(parser.get(), &offset, &size);
+        if (!context || offset < 0 || offset > size) return {};
+        return std::string_view(context, static_cast<std::size_t>(size)).substr(static_cast<std::size_t>(offset));
     }
 
     Place here() const {
@@ -288,16 +294,16 @@ private:
         return failed(source.id, source.message);
     }
 
-    // The prefix of the tag at hand that no declaration has.
-    std::string unboundPrefix() {
-        for (std::string const& prefix : raw().prefixes())
+    // The prefix of the tag at hand that no declaration has; after an error the tag has no end.
+    std::string unboundPrefix() const {
+        for (std::string const& prefix : RawTag(decode(bytesFromHere(), encoding), here()).prefixes())
             if (prefix != "xml" && namespaces.of(prefix).empty()) return prefix;
         return {};
     }
 
     XmlFailure failed(std::string_view id, std::string message) const { return {id, std::move(message), here()}; }
 
-    XmlFailure parserFailure() {
+    XmlFailure parserFailure() const {
         XML_Error const code = XML_GetErrorCode(parser.get());
         switch (code) {
         case XML_ERROR_UNKNOWN_ENCODING:
@@ -309,7 +315,6 @@ private:
             return failed("limit", "entities expand to more than 100 times the size of the file");
         case XML_ERROR_NO_MEMORY: return failed("limit", "more memory than the size of the file explains");
         case XML_ERROR_UNBOUND_PREFIX:
-            hasTag = false;
             if (std::string const prefix = unboundPrefix(); !prefix.empty())
                 return failed("malformed", "the prefix " + shown(prefix) + " is not declared");
             return failed("malformed", "a prefix is not declared");
