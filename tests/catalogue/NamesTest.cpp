@@ -67,6 +67,14 @@ TEST(Names, OfPropertiesHaveNoCase) {
     EXPECT_EQ(Names::ofProperty(std::string(100'000, 'x')), (NameFact{Unknown, ""}));
 }
 
+TEST(Names, MayStandInNewerPlaces) {
+    for (auto const& [element, attribute] :
+         {std::pair{"rect", "pathLength"}, {"script", "class"}, {"set", "fill"}, {"rect", "lang"}})
+        EXPECT_TRUE(Names::isNewerOn(element, attribute)) << attribute << " on " << element;
+    for (auto const& [element, attribute] : {std::pair{"rect", "points"}, {"g", "pathLength"}, {"symbol", "z"}})
+        EXPECT_FALSE(Names::isNewerOn(element, attribute)) << attribute << " on " << element;
+}
+
 TEST(Names, OfElements) {
     struct Row {
         Vocabulary vocabulary;

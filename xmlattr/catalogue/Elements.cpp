@@ -80,7 +80,7 @@ template <auto const& table> constexpr AttributeSet setOf(std::string_view names
         std::string_view const name = names.substr(0, length);
         names.remove_prefix(length == std::string_view::npos ? names.size() : length + 1);
         std::size_t number = table.find(name);
-        if (number == table.npos) throw "the catalogue has no such attribute";
+        if (number == noName) throw "the catalogue has no such attribute";
         set.add(number);
         auto const isComponent = [&](std::string_view next) {
             return next.size() > name.size() && next.starts_with(name) && next[name.size()] == '.';
@@ -94,6 +94,12 @@ template <auto const& elements> constexpr auto tableOfElements() {
     std::array<std::string_view, std::size(elements)> names;
     for (std::size_t i = 0; i < names.size(); ++i) names[i] = elements[i].name;
     return NameTable<std::size(elements)>(names);
+}
+
+template <auto const& attributes, auto const& elements, auto const& table>
+bool hasIn(std::string_view element, std::string_view attribute) {
+    std::size_t const number = attributes.find(attribute), row = table.find(element);
+    return number != noName && row != noName && elements[row].attributes.contains(number);
 }
 
 namespace fo {
@@ -148,7 +154,7 @@ constexpr AttributeSet Every = [] {
     return all;
 }();
 
-#define XMLATTR_ELEMENT(name, groups, own) {name, (groups) | properties(own)},
+#define XMLATTR_ELEMENT(name, groups, own) {name, Anywhere | (groups) | properties(own)},
 constexpr Element elements[] = {
 #include "xmlattr/catalogue/FoElements.inc"
 };
@@ -204,18 +210,12 @@ std::span<std::string_view const> Elements::names(Vocabulary vocabulary) noexcep
 }
 
 bool Elements::isKnown(Vocabulary vocabulary, std::string_view element) noexcept {
-    return vocabulary == Vocabulary::Fo ? fo::table.find(element) != fo::table.npos
-                                        : svg::table.find(element) != svg::table.npos;
+    return vocabulary == Vocabulary::Fo ? fo::table.contains(element) : svg::table.contains(element);
 }
 
 bool Elements::has(Vocabulary vocabulary, std::string_view element, std::string_view attribute) noexcept {
-    if (vocabulary == Vocabulary::Fo) {
-        std::size_t const number = foAttributes.find(attribute), place = fo::table.find(element);
-        return number != foAttributes.npos && place != fo::table.npos &&
-               (fo::Anywhere.contains(number) || fo::elements[place].attributes.contains(number));
-    }
-    std::size_t const number = svgAttributes.find(attribute), place = svg::table.find(element);
-    return number != svgAttributes.npos && place != svg::table.npos && svg::elements[place].attributes.contains(number);
+    return vocabulary == Vocabulary::Fo ? hasIn<foAttributes, fo::elements, fo::table>(element, attribute)
+                                        : hasIn<svgAttributes, svg::elements, svg::table>(element, attribute);
 }
 
 std::span<std::string_view const> Elements::attributes(Vocabulary vocabulary) noexcept {
@@ -224,8 +224,7 @@ std::span<std::string_view const> Elements::attributes(Vocabulary vocabulary) no
 }
 
 bool Elements::isAttribute(Vocabulary vocabulary, std::string_view attribute) noexcept {
-    return vocabulary == Vocabulary::Fo ? foAttributes.find(attribute) != foAttributes.npos
-                                        : svgAttributes.find(attribute) != svgAttributes.npos;
+    return vocabulary == Vocabulary::Fo ? foAttributes.contains(attribute) : svgAttributes.contains(attribute);
 }
 
 } // namespace Xml

@@ -9,12 +9,12 @@
 
 namespace Xml {
 
+inline constexpr std::size_t noName = SIZE_MAX;
+
 // Numbers the distinct names of an array. An open hash table of number plus one, 0 where nothing is, at most
 // half full.
 template <std::size_t Count> class NameTable {
 public:
-    static constexpr std::size_t npos = SIZE_MAX;
-
     constexpr explicit NameTable(std::array<std::string_view, Count> const& all) : names(all) {
         for (std::size_t i = 0; i < Count; ++i) {
             std::size_t slot = slotOf(names[i]);
@@ -23,11 +23,14 @@ public:
         }
     }
 
+    // The number of the name, or noName.
     constexpr std::size_t find(std::string_view name) const noexcept {
         for (std::size_t slot = slotOf(name); slots[slot] != 0; slot = (slot + 1) % slotCount)
             if (names[slots[slot] - 1U] == name) return slots[slot] - 1U;
-        return npos;
+        return noName;
     }
+
+    constexpr bool contains(std::string_view name) const noexcept { return find(name) != noName; }
 
     std::array<std::string_view, Count> names;
 

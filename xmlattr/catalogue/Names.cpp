@@ -40,7 +40,7 @@ template <NameKind kind> constexpr auto tableOf() {
 template <NameKind kind> std::string_view newer(std::string_view name) {
     static constexpr auto table = tableOf<kind>();
     std::size_t const number = table.find(name);
-    return number == table.npos ? std::string_view() : firstOf<kind>[number].source;
+    return number == noName ? std::string_view() : firstOf<kind>[number].source;
 }
 
 constexpr char toLower(char c) {
@@ -88,6 +88,31 @@ std::string_view withPrefix(std::span<std::string_view const> names, std::string
     return {};
 }
 
+bool isProperty(std::string_view name) {
+    CatalogueEntry const* const entry = Catalogue::find(Vocabulary::Svg, "*", name);
+    return entry && entry->isPresentation;
+}
+
+struct NewerPlace {
+    std::string_view element, attribute;
+};
+
+constexpr NewerPlace newerPlaces[] = {{"circle", "pathLength"},
+                                      {"ellipse", "pathLength"},
+                                      {"line", "pathLength"},
+                                      {"polygon", "pathLength"},
+                                      {"polyline", "pathLength"},
+                                      {"rect", "pathLength"},
+                                      {"symbol", "refX"},
+                                      {"symbol", "refY"},
+                                      {"symbol", "x"},
+                                      {"symbol", "y"},
+                                      {"symbol", "width"},
+                                      {"symbol", "height"},
+                                      {"textPath", "path"},
+                                      {"a", "type"},
+                                      {"svg", "transform"}};
+
 bool isEventHandler(std::string_view name) {
     return name.size() > 2 && name.starts_with("on") &&
            std::ranges::all_of(name, [](char c) { return c >= 'a' && c <= 'z'; });
@@ -118,16 +143,18 @@ NameFact Names::ofAttribute(Vocabulary vocabulary, std::string_view attribute) n
     return {NameStanding::Unknown, prefixed.empty() ? nearest(known, attribute) : prefixed};
 }
 
+bool Names::isNewerOn(std::string_view element, std::string_view attribute) noexcept {
+    if (attribute == "class" || attribute == "style" || attribute == "lang" || isProperty(attribute)) return true;
+    return std::ranges::any_of(
+        newerPlaces, [&](NewerPlace const& place) { return place.element == element && place.attribute == attribute; });
+}
+
 NameFact Names::ofProperty(std::string_view property) noexcept {
     if (property.starts_with('-')) return {NameStanding::Open, {}};
     std::array<char, 64> letters;
     if (property.size() > letters.size()) return {NameStanding::Unknown, {}};
     std::ranges::transform(property, letters.begin(), toLower);
     std::string_view const name(letters.data(), property.size());
-    auto const isProperty = [](std::string_view known) {
-        CatalogueEntry const* const entry = Catalogue::find(Vocabulary::Svg, "*", known);
-        return entry && entry->isPresentation;
-    };
     if (isProperty(name)) return {NameStanding::Known, {}};
     if (std::string_view const source = newer<Property>(name); !source.empty()) return {NameStanding::Newer, source};
     return {NameStanding::Unknown, nearest(Elements::attributes(Vocabulary::Svg), name, isProperty)};

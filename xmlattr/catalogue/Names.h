@@ -26,6 +26,9 @@ class XMLATTR_API Names {
 public:
     static NameFact ofElement(Vocabulary vocabulary, std::string_view element) noexcept;
     static NameFact ofAttribute(Vocabulary vocabulary, std::string_view attribute) noexcept;
+    // Whether SVG 2 gives the element of SVG 1.1 an attribute that SVG 1.1 has on others alone: class, style,
+    // lang and the presentation attributes on every element, pathLength on every shape, and the like.
+    static bool isNewerOn(std::string_view element, std::string_view attribute) noexcept;
     // A property in a style attribute of SVG, where case does not matter.
     static NameFact ofProperty(std::string_view property) noexcept;
 };

@@ -18,10 +18,13 @@ constexpr Explanation explanations[] = {
     {"malformed", "The file is no well-formed XML at the place that the message names. What stands before it\n"
                   "was checked; nothing behind it was.\n"},
     {"encoding", "The file declares an encoding that is not read, or is not in the one that it declares. UTF-8,\n"
-                 "UTF-16, ISO-8859-1, US-ASCII and windows-1252 are read.\n"},
+                 "UTF-16, ISO-8859-1, US-ASCII and windows-1252 are always read, others where the iconv of the\n"
+                 "machine knows them.\n"},
     {"limit", "The file goes beyond what is read: entities that expand to more than 100 times the file,\n"
-              "elements that nest more than 10000 deep, a tag or comment of more than 32 MiB.\n"},
-    {"unreadable", "The file does not exist or may not be read.\n"},
+              "elements that nest more than 10000 deep, a tag or comment of more than 32 MiB, a compressed file\n"
+              "that expands to more than 1 GiB or, beyond 16 MiB, to more than 200 times its size.\n"},
+    {"unreadable", "The file does not exist or may not be read, or it is compressed and the command was built\n"
+                   "without zlib.\n"},
 };
 
 } // namespace

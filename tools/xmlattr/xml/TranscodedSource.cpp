@@ -7,6 +7,7 @@
 
 #ifdef XMLATTR_HAS_ICONV
 #include <array>
+#include <bit>
 #include <cerrno>
 #include <cstring>
 
@@ -71,8 +72,8 @@ std::unique_ptr<TranscodedSource> TranscodedSource::open(ByteSource& source, std
                c == '.' || c == ':' || c == '+';
     };
     if (!std::ranges::all_of(encoding, isNamePart)) return nullptr;
-    iconv_t const converter = iconv_open("UTF-8", encoding.c_str());
-    if (converter == reinterpret_cast<iconv_t>(-1)) return nullptr;
+    auto* const converter = iconv_open("UTF-8", encoding.c_str());
+    if (std::bit_cast<std::intptr_t>(converter) == -1) return nullptr;
     return std::unique_ptr<TranscodedSource>(
         new TranscodedSource(source, encoding, std::make_unique<State>(converter)));
 }
