@@ -35,6 +35,8 @@ TEST(Checker, CountsEachAttributeInOneClass) {
           Row{"<html><svg width='q'/></html>", "0 0 0 0 0 1 0 0 ", ""},
           Row{svg + "xml:lang='de' xml:space='q' xmlns:l='http://www.w3.org/1999/xlink' l:show='q'/>",
               "1 0 0 0 2 0 0 0 ", ""},
+          Row{block + "xmlns:t='http://www.w3.org/1999/XSL/Transform' span='{al}' orphans='{{' widows='{'/>",
+              "0 2 0 0 0 0 0 0 ", "orphans "},
           Row{svg + "style='FILL:red;width:1;nope:2'/>", "1 0 0 1 0 0 0 2 ", ""}}) {
         Outcome const outcome = checkDocument(row.document);
         EXPECT_EQ(outcome.failure, "") << row.document;

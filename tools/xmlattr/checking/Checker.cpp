@@ -1,14 +1,12 @@
 #include "checking/Checker.h"
 
+#include "checking/Stylesheet.h"
 #include "text/Text.h"
 #include "xmlattr/catalogue/legality/StyleAttribute.h"
 
 namespace Command {
 
 namespace {
-
-constexpr std::string_view xmlSpace = "http://www.w3.org/XML/1998/namespace";
-constexpr std::string_view xlinkSpace = "http://www.w3.org/1999/xlink";
 
 // The values of a list take up to twenty times the memory of its text.
 constexpr std::size_t longestList = 4 << 20;
@@ -36,11 +34,16 @@ void Checker::startElement(XmlElement const& element, Tag& tag) {
         counts.foreign += element.attributes.size();
         return;
     }
+    bool const isInStylesheet = element.namespaces.has(xsltNamespace);
     for (std::size_t i = 0; i < element.attributes.size(); ++i) {
         XmlAttributeText const& attribute = element.attributes[i];
+        if (isInStylesheet && isTemplate(attribute.value)) {
+            ++counts.passedOver;
+            continue;
+        }
         Occurrence occurrence{tag, *vocabulary, element.name, i, attribute.name, attribute.value};
-        if (attribute.space == xmlSpace || attribute.space == xlinkSpace) {
-            prefixed.assign(attribute.space == xmlSpace ? "xml:" : "xlink:").append(attribute.name);
+        if (attribute.space == xmlNamespace || attribute.space == xlinkNamespace) {
+            prefixed.assign(attribute.space == xmlNamespace ? "xml:" : "xlink:").append(attribute.name);
             occurrence.name = prefixed;
         } else if (!attribute.space.empty()) {
             ++counts.foreign;

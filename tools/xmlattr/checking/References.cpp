@@ -11,10 +11,6 @@ namespace Command {
 
 namespace {
 
-constexpr std::string_view xmlNamespace = "http://www.w3.org/XML/1998/namespace";
-constexpr std::string_view xlinkNamespace = "http://www.w3.org/1999/xlink";
-constexpr std::string_view xincludeNamespace = "http://www.w3.org/2001/XInclude";
-
 std::uint64_t mixed(std::uint64_t hash) {
     hash ^= hash >> 32;
     hash *= 0x9E3779B97F4A7C15u;

@@ -6,8 +6,6 @@ namespace Command {
 
 namespace {
 
-constexpr std::string_view xmlNamespace = "http://www.w3.org/XML/1998/namespace";
-constexpr std::string_view xlinkNamespace = "http://www.w3.org/1999/xlink";
 constexpr std::string_view foNamespace = "http://www.w3.org/1999/XSL/Format";
 constexpr std::string_view svgNamespace = "http://www.w3.org/2000/svg";
 

@@ -9,6 +9,9 @@
 
 namespace Command {
 
+constexpr std::string_view xmlNamespace = "http://www.w3.org/XML/1998/namespace";
+constexpr std::string_view xlinkNamespace = "http://www.w3.org/1999/xlink";
+constexpr std::string_view xincludeNamespace = "http://www.w3.org/2001/XInclude";
 constexpr std::string_view xsltNamespace = "http://www.w3.org/1999/XSL/Transform";
 
 class Namespaces {
