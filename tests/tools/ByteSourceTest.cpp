@@ -1,6 +1,6 @@
 // Compressed documents and the encodings that the parser lacks.
-#include "xml/GzipSource.h"
-#include "xml/TranscodedSource.h"
+#include "bytes/GzipSource.h"
+#include "bytes/TranscodedSource.h"
 #include "xml/XmlReader.h"
 
 #include <gtest/gtest.h>

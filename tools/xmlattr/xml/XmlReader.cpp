@@ -1,9 +1,9 @@
 #include "xml/XmlReader.h"
 
+#include "bytes/GzipSource.h"
+#include "bytes/TranscodedSource.h"
 #include "text/Text.h"
 #include "xml/Encoding.h"
-#include "xml/GzipSource.h"
-#include "xml/TranscodedSource.h"
 
 #include "xmlattr/catalogue/text/Words.h"
 

@@ -2,7 +2,7 @@
 // the tag at hand. The only face of the XML parser in the command.
 #pragma once
 
-#include "xml/ByteSource.h"
+#include "bytes/ByteSource.h"
 #include "xml/Namespaces.h"
 #include "xml/RawTag.h"
 

@@ -1,4 +1,4 @@
-#include "xml/TranscodedSource.h"
+#include "bytes/TranscodedSource.h"
 
 #include "text/Text.h"
 #include "xmlattr/catalogue/legality/Words.h"
@@ -113,6 +113,7 @@ std::unique_ptr<TranscodedSource> TranscodedSource::open(ByteSource&, std::strin
 }
 
 std::size_t TranscodedSource::read(std::span<char>) {
+    (void)source;
     return 0;
 }
 

@@ -1,4 +1,4 @@
-#include "xml/ByteSource.h"
+#include "bytes/ByteSource.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,7 +1,7 @@
 // A source in an encoding that the parser lacks, turned into UTF-8 by the iconv of the machine.
 #pragma once
 
-#include "xml/ByteSource.h"
+#include "bytes/ByteSource.h"
 
 namespace Command {
 

@@ -1,7 +1,7 @@
 // Expands a gzip file, such as an .svgz, while it is read.
 #pragma once
 
-#include "xml/ByteSource.h"
+#include "bytes/ByteSource.h"
 
 namespace Command {
 
