@@ -1,0 +1,43 @@
+#include "xmlattr/core/WordTable.h"
+
+namespace Core {
+
+namespace {
+
+template <Case rule, class Unit>
+std::size_t search(PackedWord const* words, Unit const* letters, std::uint16_t const* slots,
+                   std::basic_string_view<Unit> text, std::uint64_t factor) {
+    PackedWord const* word = words + slots[detail::slotOf(detail::markOf<rule>(text), factor)];
+    while (!detail::isWord<rule>(letters + word->start, word->length, text)) {
+        if (word->next == 0) return noWord;
+        word = words + word->next;
+    }
+    return static_cast<std::size_t>(word - words);
+}
+
+} // namespace
+
+std::size_t findWord(PackedWord const* words, char16_t const* letters, std::uint16_t const* slots,
+                     std::u16string_view text, std::uint64_t factor) {
+    return search<Case::Exact>(words, letters, slots, text, factor);
+}
+
+std::size_t findWord(PackedWord const* words, char const* letters, std::uint16_t const* slots, std::string_view text,
+                     std::uint64_t factor) {
+    return search<Case::Exact>(words, letters, slots, text, factor);
+}
+
+std::size_t findWordInAnyCase(PackedWord const* words, char16_t const* letters, std::uint16_t const* slots,
+                              std::u16string_view text, std::uint64_t factor) {
+    return search<Case::Any>(words, letters, slots, text, factor);
+}
+
+// From the last row to the first, without a branch that depends on the value: which row matches cannot
+// be predicted, and leaving the loop early costs more than the rest of a table.
+std::size_t findNumber(std::int32_t const* values, std::size_t count, std::int32_t value) {
+    std::size_t found = noWord;
+    for (std::size_t i = count; i > 0; --i) found = values[i - 1] == value ? i - 1 : found;
+    return found;
+}
+
+} // namespace Core

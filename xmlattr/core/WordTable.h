@@ -1,0 +1,251 @@
+// The one table of words: whatever list of words a text is matched with is searched by it.
+#pragma once
+
+#include "xmlattr/core/Export.h"
+#include "xmlattr/core/Text.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <iterator>
+#include <optional>
+#include <string_view>
+#include <type_traits>
+
+namespace Core {
+
+// Whether letters of either case match; those of ASCII are meant.
+enum class Case { Exact, Any };
+
+// What is written down of a table: an array of rows, char16_t or char for each letter.
+template <class Value, class Unit = char16_t> struct WordRow {
+    std::basic_string_view<Unit> word;
+    Value value;
+};
+
+// The place of a word among the letters of all words of its table, and the number of the next row that the same
+// texts may be; 0 when there is none.
+struct PackedWord {
+    std::uint16_t start, length, next;
+};
+
+inline constexpr std::size_t noWord = SIZE_MAX;
+
+// The number of the row whose word is the text, or noWord. The slot of the text's mark holds the first row that it
+// may be. A table comes in pieces, which are passed in registers; as one it would go through memory.
+XMLATTR_API std::size_t findWord(PackedWord const* words, char16_t const* letters, std::uint16_t const* slots,
+                                 std::u16string_view text, std::uint64_t factor);
+XMLATTR_API std::size_t findWord(PackedWord const* words, char const* letters, std::uint16_t const* slots,
+                                 std::string_view text, std::uint64_t factor);
+XMLATTR_API std::size_t findWordInAnyCase(PackedWord const* words, char16_t const* letters, std::uint16_t const* slots,
+                                          std::u16string_view text, std::uint64_t factor);
+
+// The number of the first row with the value, or noWord.
+XMLATTR_API std::size_t findNumber(std::int32_t const* values, std::size_t count, std::int32_t value);
+
+namespace detail {
+
+template <Case rule, class Unit> constexpr char16_t foldCase(Unit unit) {
+    auto const folded = static_cast<char16_t>(unit);
+    return rule == Case::Any ? toLower(folded) : folded;
+}
+
+template <Case rule, class Unit>
+constexpr bool isWord(Unit const* word, std::size_t length, std::basic_string_view<Unit> text) {
+    if (length != text.size()) return false;
+    if constexpr (rule == Case::Exact)
+        return std::equal(text.begin(), text.end(), word);
+    else
+        return std::equal(text.begin(), text.end(), word,
+                          [](Unit a, Unit b) { return foldCase<rule>(a) == foldCase<rule>(b); });
+}
+
+// The length of a word and five of its letters, which stand where words that are listed together differ.
+template <Case rule, class Unit> constexpr std::uint64_t markOf(std::basic_string_view<Unit> word) {
+    std::size_t const size = word.size();
+    if (size == 0) return 0;
+    auto const at = [&](std::size_t index) { return std::uint64_t{foldCase<rule>(word[index])} & 0xFF; };
+    return at(size > 1) << 40 | at(size / 3) << 32 | at(size * 9 / 16) << 24 | at(size * 3 / 4) << 16 |
+           at(size - 1) << 8 | (size & 0xFF);
+}
+
+// The slot of a mark. The low six bits of the factor say how far its product is shifted.
+constexpr std::size_t slotOf(std::uint64_t mark, std::uint64_t factor) {
+    return static_cast<std::size_t>(mark * factor >> (factor & 63));
+}
+
+template <class Value, bool = std::is_enum_v<Value>> struct Stored { using type = Value; };
+template <class Value> struct Stored<Value, true> : std::underlying_type<Value> {};
+
+// Words and values without pointers, so that loading the library has nothing to relocate.
+template <class Value, class Unit, std::size_t count, std::size_t letterCount> struct PackedWords {
+    std::array<PackedWord, count> words{};
+    std::array<Unit, letterCount + 1> letters{};
+    std::array<typename Stored<Value>::type, count> values{};
+
+    template <class Rows> consteval explicit PackedWords(Rows const& rows) {
+        std::uint16_t start = 0;
+        for (std::size_t i = 0; i < count; ++i) {
+            words[i] = {start, static_cast<std::uint16_t>(rows[i].word.size()), 0};
+            for (Unit const unit : rows[i].word) letters[start++] = unit;
+            values[i] = static_cast<typename Stored<Value>::type>(rows[i].value);
+        }
+    }
+
+    constexpr std::basic_string_view<Unit> word(std::size_t row) const {
+        return {letters.data() + words[row].start, words[row].length};
+    }
+};
+
+// The same with a hash, whose factor is searched when the table is compiled. Words that still share a slot are
+// linked to each other.
+template <Case rule, class Value, class Unit, std::size_t count, std::size_t letterCount>
+struct WordIndex : PackedWords<Value, Unit, count, letterCount> {
+    // So many slots that, in a list of up to 32 words, one factor in a few gives each word a slot of its own.
+    static constexpr int slotBits = std::max(1, static_cast<int>(std::bit_width(std::min(count * count / 4, 8 * count))));
+    static constexpr int mostTries = 64;
+
+    std::array<std::uint16_t, std::size_t{1} << slotBits> slots{};
+    std::uint64_t factor = 0;
+    bool hasDuplicates = false;
+
+    template <class Rows> consteval explicit WordIndex(Rows const& rows) : WordIndex::PackedWords(rows) {
+        std::array<std::uint64_t, count> marks{};
+        for (std::size_t i = 0; i < count; ++i) marks[i] = markOf<rule>(rows[i].word);
+        std::uint64_t random = 0;
+        std::size_t fewest = count;
+        for (int i = 0; i < mostTries && fewest > 0; ++i) {
+            random = random * 6364136223846793005u + 1442695040888963407u;
+            std::uint64_t const candidate = (random & ~std::uint64_t{63}) | (64 - slotBits);
+            std::size_t const shared = countShared(marks, candidate);
+            if (shared >= fewest) continue;
+            fewest = shared;
+            factor = candidate;
+        }
+        fillSlots(marks);
+    }
+
+private:
+    static consteval std::size_t countShared(std::array<std::uint64_t, count> const& marks, std::uint64_t factor) {
+        std::array<bool, std::size_t{1} << slotBits> taken{};
+        std::size_t shared = 0;
+        for (std::uint64_t const mark : marks) {
+            bool& slot = taken[slotOf(mark, factor)];
+            shared += slot;
+            slot = true;
+        }
+        return shared;
+    }
+
+    // An empty slot holds the first row, which no text of that slot is. Nothing links to the first row, since it
+    // comes first in its own slot.
+    consteval void fillSlots(std::array<std::uint64_t, count> const& marks) {
+        std::array<bool, std::size_t{1} << slotBits> taken{};
+        for (std::size_t i = 0; i < count; ++i) {
+            std::size_t const slot = slotOf(marks[i], factor);
+            if (!taken[slot]) {
+                taken[slot] = true;
+                slots[slot] = static_cast<std::uint16_t>(i);
+                continue;
+            }
+            PackedWord* last = &this->words[slots[slot]];
+            for (;; last = &this->words[last->next]) {
+                if (isWord<rule>(this->letters.data() + last->start, last->length, this->word(i))) hasDuplicates = true;
+                if (last->next == 0) break;
+            }
+            last->next = static_cast<std::uint16_t>(i);
+        }
+    }
+};
+
+template <class Row> struct RowTypes;
+template <class V, class U> struct RowTypes<WordRow<V, U>> {
+    using Value = V;
+    using Unit = U;
+};
+
+template <auto const& rows> consteval std::size_t countLetters() {
+    std::size_t letters = 0;
+    for (auto const& row : rows) letters += row.word.size();
+    return letters;
+}
+
+// What is made of an array of rows, as static functions.
+template <auto const& rows, template <class, class, std::size_t, std::size_t> class Packed> class Words {
+    using Types = RowTypes<std::remove_cvref_t<decltype(*std::begin(rows))>>;
+
+public:
+    using Value = typename Types::Value;
+    using Unit = typename Types::Unit;
+    using Text = std::basic_string_view<Unit>;
+    static constexpr std::size_t size = std::size(rows);
+
+    static constexpr Text word(std::size_t row) { return packed.word(row); }
+    static constexpr Value value(std::size_t row) { return static_cast<Value>(packed.values[row]); }
+
+    // The number of the first row with the value, or noWord.
+    static constexpr std::size_t findValue(Value const& value) {
+        auto const stored = static_cast<typename Stored<Value>::type>(value);
+        if constexpr (std::is_same_v<decltype(stored), std::int32_t const>)
+            return findNumber(packed.values.data(), size, stored);
+        auto const found = std::find(packed.values.begin(), packed.values.end(), stored);
+        return found == packed.values.end() ? noWord : static_cast<std::size_t>(found - packed.values.begin());
+    }
+
+protected:
+    static constexpr std::size_t letterCount = countLetters<rows>();
+    static_assert(size <= UINT16_MAX && letterCount <= UINT16_MAX, "a word table has at most 65535 words and letters");
+    static constexpr Packed<Value, Unit, size, letterCount> packed{rows};
+};
+
+template <Case rule> struct Indexed {
+    template <class Value, class Unit, std::size_t count, std::size_t letterCount>
+    using Packed = WordIndex<rule, Value, Unit, count, letterCount>;
+};
+
+} // namespace detail
+
+// The words of an array of WordRow, by number and by value: what a value prints. The array itself is read by the
+// compiler alone.
+template <auto const& rows> using WordList = detail::Words<rows, detail::PackedWords>;
+
+// The same with a search for the row whose word is a text. Whatever distinct words there are, it compiles, and takes
+// constant time: in nearly every case one multiplication and one comparison.
+template <auto const& rows, Case rule = Case::Exact>
+class WordTable : public detail::Words<rows, detail::Indexed<rule>::template Packed> {
+    static_assert(!WordTable::packed.hasDuplicates,
+                  "a word stands twice in its table, or differs from another only in case where case does not matter");
+
+public:
+    using typename WordTable::Words::Text;
+    using typename WordTable::Words::Value;
+
+    // The number of the row whose word is the text, or noWord.
+    static std::size_t indexOf(Text text) {
+        auto const& table = WordTable::packed;
+        if constexpr (rule == Case::Exact)
+            return findWord(table.words.data(), table.letters.data(), table.slots.data(), text, table.factor);
+        else
+            return findWordInAnyCase(table.words.data(), table.letters.data(), table.slots.data(), text, table.factor);
+    }
+
+    static std::optional<Value> find(Text text) {
+        std::size_t const row = indexOf(text);
+        return row == noWord ? std::nullopt : std::optional(WordTable::value(row));
+    }
+
+    // The value of the longest word that the text begins with.
+    static std::optional<Value> findStart(Text text) {
+        for (std::size_t length = std::min(longest, text.size()); length > 0; --length)
+            if (auto const value = find(text.substr(0, length))) return value;
+        return std::nullopt;
+    }
+
+    static constexpr std::size_t longest = std::ranges::max(rows, {}, [](auto const& row) {
+                                               return row.word.size();
+                                           }).word.size();
+};
+
+} // namespace Core
