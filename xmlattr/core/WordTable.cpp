@@ -7,12 +7,12 @@ namespace {
 template <Case rule, class Unit>
 std::size_t search(PackedWord const* words, Unit const* letters, std::uint16_t const* slots,
                    std::basic_string_view<Unit> text, std::uint64_t factor) {
-    PackedWord const* word = words + slots[detail::slotOf(detail::markOf<rule>(text), factor)];
-    while (!detail::isWord<rule>(letters + word->start, word->length, text)) {
-        if (word->next == 0) return noWord;
-        word = words + word->next;
+    std::size_t row = slots[detail::slotOf(detail::markOf<rule>(text), factor)];
+    while (!detail::isWord<rule>(letters + words[row].start, words[row].length, text)) {
+        row = words[row].next;
+        if (row == 0) return noWord;
     }
-    return static_cast<std::size_t>(word - words);
+    return row;
 }
 
 } // namespace
