@@ -71,6 +71,14 @@ template <Case rule, class Unit> constexpr std::uint64_t markOf(std::basic_strin
            at(size - 1) << 8 | (size & 0xFF);
 }
 
+// A text of up to three code units as a number, which no other text has.
+inline constexpr std::size_t longestNumber = 3;
+template <class Unit> constexpr std::uint64_t numberOf(std::basic_string_view<Unit> text) {
+    std::uint64_t number = 1;
+    for (Unit const unit : text) number = number << 16 | static_cast<char16_t>(unit);
+    return number;
+}
+
 // The slot of a mark. The low six bits of the factor say how far its product is shifted.
 constexpr std::size_t slotOf(std::uint64_t mark, std::uint64_t factor) {
     return static_cast<std::size_t>(mark * factor >> (factor & 63));
@@ -101,7 +109,7 @@ template <class Value, class Unit, std::size_t count, std::size_t letterCount> s
 
 // The same with a hash, whose factor is searched when the table is compiled. Words that still share a slot are
 // linked to each other.
-template <Case rule, class Value, class Unit, std::size_t count, std::size_t letterCount>
+template <Case rule, bool areNumbers, class Value, class Unit, std::size_t count, std::size_t letterCount>
 struct WordIndex : PackedWords<Value, Unit, count, letterCount> {
     // So many slots that, in a list of up to 32 words, one factor in a few gives each word a slot of its own.
     static constexpr int slotBits = std::max(1, static_cast<int>(std::bit_width(std::min(count * count / 4, 8 * count))));
@@ -113,7 +121,8 @@ struct WordIndex : PackedWords<Value, Unit, count, letterCount> {
 
     template <class Rows> consteval explicit WordIndex(Rows const& rows) : WordIndex::PackedWords(rows) {
         std::array<std::uint64_t, count> marks{};
-        for (std::size_t i = 0; i < count; ++i) marks[i] = markOf<rule>(rows[i].word);
+        for (std::size_t i = 0; i < count; ++i)
+            marks[i] = areNumbers ? numberOf(rows[i].word) : markOf<rule>(rows[i].word);
         std::uint64_t random = 0;
         std::size_t fewest = count;
         for (int i = 0; i < mostTries && fewest > 0; ++i) {
@@ -166,6 +175,12 @@ template <class V, class U> struct RowTypes<WordRow<V, U>> {
     using Unit = U;
 };
 
+template <auto const& rows> consteval std::size_t longestWord() {
+    std::size_t longest = 0;
+    for (auto const& row : rows) longest = std::max(longest, row.word.size());
+    return longest;
+}
+
 template <auto const& rows> consteval std::size_t countLetters() {
     std::size_t letters = 0;
     for (auto const& row : rows) letters += row.word.size();
@@ -200,10 +215,13 @@ protected:
     static constexpr Packed<Value, Unit, size, letterCount> packed{rows};
 };
 
-template <Case rule> struct Indexed {
+template <Case rule, bool areNumbers> struct Indexed {
     template <class Value, class Unit, std::size_t count, std::size_t letterCount>
-    using Packed = WordIndex<rule, Value, Unit, count, letterCount>;
+    using Packed = WordIndex<rule, areNumbers, Value, Unit, count, letterCount>;
 };
+
+template <auto const& rows, Case rule>
+inline constexpr bool areNumbers = rule == Case::Exact && longestWord<rows>() <= longestNumber;
 
 } // namespace detail
 
@@ -214,7 +232,7 @@ template <auto const& rows> using WordList = detail::Words<rows, detail::PackedW
 // The same with a search for the row whose word is a text. Whatever distinct words there are, it compiles, and takes
 // constant time: in nearly every case one multiplication and one comparison.
 template <auto const& rows, Case rule = Case::Exact>
-class WordTable : public detail::Words<rows, detail::Indexed<rule>::template Packed> {
+class WordTable : public detail::Words<rows, detail::Indexed<rule, detail::areNumbers<rows, rule>>::template Packed> {
     static_assert(!WordTable::packed.hasDuplicates,
                   "a word stands twice in its table, or differs from another only in case where case does not matter");
 
@@ -222,13 +240,17 @@ public:
     using typename WordTable::Words::Text;
     using typename WordTable::Words::Value;
 
+    static constexpr std::size_t longest = detail::longestWord<rows>();
+
     // The number of the row whose word is the text, or noWord.
     static std::size_t indexOf(Text text) {
         auto const& table = WordTable::packed;
-        if constexpr (rule == Case::Exact)
+        if constexpr (rule == Case::Any)
+            return findWordInAnyCase(table.words.data(), table.letters.data(), table.slots.data(), text, table.factor);
+        else if constexpr (!detail::areNumbers<rows, rule>)
             return findWord(table.words.data(), table.letters.data(), table.slots.data(), text, table.factor);
         else
-            return findWordInAnyCase(table.words.data(), table.letters.data(), table.slots.data(), text, table.factor);
+            return indexOfNumber(text.size() > longest ? 0 : detail::numberOf(text));
     }
 
     static std::optional<Value> find(Text text) {
@@ -243,9 +265,22 @@ public:
         return std::nullopt;
     }
 
-    static constexpr std::size_t longest = std::ranges::max(rows, {}, [](auto const& row) {
-                                               return row.word.size();
-                                           }).word.size();
+private:
+    static std::size_t indexOfNumber(std::uint64_t number) {
+        auto const& table = WordTable::packed;
+        std::size_t row = table.slots[detail::slotOf(number, table.factor)];
+        while (numbers[row] != number) {
+            row = table.words[row].next;
+            if (row == 0) return noWord;
+        }
+        return row;
+    }
+
+    static constexpr auto numbers = [] {
+        std::array<std::uint64_t, WordTable::size> all{};
+        for (std::size_t row = 0; row < all.size(); ++row) all[row] = detail::numberOf(rows[row].word);
+        return all;
+    }();
 };
 
 } // namespace Core

@@ -3,29 +3,30 @@
 #include "xmlattr/attributes/TextCursor.h"
 #include "xmlattr/core/Exceptions.h"
 #include "xmlattr/core/Format.h"
-#include "xmlattr/measures/LengthUnits.h"
+#include "xmlattr/measures/Units.h"
 
 namespace Xml {
 
 namespace {
 
-UnitRow<Length::Unit> const& rowOf(Length::Unit unit) {
-    if (auto const* row = findUnit(lengthUnitRows, unit)) return *row;
+std::size_t rowOf(Length::Unit unit) {
+    std::size_t const row = rowOfUnit(unit);
+    if (row != Core::noWord) return row;
     throw Core::UnreacheableCodeException("LengthAttribute", __LINE__);
 }
 
 } // namespace
 
 void appendLength(std::u16string& out, Length const& length) {
-    Core::appendMeasure(out, length.getSize(), rowOf(length.getUnit()).suffix);
+    Core::appendMeasure(out, length.getSize(), Units::word(rowOf(length.getUnit())));
 }
 
 float Length::pxSize() const {
-    return rowOf(unit).toPixels.of(size);
+    return Units::value(rowOf(unit)).toPixels.of(size);
 }
 
 float Length::pxSizeToUnitSize(float px, Unit unit) {
-    return rowOf(unit).fromPixels.of(px);
+    return Units::value(rowOf(unit)).fromPixels.of(px);
 }
 
 Length Length::operator+(Length const& other) const {
@@ -47,25 +48,23 @@ Core::String Length::getValueAsString(Length const& length) {
 }
 
 bool AttributeTraits<Length>::parse(Length& value, std::u16string_view text) {
-    if (PlainMeasure const plain(text); plain.hasUnit()) {
-        auto const* const row = findSuffix<lengthUnitRows>(plain.suffix);
-        if (row) value = Length(plain.number, row->unit);
-        return row != nullptr;
-    }
-    return parseSlowly(value, text);
+    PlainMeasure const plain(text);
+    auto const unit = plain.unit<Length::Unit>();
+    if (unit == noUnit<Length::Unit>) return parseSlowly(value, text);
+    value = Length(plain.number, unit);
+    return true;
 }
 
 bool AttributeTraits<Length>::parseSlowly(Length& value, std::u16string_view text) {
     if (!startsLikeNumber(text)) return false;
-    if (text.size() < 3) {
-        if (text != u"0") return false;
+    if (text == u"0") {
         value = Length(0, Length::Pt); // Intended: points, not the pixels of the default length
         return true;
     }
-    auto const* const row = findSuffix<lengthUnitRows>(text);
+    UnitAtEnd<Length::Unit> const end(text);
     float size = 0;
-    if (!row || !Core::Format::parseFloat(text.substr(0, text.size() - 2), size)) return false;
-    value = Length(size, row->unit);
+    if (end.length == 0 || !Core::Format::parseFloat(text.substr(0, text.size() - end.length), size)) return false;
+    value = Length(size, end.unit);
     return true;
 }
 

@@ -2,8 +2,8 @@
 
 #include "xmlattr/core/Application.h"
 #include "xmlattr/core/Format.h"
-#include "xmlattr/measures/LengthUnits.h"
 #include "xmlattr/measures/Reading.h"
+#include "xmlattr/measures/Units.h"
 
 #include <algorithm>
 
@@ -11,14 +11,14 @@ namespace Xml {
 
 namespace {
 
-// A number before a unit. Intended: a pair of code units that is no unit counts as pixels, and a
-// text without anything before its last two code units ("-x", "+") has the number 0.
+// A number before a unit. Intended: two code units that are no unit count as pixels, and a text
+// without anything before them ("-x", "+") has the number 0.
 bool readLength(LengthOrPercent& value, std::u16string_view text) {
-    std::size_t const suffix = std::min<std::size_t>(text.size(), 2);
+    UnitAtEnd<Length::Unit> const end(text);
+    std::size_t const suffix = end.length > 0 ? end.length : std::min<std::size_t>(text.size(), 2);
     float number = 0;
     if (!Core::Format::parseFloat(text.substr(0, text.size() - suffix), number)) return false;
-    auto const* const row = findSuffix<lengthUnitRows>(text);
-    value = LengthOrPercent(Length(number, row ? row->unit : Length::Px));
+    value = LengthOrPercent(Length(number, end.length > 0 ? end.unit : Length::Px));
     return true;
 }
 

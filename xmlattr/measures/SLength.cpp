@@ -3,7 +3,7 @@
 #include "xmlattr/attributes/TextCursor.h"
 #include "xmlattr/core/Exceptions.h"
 #include "xmlattr/core/Format.h"
-#include "xmlattr/measures/SLengthUnits.h"
+#include "xmlattr/measures/Units.h"
 
 namespace Xml {
 
@@ -16,8 +16,9 @@ SLength asPercent(float number) {
 } // namespace
 
 float SLength::pxSize() const {
-    if (unit == UserUnit || unit == Percent) return size;
-    if (auto const* row = findUnit(sLengthUnitRows, unit)) return row->toPixels.of(size);
+    if (unit == Percent) return size;
+    std::size_t const row = rowOfUnit(unit);
+    if (row != Core::noWord) return Units::value(row).toPixels.of(size);
     throw Core::UnreacheableCodeException("LengthAttribute", __LINE__);
 }
 
@@ -25,14 +26,23 @@ bool SLength::parseSLength(SLength& out, Core::String const& text) {
     return AttributeTraits<SLength>::parse(out, text);
 }
 
+bool readWithUnit(SLength& out, std::u16string_view text) {
+    UnitAtEnd<SLength::Unit> const end(text);
+    std::size_t const suffix = end.length > 0 ? end.length : 2;
+    float number = 0;
+    if (text.size() <= suffix || !Core::Format::parseFloat(text.substr(0, text.size() - suffix), number)) return false;
+    out = SLength(number, end.length > 0 ? end.unit : SLength::UserUnit);
+    return true;
+}
+
 bool AttributeTraits<SLength>::parse(SLength& value, std::u16string_view text) {
     PlainMeasure const plain(text);
-    if (plain.hasUnit())
-        value = withSuffix(plain.number, plain.suffix);
+    if (plain.isBare())
+        value = SLength(plain.number, SLength::UserUnit);
     else if (plain.isPercent())
         value = asPercent(plain.number);
-    else if (plain.isBare())
-        value = SLength(plain.number, SLength::UserUnit);
+    else if (auto const unit = plain.unit<SLength::Unit>(); unit != noUnit<SLength::Unit>)
+        value = SLength(plain.number, unit);
     else
         return parseSlowly(value, text);
     return true;
@@ -51,7 +61,7 @@ bool AttributeTraits<SLength>::parseSlowly(SLength& value, std::u16string_view t
         value = SLength(number, SLength::UserUnit);
         return true;
     }
-    return text.size() >= 3 && readWithSuffix(value, text);
+    return readWithUnit(value, text);
 }
 
 bool AttributeTraits<SNullableLength>::parse(SNullableLength& value, std::u16string_view text) {

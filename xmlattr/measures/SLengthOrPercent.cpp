@@ -1,7 +1,7 @@
 #include "xmlattr/measures/SLengthOrPercent.h"
 
 #include "xmlattr/core/Format.h"
-#include "xmlattr/measures/SLengthUnits.h"
+#include "xmlattr/measures/Units.h"
 
 namespace Xml {
 
@@ -24,7 +24,7 @@ bool AttributeTraits<SLengthOrPercent>::parse(SLengthOrPercent& value, std::u16s
         return true;
     }
     SLength length(1, SLength::UserUnit); // Intended: what "5x", "+" and "." give, their number unread
-    if (text.size() >= 3 && !readWithSuffix(length, text)) return false;
+    if (!readWithUnit(length, text) && text.size() >= 3) return false;
     value = SLengthOrPercent(length);
     return true;
 }

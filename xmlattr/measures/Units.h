@@ -2,14 +2,14 @@
 #pragma once
 
 #include "xmlattr/core/NumberReader.h"
-#include "xmlattr/core/Text.h"
+#include "xmlattr/core/WordTable.h"
+#include "xmlattr/measures/Length.h"
+#include "xmlattr/measures/SLength.h"
 
 #include <algorithm>
-#include <array>
 #include <cfloat>
-#include <cstdint>
-#include <iterator>
 #include <string_view>
+#include <type_traits>
 
 namespace Xml {
 
@@ -26,52 +26,67 @@ struct Ratio {
     constexpr float of(float size) const { return roundToFloat(size * multiply / divide); }
 };
 
-template <class Unit> struct UnitRow {
-    std::u16string_view suffix;
-    Unit unit;
-    Ratio toPixels;
-    Ratio fromPixels{};
+// What the column of a type holds for a unit that the type does not read.
+template <class E> inline constexpr E noUnit = static_cast<E>(-1);
+
+// A unit of length, with the enumerator that each type of length has for it.
+struct Unit {
+    Length::Unit length;
+    SLength::Unit sLength;
+    Ratio toPixels, fromPixels;
+
+    template <class E> constexpr E as() const {
+        if constexpr (std::is_same_v<E, Length::Unit>)
+            return length;
+        else
+            return sLength;
+    }
 };
 
-namespace PixelRatio {
-inline constexpr Ratio px{1, 1};
-inline constexpr Ratio pt{96, 72};
-inline constexpr Ratio pc{12.0 * 96, 72};
-inline constexpr Ratio cm{96, 2.54f}; // Intended: single-precision 2.54 and 25.4, widened
-inline constexpr Ratio mm{96, 25.4f};
-inline constexpr Ratio in{96, 1};
-inline constexpr Ratio em{96, 1536}; // Intended: 1/16 and 1/8 pixel, whatever the font
-inline constexpr Ratio ex{96, 768};
-} // namespace PixelRatio
+// The units of all lengths, exact in case.
+inline constexpr Core::WordRow<Unit> unitRows[] = {
+    {u"pt", {Length::Pt, SLength::Pt, {96, 72}, {72, 96}}},
+    {u"px", {Length::Px, SLength::UserUnit, {1, 1}, {1, 1}}}, // Intended: SVG lengths forget that it stood there
+    {u"cm", {Length::Cm, SLength::Cm, {96, 2.54f}, {2.54f, 96}}}, // Intended: 2.54 and 25.4 in single precision, widened
+    {u"mm", {Length::Mm, SLength::Mm, {96, 25.4f}, {25.4f, 96}}},
+    {u"in", {Length::In, SLength::In, {96, 1}, {1, 96}}},
+    {u"em", {Length::Em, SLength::Em, {96, 1536}, {1536, 96}}}, // Intended: 1/16 and 1/8 pixel, whatever the font
+    {u"ex", {Length::Ex, SLength::Ex, {96, 768}, {768, 96}}},
+    {u"pc", {Length::Pc, SLength::Pc, {12.0 * 96, 72}, {12 * 72, 96}}}, // Intended: no inverse, see Length.h
+};
+
+using Units = Core::WordTable<unitRows>;
+
+// The number of the row of an enumerator, or noWord.
+template <class E> constexpr std::size_t rowOfUnit(E unit) {
+    std::size_t row = 0;
+    while (row < Units::size && Units::value(row).as<E>() != unit) ++row;
+    return row < Units::size ? row : Core::noWord;
+}
+
+// The unit of the type whose word is the text, or noUnit.
+template <class E> inline E findUnit(std::u16string_view text) {
+    std::size_t const row = Units::indexOf(text);
+    return row == Core::noWord ? noUnit<E> : Units::value(row).as<E>();
+}
+
+// The longest unit of the type that the text ends with; without one, the length is 0.
+template <class E> struct UnitAtEnd {
+    E unit = noUnit<E>;
+    std::size_t length;
+
+    explicit UnitAtEnd(std::u16string_view text) {
+        for (length = std::min(Units::longest, text.size()); length > 0; --length)
+            if ((unit = findUnit<E>(text.substr(text.size() - length))) != noUnit<E>) return;
+    }
+};
 
 // Whether the first code unit can begin a measure: a digit, a sign or a point.
 constexpr bool startsLikeNumber(std::u16string_view text) {
     return !text.empty() && (Core::isDigit(text[0]) || text[0] == u'+' || text[0] == u'-' || text[0] == u'.');
 }
 
-// The last two code units of a text that has them.
-constexpr std::uint32_t lastTwo(std::u16string_view text) {
-    return std::uint32_t{text[text.size() - 2]} << 16 | text.back();
-}
-
-template <auto const& rows>
-inline constexpr auto suffixesOf = [] {
-    std::array<std::uint32_t, std::size(rows)> suffixes{};
-    for (std::size_t i = 0; i < suffixes.size(); ++i) suffixes[i] = lastTwo(rows[i].suffix);
-    return suffixes;
-}();
-
-// The row whose suffix ends the text, or null. Suffixes have two code units and are exact in case.
-// All are compared, since which one it is cannot be predicted and leaving the loop early costs more.
-template <auto const& rows> constexpr auto findSuffix(std::u16string_view text) -> decltype(&rows[0]) {
-    if (text.size() < 2) return nullptr;
-    std::uint32_t const suffix = lastTwo(text);
-    std::size_t found = std::size(rows);
-    for (std::size_t i = 0; i < std::size(rows); ++i) found = suffixesOf<rows>[i] == suffix ? i : found;
-    return found < std::size(rows) ? &rows[found] : nullptr;
-}
-
-// A plain number at the start of a measure and what stands behind it, which nearly every measure is.
+// A plain number at the start of a measure and what follows it, which nearly every measure is.
 // The number is what Core::Format::parseFloat gives for the text before the suffix.
 struct PlainMeasure {
     float number = 0;
@@ -85,19 +100,17 @@ struct PlainMeasure {
         if (isPlain) suffix = {behind, static_cast<std::size_t>(end - behind)};
     }
 
-    // Whether it ends with two code units that no reader takes for a part of the number.
-    bool hasUnit() const {
-        return isPlain && suffix.size() == 2 && suffix[1] != u'%' && suffix[1] != u'.' && !Core::isDigit(suffix[1]);
-    }
+    // The unit of the type that is all of the suffix, or noUnit.
+    template <class E> E unit() const { return isPlain ? findUnit<E>(suffix) : noUnit<E>; }
     bool isPercent() const { return isPlain && suffix.size() == 1 && suffix[0] == u'%'; }
     bool isBare() const { return isPlain && suffix.empty(); }
 };
 
-template <class Unit, std::size_t n>
-constexpr UnitRow<Unit> const* findUnit(UnitRow<Unit> const (&rows)[n], Unit unit) {
-    for (UnitRow<Unit> const& row : rows)
-        if (row.unit == unit) return &row;
-    return nullptr;
-}
+// Reads a number before a unit. Intended: two code units that are no unit are dropped and give user units, as "px"
+// does. False, too, for a text without anything before them.
+XMLATTR_API bool readWithUnit(SLength& out, std::u16string_view text);
+
+// Prints a length after what a text holds already. Throws UnreacheableCodeException for an out-of-range unit.
+XMLATTR_API void appendLength(std::u16string& out, Length const& length);
 
 } // namespace Xml

@@ -1,6 +1,6 @@
 #include "xmlattr/svg/BoxShadow.h"
 
-#include "xmlattr/measures/LengthUnits.h"
+#include "xmlattr/measures/Units.h"
 #include "xmlattr/svg/ShadowReader.h"
 
 namespace Xml {

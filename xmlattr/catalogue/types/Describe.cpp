@@ -3,6 +3,7 @@
 #include "xmlattr/core/Format.h"
 #include "xmlattr/drawing/ColorSpace.h"
 #include "xmlattr/drawing/SpotColor.h"
+#include "xmlattr/measures/Units.h"
 
 #include <cmath>
 
@@ -23,9 +24,10 @@ std::string text(Length const& length) {
 }
 
 std::string text(SLength const& length) {
-    constexpr char const* units[] = {"", "pt", "", "cm", "mm", "in", "em", "ex", "pc"};
-    if (length.getUnit() == SLength::Percent) return percentage(length.getSize());
-    return text(length.getSize()) + units[length.getUnit()];
+    SLength::Unit const unit = length.getUnit();
+    if (unit == SLength::Percent) return percentage(length.getSize());
+    std::string const size = text(length.getSize());
+    return unit == SLength::UserUnit ? size : size + Core::String(Units::word(rowOfUnit(unit))).toUtf8();
 }
 
 std::string text(SLengthOrPercent const& measure) {
