@@ -3,6 +3,7 @@
 #include "xmlattr/Values.h"
 #include "xmlattr/catalogue/text/TableText.h"
 #include "xmlattr/catalogue/types/AttributeTypes.h"
+#include "xmlattr/core/WordTable.h"
 #include "xmlattr/defaults/DefaultAttributes.h"
 
 #include <type_traits>
@@ -175,27 +176,31 @@ constinit CatalogueEntry const rows[rowCount] = {
 };
 #undef XMLATTR_ROW
 
-// An open hash table of the first row of each attribute: row number plus one, 0 where nothing is.
-// It is at most a third full.
-constexpr std::size_t slotCount = 2048;
-
-constexpr std::size_t slotOf(Vocabulary vocabulary, std::string_view attribute) {
-    std::uint32_t hash = 2166136261u + static_cast<std::uint32_t>(vocabulary);
-    for (char const c : attribute) hash = (hash ^ static_cast<unsigned char>(c)) * 16777619u;
-    return (hash ^ hash >> 15) % slotCount;
+constexpr bool isFirstOfAttribute(std::size_t row) {
+    return row == 0 || !isSameAttribute(rowNames[row - 1], rowNames[row].vocabulary, rowNames[row].attribute);
 }
 
-constexpr auto firstRows = [] {
-    std::array<std::uint16_t, slotCount> slots{};
-    for (std::size_t i = 0; i < rowCount; ++i) {
-        RowName const& row = rowNames[i];
-        if (i > 0 && isSameAttribute(rowNames[i - 1], row.vocabulary, row.attribute)) continue;
-        std::size_t slot = slotOf(row.vocabulary, row.attribute);
-        while (slots[slot] != 0) slot = (slot + 1) % slotCount;
-        slots[slot] = static_cast<std::uint16_t>(i + 1);
-    }
-    return slots;
+consteval std::size_t countAttributes(Vocabulary vocabulary) {
+    std::size_t count = 0;
+    for (std::size_t i = 0; i < rowCount; ++i) count += rowNames[i].vocabulary == vocabulary && isFirstOfAttribute(i);
+    return count;
+}
+
+// The attributes of a vocabulary and the number of the first row of each.
+template <Vocabulary vocabulary>
+constexpr auto attributes = [] {
+    std::array<Core::WordRow<std::uint16_t, char>, countAttributes(vocabulary)> attributes{};
+    std::size_t count = 0;
+    for (std::size_t i = 0; i < rowCount; ++i)
+        if (rowNames[i].vocabulary == vocabulary && isFirstOfAttribute(i))
+            attributes[count++] = {rowNames[i].attribute, static_cast<std::uint16_t>(i)};
+    return attributes;
 }();
+
+template <Vocabulary vocabulary> using Attributes = Core::WordTable<attributes<vocabulary>>;
+
+constexpr Core::WordRow<Vocabulary, char> namespaces[] = {{"http://www.w3.org/1999/XSL/Format", Vocabulary::Fo},
+                                                          {"http://www.w3.org/2000/svg", Vocabulary::Svg}};
 
 } // namespace
 
@@ -209,23 +214,19 @@ std::span<CatalogueEntry const> Catalogue::entries() noexcept {
 
 CatalogueEntry const* Catalogue::find(Vocabulary vocabulary, std::string_view element,
                                       std::string_view attribute) noexcept {
-    for (std::size_t slot = slotOf(vocabulary, attribute); firstRows[slot] != 0; slot = (slot + 1) % slotCount) {
-        std::size_t i = firstRows[slot] - 1u;
-        if (!isSameAttribute(rowNames[i], vocabulary, attribute)) continue;
-        CatalogueEntry const* forEvery = nullptr;
-        for (; i < rowCount && isSameAttribute(rowNames[i], vocabulary, attribute); ++i) {
-            if (rows[i].isForEveryElement()) forEvery = &rows[i];
-            if (std::ranges::find(rows[i].elements, element) != rows[i].elements.end()) return &rows[i];
-        }
-        return forEvery;
+    auto const first = vocabulary == Vocabulary::Fo ? Attributes<Vocabulary::Fo>::find(attribute)
+                                                    : Attributes<Vocabulary::Svg>::find(attribute);
+    if (!first) return nullptr;
+    CatalogueEntry const* forEvery = nullptr;
+    for (std::size_t i = *first; i < rowCount && isSameAttribute(rowNames[i], vocabulary, attribute); ++i) {
+        if (rows[i].isForEveryElement()) forEvery = &rows[i];
+        if (std::ranges::find(rows[i].elements, element) != rows[i].elements.end()) return &rows[i];
     }
-    return nullptr;
+    return forEvery;
 }
 
 std::optional<Vocabulary> Catalogue::vocabularyOf(std::string_view namespaceName) noexcept {
-    if (namespaceName == "http://www.w3.org/1999/XSL/Format") return Vocabulary::Fo;
-    if (namespaceName == "http://www.w3.org/2000/svg") return Vocabulary::Svg;
-    return std::nullopt;
+    return Core::WordTable<namespaces>::find(namespaceName);
 }
 
 std::string_view Catalogue::name(Vocabulary vocabulary) noexcept {

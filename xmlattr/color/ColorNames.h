@@ -1,19 +1,12 @@
 // The colour keywords of SVG 1.1 (the extended colour keywords of CSS Color Level 3).
 #pragma once
 
-#include <optional>
-#include <string_view>
+#include "xmlattr/core/WordTable.h"
 
 namespace Xml {
 
-struct ColorName {
-    std::u16string_view name;
-    unsigned int rgb; // 0xRRGGBB
-};
-
-// In the order in which the table is published. Only the compiler reads this one; findColorName has
-// a table made from it.
-inline constexpr ColorName colorNames[] = {
+// 0xRRGGBB, in the order in which the table is published.
+inline constexpr Core::WordRow<unsigned int> colorNames[] = {
     {u"aliceblue", 0xF0F8FF},
     {u"antiquewhite", 0xFAEBD7},
     {u"aqua", 0x00FFFF},
@@ -163,7 +156,7 @@ inline constexpr ColorName colorNames[] = {
     {u"yellowgreen", 0x9ACD32},
 };
 
-// The colour 0xRRGGBB of a name in any case.
-std::optional<unsigned int> findColorName(std::u16string_view name);
+// The words that mean no colour.
+inline constexpr Core::WordRow<> noColorNames[] = {{u"transparent"}, {u"none"}};
 
 } // namespace Xml

@@ -130,12 +130,12 @@ bool readSpot(ColorPtr& color, std::u16string_view text) {
 }
 
 bool readName(ColorPtr& color, std::u16string_view text) {
-    if (std::optional<unsigned int> const rgb = findColorName(text)) {
+    if (auto const rgb = Core::WordTable<colorNames, Core::Case::Any>::find(text)) {
         color = new Drawing::RGBColor(static_cast<unsigned char>(*rgb >> 16), static_cast<unsigned char>(*rgb >> 8),
                                       static_cast<unsigned char>(*rgb));
         return true;
     }
-    if (Core::equalsNoCase(text, u"transparent"sv) || Core::equalsNoCase(text, u"none"sv)) {
+    if (Core::WordTable<noColorNames, Core::Case::Any>::find(text)) {
         color = nullptr;
         return true;
     }

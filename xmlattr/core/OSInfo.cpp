@@ -1,9 +1,9 @@
 #include "xmlattr/core/OSInfo.h"
 
 #include "xmlattr/core/StringFormatStream.h"
+#include "xmlattr/core/SystemColors.h"
 #include "xmlattr/core/Text.h"
 
-#include <algorithm>
 #include <mutex>
 #include <shared_mutex>
 #include <utility>
@@ -11,51 +11,6 @@
 namespace Core {
 
 namespace {
-
-// Holds its word, so that loading the library has nothing to relocate.
-struct SystemColor {
-    char16_t word[20]{};
-    unsigned char length, r, g, b;
-
-    template <std::size_t n>
-    consteval SystemColor(char16_t const (&name)[n], unsigned char r, unsigned char g, unsigned char b)
-        : length(n - 1), r(r), g(g), b(b) {
-        std::copy(name, name + n, word);
-    }
-
-    std::u16string_view name() const { return {word, length}; }
-};
-
-constexpr SystemColor systemColors[] = {
-    {u"ActiveBorder", 180, 180, 180},
-    {u"ActiveCaption", 153, 180, 209},
-    {u"AppWorkspace", 171, 171, 171},
-    {u"Background", 0, 0, 0},
-    {u"ButtonFace", 240, 240, 240},
-    {u"ButtonHighlight", 255, 255, 255},
-    {u"ButtonShadow", 160, 160, 160},
-    {u"ButtonText", 0, 0, 0},
-    {u"CaptionText", 0, 0, 0},
-    {u"GrayText", 109, 109, 109},
-    {u"Highlight", 0, 120, 215},
-    {u"HighlightText", 255, 255, 255},
-    {u"InactiveBorder", 244, 247, 252},
-    {u"InactiveCaption", 191, 205, 219},
-    {u"InactiveCaptionText", 0, 0, 0},
-    {u"InfoBackground", 255, 255, 225},
-    {u"InfoText", 0, 0, 0},
-    {u"Menu", 240, 240, 240},
-    {u"MenuText", 0, 0, 0},
-    {u"Scrollbar", 200, 200, 200},
-    {u"ThreeDDarkShadow", 105, 105, 105},
-    {u"ThreeDFace", 240, 240, 240},
-    {u"ThreeDHighlight", 255, 255, 255},
-    {u"ThreeDLightShadow", 227, 227, 227},
-    {u"ThreeDShadow", 160, 160, 160},
-    {u"Window", 255, 255, 255},
-    {u"WindowFrame", 100, 100, 100},
-    {u"WindowText", 0, 0, 0},
-};
 
 struct Overrides {
     std::shared_mutex mutex;
@@ -80,9 +35,9 @@ String OSInfo::getSystemColor(std::u16string_view name) {
         std::shared_lock const lock(overrides().mutex);
         if (String const* color = overrides().find(name)) return *color;
     }
-    for (SystemColor const& color : systemColors)
-        if (equalsNoCase(color.name(), name)) return formatText(u"rgb({0},{1},{2})", {color.r, color.g, color.b});
-    return {};
+    auto const rgb = WordTable<systemColors, Case::Any>::find(name);
+    if (!rgb) return {};
+    return formatText(u"rgb({0},{1},{2})", {*rgb >> 16, *rgb >> 8 & 0xFF, *rgb & 0xFF});
 }
 
 void OSInfo::setSystemColor(std::u16string_view name, std::u16string_view color) {

@@ -19,10 +19,13 @@ namespace Core {
 // Whether letters of either case match; those of ASCII are meant.
 enum class Case { Exact, Any };
 
+// The value of words that are only listed.
+struct NoValue {};
+
 // What is written down of a table: an array of rows, char16_t or char for each letter.
-template <class Value, class Unit = char16_t> struct WordRow {
+template <class Value = NoValue, class Unit = char16_t> struct WordRow {
     std::basic_string_view<Unit> word;
-    Value value;
+    Value value{};
 };
 
 // The place of a word among the letters of all words of its table, and the number of the next row that the same
@@ -112,7 +115,8 @@ template <class Value, class Unit, std::size_t count, std::size_t letterCount> s
 template <Case rule, bool areNumbers, class Value, class Unit, std::size_t count, std::size_t letterCount>
 struct WordIndex : PackedWords<Value, Unit, count, letterCount> {
     // So many slots that, in a list of up to 32 words, one factor in a few gives each word a slot of its own.
-    static constexpr int slotBits = std::max(1, static_cast<int>(std::bit_width(std::min(count * count / 4, 8 * count))));
+    static constexpr int slotBits =
+        std::max(1, static_cast<int>(std::bit_width(std::min(count* count / 4, 8 * count))));
     static constexpr int mostTries = 64;
 
     std::array<std::uint16_t, std::size_t{1} << slotBits> slots{};
@@ -221,7 +225,7 @@ template <Case rule, bool areNumbers> struct Indexed {
 };
 
 template <auto const& rows, Case rule>
-inline constexpr bool areNumbers = rule == Case::Exact && longestWord<rows>() <= longestNumber;
+inline constexpr bool areNumbers = rule == Case::Exact&& longestWord<rows>() <= longestNumber;
 
 } // namespace detail
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "xmlattr/attributes/AttributeTraits.h"
+#include "xmlattr/core/WordTable.h"
 
 #include <utility>
 
@@ -28,6 +29,12 @@ private:
 };
 
 template <> struct AttributeTraits<AxisSource> {
+    // "year" also begins "year-month" and "year-quarter".
+    static constexpr Core::WordRow<> words[] = {{u"year"},      {u"quarter"},   {u"week"},      {u"month"},
+                                                {u"dayofweek"}, {u"dayofyear"}, {u"dayofmonth"}};
+    static constexpr Core::Case rule = Core::Case::Any;
+    using Functions = Core::WordTable<words, rule>;
+
     // Every text is accepted. One with a function and both parentheses is trimmed around the two
     // parts; every other is a name as it stands, "sum(x)" included.
     static bool parse(AxisSource& value, std::u16string_view text);

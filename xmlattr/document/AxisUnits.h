@@ -1,7 +1,7 @@
 // The spacing of the units on a chart axis.
 #pragma once
 
-#include "xmlattr/attributes/AttributeTraits.h"
+#include "xmlattr/keywords/KeywordTable.h"
 
 #include <cstdint>
 
@@ -29,6 +29,14 @@ private:
 };
 
 static_assert(sizeof(AxisUnits) == 8);
+
+template <> struct Keywords<AxisUnits::Type> {
+    static constexpr Case rule = Case::Any;
+    static constexpr KeywordRow<AxisUnits::Type> rows[] = {{u"auto", AxisUnits::Auto},
+                                                           {u"days", AxisUnits::Days},
+                                                           {u"months", AxisUnits::Months},
+                                                           {u"years", AxisUnits::Years}};
+};
 
 template <> struct AttributeTraits<AxisUnits> {
     // Intended: 0 is refused, as no spacing at all; a negative number is not. A text that is refused

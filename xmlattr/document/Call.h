@@ -8,7 +8,13 @@
 
 namespace Xml {
 
-// What stands between `opening`, which ends in "(", and the first ")" behind it, untrimmed. Nothing
+// The name with which a call begins, its "(" included; without one, the whole text.
+constexpr std::u16string_view openingOf(std::u16string_view text) {
+    std::size_t const open = text.find(u'(');
+    return open == std::u16string_view::npos ? text : text.substr(0, open + 1);
+}
+
+// What stands between `opening`, which ends in "(", and the first ")" after it, untrimmed. Nothing
 // when the text begins otherwise or has no such ")". What follows the ")" does not matter.
 inline std::optional<std::u16string_view> callArgument(std::u16string_view text, std::u16string_view opening) {
     if (!text.starts_with(opening)) return std::nullopt;
@@ -18,9 +24,9 @@ inline std::optional<std::u16string_view> callArgument(std::u16string_view text,
     return text.substr(0, close);
 }
 
-// The same for an argument that is an integer.
-inline bool readCall(std::u16string_view text, std::u16string_view opening, int& number) {
-    auto const argument = callArgument(text, opening);
+// The same for an argument that is an integer, whatever the name.
+inline bool readArgument(std::u16string_view text, int& number) {
+    auto const argument = callArgument(text, openingOf(text));
     return argument && Core::Format::parseInt(*argument, number);
 }
 

@@ -13,13 +13,7 @@ namespace {
 
 using Operator = DisplayCondition::Operator;
 
-struct OperatorRow {
-    char16_t word[10];
-    Operator op;
-};
-
-constexpr OperatorRow operators[] = {
-    {u"is-after", Operator::IsAfter}, {u"is-before", Operator::IsBefore}, {u"match", Operator::Match}};
+using Operators = Core::WordTable<AttributeTraits<DisplayCondition>::words>;
 
 // Appends the condition of one segment; false when it lacks a parenthesis. Intended: the segment
 // need only begin with an operator ("matches(x)"), and without one it means is-after.
@@ -29,8 +23,7 @@ bool appendSegment(DisplayCondition& value, std::u16string_view segment) {
     if (open == std::u16string_view::npos || close == std::u16string_view::npos) return false;
     if (close <= open + 1) return true;
     DisplayCondition::Condition condition;
-    for (auto const& [word, op] : operators)
-        if (segment.starts_with(word)) condition.op = op;
+    condition.op = Operators::findStart(segment).value_or(Operator::IsAfter);
     condition.argument = Core::trim(segment.substr(open + 1, close - open - 1));
     value.append(std::move(condition));
     return true;
@@ -62,8 +55,8 @@ Core::String AttributeTraits<DisplayCondition>::print(DisplayCondition const& va
     std::u16string out;
     for (DisplayCondition::Condition const& condition : value.getConditions()) {
         if (!out.empty()) out += u" and ";
-        for (auto const& [word, op] : operators)
-            if (condition.op == op) out += word;
+        if (std::size_t const row = Operators::findValue(condition.op); row != Core::noWord)
+            out += Operators::word(row);
         appendCall(out, {}, condition.argument);
     }
     return Core::String(std::move(out));

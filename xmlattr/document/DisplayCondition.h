@@ -2,6 +2,7 @@
 #pragma once
 
 #include "xmlattr/attributes/AttributeTraits.h"
+#include "xmlattr/core/WordTable.h"
 
 #include <cstdint>
 #include <utility>
@@ -31,6 +32,11 @@ private:
 };
 
 template <> struct AttributeTraits<DisplayCondition> {
+    static constexpr Core::WordRow<DisplayCondition::Operator> words[] = {
+        {u"is-after", DisplayCondition::Operator::IsAfter},
+        {u"is-before", DisplayCondition::Operator::IsBefore},
+        {u"match", DisplayCondition::Operator::Match}};
+
     // Intended: appends to the list, and a text that is refused has appended the conditions before
     // the bad one. The empty text adds nothing, and neither does a condition with empty parentheses.
     static bool parse(DisplayCondition& value, std::u16string_view text);

@@ -1,7 +1,7 @@
 // What the number of pages of a page sequence is brought to.
 #pragma once
 
-#include "xmlattr/attributes/AttributeTraits.h"
+#include "xmlattr/keywords/KeywordTable.h"
 
 #include <cstdint>
 
@@ -16,6 +16,19 @@ enum class XMLATTR_API ForcePageCountType : std::int32_t {
     NoForce = 5,
     MultipleOf = 6,
     EndOnMultipleOf = 7
+};
+
+template <> struct Keywords<ForcePageCountType> {
+    using enum ForcePageCountType;
+    static constexpr Case rule = Case::Exact;
+    static constexpr KeywordRow<ForcePageCountType> rows[] = {{u"auto", Auto},
+                                                              {u"even", Even},
+                                                              {u"odd", Odd},
+                                                              {u"end-on-even", EndOnEven},
+                                                              {u"end-on-odd", EndOnOdd},
+                                                              {u"no-force", NoForce},
+                                                              {u"multiple-of(", MultipleOf},
+                                                              {u"end-on-multiple-of(", EndOnMultipleOf}};
 };
 
 // The keywords of force-page-count in XSL-FO 1.1 (exact case), and "multiple-of(" or

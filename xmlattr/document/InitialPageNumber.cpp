@@ -2,18 +2,10 @@
 
 #include "xmlattr/core/Exceptions.h"
 #include "xmlattr/document/Call.h"
-#include "xmlattr/keywords/KeywordTable.h"
 
 #include <algorithm>
 
 namespace Xml {
-
-template <> struct Keywords<InitialPageNumberType> {
-    using enum InitialPageNumberType;
-    static constexpr Case rule = Case::Exact;
-    static constexpr KeywordRow<InitialPageNumberType> rows[] = {
-        {u"auto", Auto}, {u"auto-odd", AutoOdd}, {u"auto-even", AutoEven}};
-};
 
 namespace {
 
@@ -32,16 +24,16 @@ bool InitialPageNumber::parse(Core::String const& text, InitialPageNumber& out) 
 }
 
 bool AttributeTraits<InitialPageNumber>::parse(InitialPageNumber& value, std::u16string_view text) {
-    constexpr std::u16string_view multipleOf = u"multiple-of(";
-    if (text.starts_with(multipleOf)) {
-        int multiple = 0;
-        if (!readCall(text, multipleOf, multiple)) return false;
-        value = InitialPageNumber(InitialPageNumberType::MultipleOf, multiple);
-        return true;
-    }
     InitialPageNumberType type{};
-    bool const isKeyword = KeywordTraits<InitialPageNumberType>::parse(type, text);
-    value = isKeyword ? InitialPageNumber(type) : InitialPageNumber(readPositive(text));
+    int multiple = 0;
+    if (!KeywordTraits<InitialPageNumberType>::parse(type, openingOf(text)))
+        value = InitialPageNumber(readPositive(text));
+    else if (type != InitialPageNumberType::MultipleOf)
+        value = InitialPageNumber(type);
+    else if (readArgument(text, multiple))
+        value = InitialPageNumber(type, multiple);
+    else
+        return false;
     return true;
 }
 

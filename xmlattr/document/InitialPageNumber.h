@@ -1,7 +1,7 @@
 // The numbers of the first page and of the first sheet of a page sequence.
 #pragma once
 
-#include "xmlattr/attributes/AttributeTraits.h"
+#include "xmlattr/keywords/KeywordTable.h"
 
 #include <cstdint>
 
@@ -13,6 +13,13 @@ enum class XMLATTR_API InitialPageNumberType : std::int32_t {
     AutoEven = 2,
     Number = 3,
     MultipleOf = 4
+};
+
+template <> struct Keywords<InitialPageNumberType> {
+    using enum InitialPageNumberType;
+    static constexpr Case rule = Case::Exact;
+    static constexpr KeywordRow<InitialPageNumberType> rows[] = {
+        {u"auto", Auto}, {u"auto-odd", AutoOdd}, {u"auto-even", AutoEven}, {u"multiple-of(", MultipleOf}};
 };
 
 // "auto", "auto-odd", "auto-even" (exact case), a number from 1 on, or "multiple-of(" an integer

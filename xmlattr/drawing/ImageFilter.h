@@ -2,6 +2,7 @@
 #pragma once
 
 #include "xmlattr/core/String.h"
+#include "xmlattr/core/WordTable.h"
 
 #include <cstdint>
 
@@ -11,6 +12,8 @@ namespace Drawing {
 class XMLATTR_API ImageFilter {
 public:
     enum Type : std::int32_t { Nearest = 0, Bilinear = 1, Bicubic = 2, Auto = 3 };
+    static constexpr Core::WordRow<Type> words[] = {
+        {u"nearest", Nearest}, {u"bilinear", Bilinear}, {u"bicubic", Bicubic}, {u"auto", Auto}};
 
     constexpr ImageFilter() = default;
     constexpr ImageFilter(Type type) : type(type) {}

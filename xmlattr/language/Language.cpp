@@ -40,18 +40,9 @@ Core::String Language::getFullLanguageNameById(Drawing::LanguageId language) {
 }
 
 bool AttributeTraits<Language>::parse(Language& value, std::u16string_view text) {
-    if (text.size() == 2) {
-        std::size_t const place = codePlace(text[0], text[1]);
-        if (place == pairCount || languageByCode[place] == 0) return false;
-        value = Language(static_cast<Drawing::LanguageId>(languageByCode[place]), Drawing::CountryId::None);
-        return true;
-    }
-    for (LanguageTagRow const& row : languageTagRows) {
-        if (!Core::equalsNoCase(text, row.tag)) continue;
-        value = Language(row.language, row.country);
-        return true;
-    }
-    return false;
+    auto const tagged = Core::WordTable<languageTags, Core::Case::Any>::find(text);
+    if (tagged) value = Language(tagged->language, tagged->country);
+    return tagged.has_value();
 }
 
 } // namespace Xml

@@ -2,9 +2,10 @@
 // has nothing to relocate.
 #pragma once
 
-#include "xmlattr/core/Text.h"
+#include "xmlattr/core/WordTable.h"
 #include "xmlattr/drawing/LanguageId.h"
 
+#include <algorithm>
 #include <array>
 
 namespace Xml {
@@ -162,52 +163,39 @@ inline constexpr auto languageRows = [] {
 }();
 
 // What is read besides the codes.
-struct LanguageTagRow {
-    char16_t tag[6];
+// What a tag says.
+struct TaggedLanguage {
     Drawing::LanguageId language;
     Drawing::CountryId country;
 };
 
-inline constexpr LanguageTagRow languageTagRows[] = {
-    {u"cze", Drawing::LanguageId::Czech, Drawing::CountryId::None},
-    {u"dan", Drawing::LanguageId::Danish, Drawing::CountryId::None},
-    {u"eng", Drawing::LanguageId::English, Drawing::CountryId::None},
-    {u"en-us", Drawing::LanguageId::English, Drawing::CountryId::UnitedStates},
-    {u"en-gb", Drawing::LanguageId::English, Drawing::CountryId::GreatBritain},
-    {u"en-au", Drawing::LanguageId::English, Drawing::CountryId::Australia},
-};
+// The tags, in any case: the codes of all languages and a few more.
+inline constexpr auto languageTags = [] {
+    using Drawing::CountryId, Drawing::LanguageId;
+    constexpr auto others = std::to_array<Core::WordRow<TaggedLanguage>>({
+        {u"cze", {LanguageId::Czech, CountryId::None}},
+        {u"dan", {LanguageId::Danish, CountryId::None}},
+        {u"eng", {LanguageId::English, CountryId::None}},
+        {u"en-us", {LanguageId::English, CountryId::UnitedStates}},
+        {u"en-gb", {LanguageId::English, CountryId::GreatBritain}},
+        {u"en-au", {LanguageId::English, CountryId::Australia}},
+    });
+    std::array<Core::WordRow<TaggedLanguage>, languageRows.size() + others.size()> tags{};
+    auto const end = std::ranges::transform(languageRows, tags.begin(), [](LanguageRow const& row) {
+                         return Core::WordRow<TaggedLanguage>{row.code, {row.language, CountryId::None}};
+                     }).out;
+    std::ranges::copy(others, end);
+    return tags;
+}();
 
 // Entry n is country number n + 1.
 inline constexpr char16_t countrySuffixes[][3] = {u"US", u"GB", u"AU"};
 
-inline constexpr std::size_t letterCount = 26;
-inline constexpr std::size_t pairCount = letterCount * letterCount;
-
-// The place of a two-letter code among all pairs of letters; pairCount for any other two units.
-constexpr std::size_t codePlace(char16_t first, char16_t second) {
-    auto const isLetter = [](char16_t unit) { return unit >= u'a' && unit <= u'z'; };
-    first = Core::toLower(first);
-    second = Core::toLower(second);
-    return isLetter(first) && isLetter(second) ? std::size_t(first - u'a') * letterCount + std::size_t(second - u'a')
-                                               : pairCount;
-}
-
-// The language of each pair of letters.
-inline constexpr auto languageByCode = [] {
-    std::array<std::uint8_t, pairCount> numbers{};
-    for (LanguageRow const& row : languageRows)
-        numbers[codePlace(row.code[0], row.code[1])] = static_cast<std::uint8_t>(row.language);
-    return numbers;
-}();
-
 consteval bool languageRowsAreNumbered() {
-    for (std::size_t i = 0; i < languageRows.size(); ++i) {
-        LanguageRow const& row = languageRows[i];
-        auto const number = static_cast<std::size_t>(row.language);
-        if (number != i + 1 || languageByCode[codePlace(row.code[0], row.code[1])] != number) return false;
-    }
+    for (std::size_t i = 0; i < languageRows.size(); ++i)
+        if (static_cast<std::size_t>(languageRows[i].language) != i + 1) return false;
     return true;
 }
-static_assert(languageRowsAreNumbered(), "a language stands out of order, or its code twice");
+static_assert(languageRowsAreNumbered(), "a language stands out of order");
 
 } // namespace Xml

@@ -4,24 +4,17 @@
 
 namespace Xml {
 
-namespace {
-
-constexpr NamedMeasure<LengthOrPercent> words[] = {
-    {u"left", 0.0f}, {u"top", 0.0f}, {u"center", 0.5f}, {u"right", 1.0f}, {u"bottom", 1.0f},
-};
-
-} // namespace
-
 bool BackgroundPosition::readStringBackgroundPosition(BackgroundPosition& out, Core::String const& text) {
-    return readAsWord(out, words, text);
+    return readAsWord(out, text);
 }
 
 bool AttributeTraits<BackgroundPosition>::parse(BackgroundPosition& value, std::u16string_view text) {
-    return readAsWord(value, words, text) || readAs<LengthOrPercent>(value, text);
+    return readAsWord(value, text) || readAs<LengthOrPercent>(value, text);
 }
 
 Core::String AttributeTraits<BackgroundPosition>::print(BackgroundPosition const& value) {
-    if (auto const* const row = findMeasure<LengthOrPercent>(words, value)) return row->word;
+    std::size_t const row = MeasureWords<BackgroundPosition>::findValue(value);
+    if (row != Core::noWord) return MeasureWords<BackgroundPosition>::word(row);
     return LengthOrPercent::getValueAsString(value);
 }
 

@@ -1,6 +1,7 @@
 // The position of a background image along one axis.
 #pragma once
 
+#include "xmlattr/core/WordTable.h"
 #include "xmlattr/measures/LengthOrPercent.h"
 
 namespace Xml {
@@ -20,6 +21,8 @@ public:
 static_assert(sizeof(BackgroundPosition) == 16);
 
 template <> struct AttributeTraits<BackgroundPosition> {
+    static constexpr Core::WordRow<LengthOrPercent> words[] = {
+        {u"left", 0.0f}, {u"top", 0.0f}, {u"center", 0.5f}, {u"right", 1.0f}, {u"bottom", 1.0f}};
     static bool parse(BackgroundPosition& value, std::u16string_view text);
     static Core::String print(BackgroundPosition const& value);
     static constexpr bool refusesComparison = true;

@@ -1,6 +1,7 @@
 // The width of a border.
 #pragma once
 
+#include "xmlattr/core/WordTable.h"
 #include "xmlattr/measures/Length.h"
 
 namespace Xml {
@@ -18,6 +19,8 @@ public:
 static_assert(sizeof(BorderWidth) == 8);
 
 template <> struct AttributeTraits<BorderWidth> {
+    static constexpr Core::WordRow<Length> words[] = {
+        {u"thin", {1, Length::Pt}}, {u"medium", {3, Length::Pt}}, {u"thick", {5, Length::Pt}}};
     static bool parse(BorderWidth& value, std::u16string_view text);
     static Core::String print(BorderWidth const& value);
     static constexpr bool refusesComparison = true;

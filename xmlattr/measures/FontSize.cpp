@@ -6,14 +6,9 @@ namespace Xml {
 
 namespace {
 
-constexpr NamedMeasure<float> pointSizes[] = {
-    {u"xx-small", 6}, {u"x-small", 8},   {u"small", 10}, {u"medium", 12}, {u"large", 16}, // Intended: no step of 14
-    {u"x-large", 18}, {u"xx-large", 20},
-};
-
 template <class LengthType, class Measure, class T> bool readSize(T& value, std::u16string_view text) {
-    if (auto const* const row = findWord(pointSizes, text)) {
-        value = T(Measure(LengthType(row->measure, LengthType::Pt)));
+    if (auto const points = Core::WordTable<absoluteFontSizes>::find(text)) {
+        value = T(Measure(LengthType(*points, LengthType::Pt)));
         return true;
     }
     return readAs<RelativeFontSize>(value, text) || readAs<Measure>(value, text);

@@ -17,6 +17,12 @@ template <> struct Keywords<RelativeFontSize> {
     static constexpr bool unknownThrows = true;
 };
 
+// The words for absolute sizes, in points. Intended: no step of 14.
+inline constexpr Core::WordRow<float> absoluteFontSizes[] = {
+    {u"xx-small", 6}, {u"x-small", 8},  {u"small", 10},    {u"medium", 12},
+    {u"large", 16},   {u"x-large", 18}, {u"xx-large", 20},
+};
+
 // What each accessor gives counts only where the type is its own.
 template <class Measure> class FontSizeOf : public FontMeasure<RelativeFontSize, 1, Measure, 2> {
 public:

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "xmlattr/attributes/AttributeTraits.h"
+#include "xmlattr/core/WordTable.h"
 
 #include <string_view>
 
@@ -16,32 +17,13 @@ template <class Form, class T> bool readAs(T& value, std::u16string_view text) {
     return true;
 }
 
-// A word that stands for a measure; exact in case.
-template <class Measure> struct NamedMeasure {
-    std::u16string_view word;
-    Measure measure;
-};
+// Words that stand for a measure, exact in case.
+template <class T> using MeasureWords = Core::WordTable<AttributeTraits<T>::words>;
 
-template <class Measure, std::size_t n>
-constexpr NamedMeasure<Measure> const* findWord(NamedMeasure<Measure> const (&rows)[n], std::u16string_view text) {
-    for (NamedMeasure<Measure> const& row : rows)
-        if (row.word == text) return &row;
-    return nullptr;
-}
-
-template <class T, class Measure, std::size_t n>
-bool readAsWord(T& value, NamedMeasure<Measure> const (&rows)[n], std::u16string_view text) {
-    auto const* const row = findWord(rows, text);
-    if (row) value = T(row->measure);
-    return row != nullptr;
-}
-
-// The first row with the measure, or null.
-template <class Measure, std::size_t n>
-constexpr NamedMeasure<Measure> const* findMeasure(NamedMeasure<Measure> const (&rows)[n], Measure const& measure) {
-    for (NamedMeasure<Measure> const& row : rows)
-        if (row.measure == measure) return &row;
-    return nullptr;
+template <class T> bool readAsWord(T& value, std::u16string_view text) {
+    std::size_t const row = MeasureWords<T>::indexOf(text);
+    if (row != Core::noWord) value = T(MeasureWords<T>::value(row));
+    return row != Core::noWord;
 }
 
 // What stands between the first "(" and the next ")", or the end when there is none; empty without "(".

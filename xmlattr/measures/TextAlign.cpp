@@ -4,10 +4,7 @@ namespace Xml {
 
 bool AttributeTraits<TextAlign>::parse(TextAlign& value, std::u16string_view text) {
     TextAlignType type = TextAlignType::AlignmentString;
-    if (!AttributeTraits<TextAlignType>::parse(type, text)) {
-        if (text == u"outside") type = TextAlignType::Outside;
-        if (text == u"relative") type = TextAlignType::Relative;
-    }
+    if (!AttributeTraits<TextAlignType>::parse(type, text)) type = Core::WordTable<words>::find(text).value_or(type);
     value = TextAlign(type, type == TextAlignType::AlignmentString ? Core::String(text) : Core::String());
     return true;
 }

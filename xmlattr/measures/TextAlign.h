@@ -59,6 +59,9 @@ private:
 };
 
 template <> struct AttributeTraits<TextAlign> {
+    // Beside those of TextAlignType; exact in case.
+    static constexpr Core::WordRow<TextAlignType> words[] = {{u"outside", TextAlignType::Outside},
+                                                             {u"relative", TextAlignType::Relative}};
     static bool parse(TextAlign& value, std::u16string_view text);
     // Throws UnreacheableCodeException for a foreign type.
     static Core::String print(TextAlign const& value);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "xmlattr/attributes/AttributeTraits.h"
+#include "xmlattr/core/WordTable.h"
 
 #include <cstdint>
 
@@ -26,6 +27,19 @@ private:
 // "slice". Never refuses a text: an unknown alignment, such as "defer", is "xMidYMid"; no second word
 // is "meet", and an unknown one is neither. What follows is ignored. There is no printer.
 template <> struct AttributeTraits<SPreserveAspectRatio> {
+    enum Bit { None = 1, Meet = 2, Slice = 4, XMin = 8, XMid = 16, XMax = 32, YMin = 64, YMid = 128, YMax = 256 };
+    static constexpr Core::WordRow<int> words[] = {{u"none", None},
+                                                   {u"xMinYMin", XMin | YMin},
+                                                   {u"xMidYMin", XMid | YMin},
+                                                   {u"xMaxYMin", XMax | YMin},
+                                                   {u"xMinYMid", XMin | YMid},
+                                                   {u"xMidYMid", XMid | YMid},
+                                                   {u"xMaxYMid", XMax | YMid},
+                                                   {u"xMinYMax", XMin | YMax},
+                                                   {u"xMidYMax", XMid | YMax},
+                                                   {u"xMaxYMax", XMax | YMax}};
+    static constexpr Core::WordRow<int> secondWords[] = {{u"meet", Meet}, {u"slice", Slice}};
+
     static bool parse(SPreserveAspectRatio& value, std::u16string_view text);
 };
 

@@ -13,20 +13,14 @@ bool AttributeTraits<STextDecoration>::parse(STextDecoration& value, std::u16str
         value = STextDecoration();
         return true;
     }
-    bool underline = false, overline = false, lineThrough = false;
+    int lines = 0;
     for (TextCursor cursor{text}; !cursor.atEnd(); cursor.take(u',')) {
         cursor.skipSpace();
-        std::u16string_view const keyword = cursor.takeWhile([](char16_t unit) { return unit != u','; });
-        if (keyword == u"underline")
-            underline = true;
-        else if (keyword == u"overline")
-            overline = true;
-        else if (keyword == u"line-through")
-            lineThrough = true;
-        else
-            return false;
+        auto const line = Core::WordTable<words>::find(cursor.takeWhile([](char16_t unit) { return unit != u','; }));
+        if (!line) return false;
+        lines |= *line;
     }
-    value = STextDecoration(underline, overline, lineThrough);
+    value = STextDecoration(lines & Underline, lines & Overline, lines & LineThrough);
     return true;
 }
 

@@ -2,6 +2,9 @@
 #pragma once
 
 #include "xmlattr/attributes/AttributeTraits.h"
+#include "xmlattr/core/WordTable.h"
+
+#include <cstdint>
 
 namespace Xml {
 
@@ -25,6 +28,10 @@ private:
 };
 
 template <> struct AttributeTraits<STextDecoration> {
+    enum Line : std::int32_t { Underline = 1, Overline = 2, LineThrough = 4 };
+    static constexpr Core::WordRow<Line> words[] = {
+        {u"underline", Underline}, {u"overline", Overline}, {u"line-through", LineThrough}};
+
     static bool parse(STextDecoration& value, std::u16string_view text);
 };
 

@@ -12,19 +12,6 @@ namespace Xml {
 
 namespace {
 
-// A keyword and how many arguments it takes.
-struct Form {
-    std::u16string_view keyword;
-    TransformType type;
-    int least, most;
-};
-
-constexpr Form forms[] = {
-    {u"matrix", TransformType::Matrix, 6, 6}, {u"translate", TransformType::Translate, 1, 2},
-    {u"scale", TransformType::Scale, 1, 2},   {u"rotate", TransformType::Rotate, 1, 3},
-    {u"skewX", TransformType::SkewX, 1, 1},   {u"skewY", TransformType::SkewY, 1, 1},
-};
-
 // Whether the unit ends an argument.
 bool ends(char16_t unit) {
     return unit == u',' || unit == u')' || Core::isSpace(unit);
@@ -98,11 +85,11 @@ bool read(Transform& transform, char16_t const*& at, char16_t const* end, bool i
     auto const atEnd = [&] { return at == end || (inList && *at == u')'); };
 
     skipSpace();
-    std::u16string_view const rest(at, static_cast<std::size_t>(end - at));
-    auto const* const form =
-        std::ranges::find_if(forms, [&](Form const& row) { return rest.starts_with(row.keyword); });
-    if (form == std::end(forms)) return false;
-    at += form->keyword.size();
+    auto const isLetter = [](char16_t unit) { return Core::toLower(unit) >= u'a' && Core::toLower(unit) <= u'z'; };
+    char16_t const* const wordEnd = std::find_if_not(at, end, isLetter);
+    auto const form = Core::WordTable<transformWords>::find({at, static_cast<std::size_t>(wordEnd - at)});
+    if (!form) return false;
+    at = wordEnd;
     skipSpace();
     if (at == end || *at != u'(') return false;
     ++at;

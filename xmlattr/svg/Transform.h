@@ -2,6 +2,7 @@
 #pragma once
 
 #include "xmlattr/attributes/TXmlAttribute.h"
+#include "xmlattr/core/WordTable.h"
 #include "xmlattr/measures/SLength.h"
 
 #include <cstdint>
@@ -15,6 +16,18 @@ enum class XMLATTR_API TransformType : std::int32_t {
     Rotate = 4,
     SkewX = 5,
     SkewY = 6,
+};
+
+// A kind of transform and how many arguments it takes.
+struct TransformForm {
+    TransformType type;
+    int least, most;
+};
+
+inline constexpr Core::WordRow<TransformForm> transformWords[] = {
+    {u"matrix", {TransformType::Matrix, 6, 6}}, {u"translate", {TransformType::Translate, 1, 2}},
+    {u"scale", {TransformType::Scale, 1, 2}},   {u"rotate", {TransformType::Rotate, 1, 3}},
+    {u"skewX", {TransformType::SkewX, 1, 1}},   {u"skewY", {TransformType::SkewY, 1, 1}},
 };
 
 // A Transform holds such attributes: the first mention of a class decides whether it is exported.

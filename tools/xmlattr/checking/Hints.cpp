@@ -65,8 +65,8 @@ std::vector<std::u16string> wordsOf(Xml::AttributeType const& type) {
     std::u16string const syntax = toUtf16(type.syntax());
     for (std::u16string_view const word : Xml::splitValues(syntax, u","))
         if (type.accepts(word)) words.emplace_back(word);
-    if (type.accepts(Xml::colorNames[0].name))
-        for (Xml::ColorName const& color : Xml::colorNames) words.emplace_back(color.name);
+    if (type.accepts(Xml::colorNames[0].word))
+        for (auto const& color : Xml::colorNames) words.emplace_back(color.word);
     return words;
 }
 

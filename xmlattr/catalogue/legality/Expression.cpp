@@ -1,43 +1,13 @@
 #include "xmlattr/catalogue/legality/Expression.h"
 
+#include "xmlattr/catalogue/legality/ExpressionFunctions.h"
 #include "xmlattr/catalogue/text/Words.h"
 
 #include "xmlattr/core/Text.h"
 
-#include <algorithm>
-
 namespace Xml {
 
 namespace {
-
-struct Function {
-    std::string_view name;
-    int least, most;          // arguments
-    bool copiesValue = false; // from another property, whatever its kind
-};
-
-constexpr Function functions[] = {
-    {"abs", 1, 1},
-    {"body-start", 0, 0},
-    {"ceiling", 1, 1},
-    {"floor", 1, 1},
-    {"from-nearest-specified-value", 0, 1, true},
-    {"from-page-master-region", 0, 1, true},
-    {"from-parent", 0, 1, true},
-    {"from-table-column", 0, 1, true},
-    {"inherited-property-value", 0, 1, true},
-    {"label-end", 0, 0},
-    {"max", 2, 2},
-    {"merge-property-values", 0, 1, true},
-    {"min", 2, 2},
-    {"proportional-column-width", 1, 1},
-    {"rgb", 3, 3},
-    {"rgb-icc", 4, 99},
-    {"rgb-named-color", 5, 5},
-    {"round", 1, 1},
-    {"system-color", 1, 1},
-    {"system-font", 1, 2},
-};
 
 class Parser {
 public:
@@ -119,10 +89,8 @@ private:
     }
 
     bool call(std::u16string_view word) {
-        auto const* const function =
-            std::find_if(std::begin(functions), std::end(functions),
-                         [&](Function const& candidate) { return equalsWord(word, candidate.name); });
-        if (function == std::end(functions)) return false;
+        auto const function = Core::WordTable<expressionFunctions>::find(word);
+        if (!function) return false;
         ++index;
         ++depth;
         int arguments = 0;
