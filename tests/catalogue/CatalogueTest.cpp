@@ -1,8 +1,12 @@
 #include "xmlattr/catalogue/Catalogue.h"
 
+#include "WordTables.h"
+#include "xmlattr/catalogue/legality/ExpressionFunctions.h"
 #include "xmlattr/catalogue/types/AttributeTypes.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace Xml {
 namespace {
@@ -15,6 +19,23 @@ TEST(Catalogue, FindsEachOfItsRows) {
         }
         EXPECT_EQ(entry.type() ? entry.type()->name : "", entry.valueType) << entry.attribute;
     }
+}
+
+TEST(Catalogue, FindsNoAttributeButItsOwn) {
+    for (CatalogueEntry const& entry : Catalogue::entries())
+        for (std::string const& text : Testing::mutations(entry.attribute)) {
+            auto const* const found = Catalogue::find(entry.vocabulary, "block", text);
+            bool const isThere = std::ranges::any_of(Catalogue::entries(), [&](CatalogueEntry const& other) {
+                return other.vocabulary == entry.vocabulary && other.attribute == text &&
+                       (other.element == "*" || other.element == "block");
+            });
+            ASSERT_EQ(found != nullptr, isThere) << text;
+            ASSERT_TRUE(!found || found->attribute == text) << text;
+        }
+}
+
+TEST(ExpressionFunctions, AreFoundByWholeName) {
+    Testing::checkTable<expressionFunctions>("expressionFunctions");
 }
 
 TEST(Catalogue, AnElementsOwnRowGoesFirst) {

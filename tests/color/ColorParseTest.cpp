@@ -158,7 +158,6 @@ TEST_F(ColorParseTest, FindsNamesInAnyCase) {
     expectRefused(
         {u"", u" red", u"red ", u"re", u"\u0172ed", u"lightgoldenrodyellowlightgoldenrodyellow", u"currentColor"});
     EXPECT_EQ(std::size(colorNames), 147U);
-    for (ColorName const& row : colorNames) EXPECT_EQ(findColorName(row.name), row.rgb) << narrow(row.name);
     Core::OSInfo::setSystemColor(u"currentColor", u"rgb(1,2,3)");
     Core::OSInfo::setSystemColor(u"window", u"");
     Core::OSInfo::setSystemColor(u"Menu", u"blue");

@@ -121,41 +121,6 @@ TEST(KeywordTable, RefusesWhatNeighboursAccept) {
     EXPECT_FALSE(number<OriginalInputFormat>(u"XLSFO") || number<OriginalInputFormat>(u"XSLFO"));
 }
 
-// Every text of up to four letters, and every word with one letter changed.
-template <KeywordEnumeration E> void expectFoundAsByComparing(std::u16string_view letters) {
-    auto const expectSame = [](std::u16string_view text) {
-        auto const* const row = std::ranges::find_if(Keywords<E>::rows, [&](KeywordRow<E> const& each) {
-            return Keywords<E>::rule == Case::Any ? Core::equalsNoCase(each.word, text) : each.word == text;
-        });
-        E found = static_cast<E>(foreign);
-        bool const isWord = row != std::end(Keywords<E>::rows);
-        ASSERT_EQ(KeywordTraits<E>::parse(found, text), isWord) << narrow(text);
-        ASSERT_EQ(found, isWord ? row->value : static_cast<E>(foreign)) << narrow(text);
-    };
-    std::u16string text;
-    for (std::size_t number = 0; text.size() <= 4; ++number) {
-        expectSame(text);
-        text.clear();
-        for (std::size_t rest = number; rest > 0; rest /= letters.size() + 1)
-            if (rest % (letters.size() + 1) > 0) text += letters[rest % (letters.size() + 1) - 1];
-    }
-    for (KeywordRow<E> const& row : Keywords<E>::rows)
-        for (std::size_t i = 0; i < row.word.size(); ++i)
-            for (int const change : {0, 1, 0x20, 0x100, 0x2000}) {
-                std::u16string changed(row.word);
-                changed[i] = static_cast<char16_t>(changed[i] ^ change);
-                expectSame(changed);
-            }
-}
-
-TEST(KeywordTable, FindsWhatComparingEveryWordFinds) {
-    expectFoundAsByComparing<Break>(u"autopge");
-    expectFoundAsByComparing<ChartTheme>(u"Style1");
-    expectFoundAsByComparing<DMFormat>(u"C10X4");
-    expectFoundAsByComparing<WSProtocol>(u"soapSOAP");
-    expectFoundAsByComparing<SDisplay>(u"inlebock-");
-}
-
 TEST(KeywordTable, FailedParseLeavesTheValueAndEqualsNothing) {
     TXmlAttribute<BorderStyle> style(BorderStyle::Dashed);
     EXPECT_FALSE(style.parseValue(u"Solid"));
