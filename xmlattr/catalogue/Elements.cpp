@@ -1,7 +1,7 @@
 #include "xmlattr/catalogue/Elements.h"
 
 #include "xmlattr/catalogue/NameTable.h"
-#include "xmlattr/catalogue/TableText.h"
+#include "xmlattr/catalogue/text/TableText.h"
 
 #include <iterator>
 

@@ -1,7 +1,7 @@
 #include "bytes/TranscodedSource.h"
 
 #include "text/Text.h"
-#include "xmlattr/catalogue/legality/Words.h"
+#include "xmlattr/catalogue/text/Words.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 
 #include "text/Text.h"
 #include "xmlattr/catalogue/legality/StyleAttribute.h"
-#include "xmlattr/catalogue/legality/Words.h"
+#include "xmlattr/catalogue/text/Words.h"
 
 #include <algorithm>
 #include <utility>
