@@ -15,6 +15,7 @@
 #include "xmlattr/core/Log.h"
 #include "xmlattr/core/OSInfo.h"
 #include "xmlattr/core/StringFormatStream.h"
+#include "xmlattr/core/Version.h"
 #include "xmlattr/defaults/DefaultAttributes.h"
 #include "xmlattr/document/TabStop.h"
 #include "xmlattr/drawing/SpotColor.h"

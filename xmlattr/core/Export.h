@@ -1,10 +1,15 @@
-// XMLATTR_API marks what the shared library exports; everything else is hidden.
+// XMLATTR_API marks what the shared library exports: public classes, functions and constants, and the
+// enumerations among them, since a hidden enumeration would hide its attribute. Nothing else of the
+// library is exported. A static library exports nothing at all: XMLATTR_STATIC, which the packages of
+// the static library define for its users, leaves the mark empty.
 #pragma once
 
-#if !defined(_WIN32)
+#if defined(XMLATTR_STATIC)
+#define XMLATTR_API
+#elif !defined(_WIN32)
 #define XMLATTR_API __attribute__((visibility("default")))
 #elif defined(XMLATTR_BUILDING_SHARED)
 #define XMLATTR_API __declspec(dllexport)
 #else
-#define XMLATTR_API // a program needs no import mark: the linker resolves functions and constants by name
+#define XMLATTR_API // MinGW programs need no import mark: the linker finds functions and constants by name
 #endif

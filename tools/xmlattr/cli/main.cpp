@@ -2,6 +2,7 @@
 
 #include "cli/Commands.h"
 #include "text/Text.h"
+#include "xmlattr/core/Version.h"
 
 #include <CLI/CLI.hpp>
 
@@ -54,7 +55,7 @@ std::string checkCount(std::string const& text) {
 
 int run(int argc, char** argv) {
     CLI::App app("Checks the attribute values of XSL-FO and SVG documents.", "xmlattr");
-    app.set_version_flag("--version", "xmlattr " XMLATTR_VERSION);
+    app.set_version_flag("--version", std::string("xmlattr ") + Core::version());
     app.require_subcommand(0, 1);
     app.get_formatter()->label("REQUIRED", ""); // the usage shows it
     std::string explained;

@@ -1,0 +1,20 @@
+// The version of the library. What a new one may change, docs/abi.md says.
+#pragma once
+
+#include "xmlattr/core/Export.h"
+
+// The version of these headers; the build reads it here.
+#define XMLATTR_VERSION_MAJOR 2
+#define XMLATTR_VERSION_MINOR 0
+#define XMLATTR_VERSION_PATCH 0
+
+// The same as one number, for comparisons: 2.3.4 is 20304.
+#define XMLATTR_VERSION (XMLATTR_VERSION_MAJOR * 10000 + XMLATTR_VERSION_MINOR * 100 + XMLATTR_VERSION_PATCH)
+
+namespace Core {
+
+// The version of the library that is linked or loaded, as in "2.0.0": not older than that of the
+// headers when the program was built in order.
+XMLATTR_API char const* version() noexcept;
+
+} // namespace Core
