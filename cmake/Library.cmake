@@ -42,6 +42,8 @@ function(xmlattr_add_kind kind target)
     SOVERSION ${PROJECT_VERSION_MAJOR})
   if(kind STREQUAL STATIC)
     target_compile_definitions(${target}_objects PUBLIC XMLATTR_STATIC)
+    # A symbol that is unique in the program would keep a plugin that contains the archive from being freed.
+    target_compile_options(${target}_objects PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
     target_compile_definitions(${target} INTERFACE XMLATTR_STATIC)
     set(suffix "")
     if(XMLATTR_SHARED)

@@ -1,0 +1,5 @@
+extern "C" int use();
+
+int main() {
+    return use();
+}
