@@ -1,11 +1,11 @@
 #include "xmlattr/core/NumberReader.h"
 
 #include <algorithm>
+#include <bit>
 #include <cfloat>
 #include <charconv>
 #include <cmath>
 #include <iterator>
-#include <system_error>
 
 namespace Core {
 
@@ -66,6 +66,112 @@ bool scaleExactly(Decimal const& number, float& value) noexcept {
     return true;
 }
 
+// No float and no midpoint between two floats has more than 113 significant digits: whatever follows
+// them matters only by being other than zero, which one more digit says.
+constexpr int enoughDigits = 120;
+
+// The number is 0.d1d2d3... times ten to a power below the one, which is less than half of the smallest
+// float, or above the other, which is more than the largest.
+constexpr int smallestMagnitude = -46;
+constexpr int largestMagnitude = 39;
+
+// The significant digits of a number, the first of them not zero, and the power of ten of the last.
+struct Digits {
+    std::uint8_t digit[enoughDigits + 1];
+    int count = 0;
+    int exponent = 0;
+};
+
+Digits significantDigits(Decimal const& number) noexcept {
+    Digits digits;
+    digits.exponent = number.exponent;
+    if (!number.truncated) {
+        char text[maxMantissaDigits + 1];
+        char const* const end = std::to_chars(text, std::end(text), number.mantissa).ptr;
+        if (number.mantissa != 0)
+            for (char const* unit = text; unit != end; ++unit)
+                digits.digit[digits.count++] = static_cast<std::uint8_t>(*unit - '0');
+        return digits;
+    }
+    bool more = false;
+    for (char16_t const* unit = number.digits; unit != number.end && (isDigit(*unit) || *unit == u'.'); ++unit) {
+        if (*unit == u'.' || (digits.count == 0 && *unit == u'0')) continue;
+        if (digits.count < enoughDigits)
+            digits.digit[digits.count++] = static_cast<std::uint8_t>(*unit - u'0');
+        else
+            more |= *unit != u'0';
+    }
+    if (more) digits.digit[digits.count++] = 1;
+    digits.exponent -= digits.count - maxMantissaDigits;
+    return digits;
+}
+
+// A whole number of up to 1024 bits, which is what the comparison below takes: 121 digits times a power
+// of two, or a midpoint times a power of ten.
+class WholeNumber {
+public:
+    void multiplyAndAdd(std::uint32_t factor, std::uint32_t added) noexcept {
+        std::uint64_t carry = added;
+        for (int index = 0; index < size; ++index) {
+            carry += std::uint64_t{words[index]} * factor;
+            words[index] = static_cast<std::uint32_t>(carry);
+            carry >>= 32;
+        }
+        if (carry != 0) words[size++] = static_cast<std::uint32_t>(carry);
+    }
+
+    void multiplyByPower(std::uint32_t base, int exponent) noexcept {
+        for (; exponent > 0; --exponent) multiplyAndAdd(base, 0);
+    }
+
+    friend int compare(WholeNumber const& a, WholeNumber const& b) noexcept {
+        if (a.size != b.size) return a.size < b.size ? -1 : 1;
+        for (int index = a.size; index-- > 0;)
+            if (a.words[index] != b.words[index]) return a.words[index] < b.words[index] ? -1 : 1;
+        return 0;
+    }
+
+private:
+    std::uint32_t words[32]; // the lowest first
+    int size = 0;            // of which so many are used; the highest of them is not zero
+};
+
+// The number to within a few units in the last place of a double.
+double estimate(Digits const& digits) noexcept {
+    int const taken = std::min(digits.count, maxMantissaDigits);
+    std::uint64_t mantissa = 0;
+    for (int index = 0; index < taken; ++index) mantissa = mantissa * 10 + digits.digit[index];
+    auto value = static_cast<double>(mantissa);
+    int exponent = digits.exponent + digits.count - taken;
+    for (; exponent > exactPowers; exponent -= exactPowers) value *= powersOfTen[exactPowers];
+    for (; exponent < -exactPowers; exponent += exactPowers) value /= powersOfTen[exactPowers];
+    return exponent < 0 ? value / powersOfTen[-exponent] : value * powersOfTen[exponent];
+}
+
+// Which of two neighbouring floats is nearer to the number; halfway between them, the even one. Infinity
+// stands for the float that would follow the largest.
+float nearerOf(float low, float high, Digits const& digits) noexcept {
+    double const above = std::isinf(high) ? 0x1p128 : static_cast<double>(high);
+    double const midpoint = (static_cast<double>(low) + above) / 2; // exact: one bit more than a float has
+    int exponentOfTwo = 0;
+    auto const mantissa = static_cast<std::uint32_t>(std::ldexp(std::frexp(midpoint, &exponentOfTwo), 25));
+    exponentOfTwo -= 25;
+
+    // The number and the midpoint, both times what makes them whole.
+    WholeNumber exact;
+    for (int index = 0; index < digits.count; ++index) exact.multiplyAndAdd(10, digits.digit[index]);
+    exact.multiplyByPower(10, digits.exponent);
+    exact.multiplyByPower(2, -exponentOfTwo);
+    WholeNumber middle;
+    middle.multiplyAndAdd(1, mantissa);
+    middle.multiplyByPower(10, -digits.exponent);
+    middle.multiplyByPower(2, exponentOfTwo);
+
+    int const order = compare(exact, middle);
+    bool const lowIsEven = std::bit_cast<std::uint32_t>(low) % 2 == 0;
+    return order < 0 || (order == 0 && lowIsEven) ? low : high;
+}
+
 } // namespace
 
 Decimal scanDecimal(std::u16string_view text) noexcept {
@@ -105,39 +211,18 @@ bool toFloat(Decimal const& number, float& value) noexcept {
 }
 
 bool toFloatSlowly(Decimal const& number, float& value) noexcept {
-    // No float and no midpoint between two floats has more than 113 significant digits: whatever
-    // stands further behind matters only by being other than zero, which one more digit says.
-    constexpr int enoughDigits = 120;
-    char buffer[enoughDigits + 24];
-    char* out = buffer;
-    int exponent = number.exponent;
-    if (!number.truncated) {
-        out = std::to_chars(out, std::end(buffer), number.mantissa).ptr;
-    } else {
-        int taken = 0;
-        bool more = false;
-        for (char16_t const* unit = number.digits; unit != number.end && (isDigit(*unit) || *unit == u'.'); ++unit) {
-            if (*unit == u'.' || (taken == 0 && *unit == u'0')) continue;
-            if (taken < enoughDigits) {
-                *out++ = static_cast<char>(*unit);
-                ++taken;
-            } else {
-                more |= *unit != u'0';
-            }
-        }
-        if (more) *out++ = '1';
-        exponent -= taken - maxMantissaDigits + more;
-    }
-    // Behind the decimal point when negative: the place of the number's first digit.
-    auto const magnitudeOfTen = (out - buffer) + exponent;
-    *out++ = 'e';
-    out = std::to_chars(out, std::end(buffer), exponent).ptr;
-
+    Digits const digits = significantDigits(number);
+    int const magnitudeOfTen = digits.count + digits.exponent;
     float magnitude = 0;
-    auto const result = std::from_chars(buffer, out, magnitude);
-    if (result.ec == std::errc::result_out_of_range || !std::isfinite(magnitude)) {
-        if (magnitudeOfTen > 0) return false;
-        magnitude = 0;
+    if (digits.count > 0 && magnitudeOfTen > smallestMagnitude) {
+        if (magnitudeOfTen > largestMagnitude) return false;
+        // Every rounding of the estimate adds half a unit in its last place: far less than this margin.
+        constexpr double margin = 0x1p-48;
+        double const near = estimate(digits);
+        auto const low = static_cast<float>(near * (1 - margin));
+        auto const high = static_cast<float>(near * (1 + margin));
+        magnitude = low == high ? low : nearerOf(low, high, digits);
+        if (std::isinf(magnitude)) return false;
     }
     value = number.negative ? -magnitude : magnitude;
     return true;

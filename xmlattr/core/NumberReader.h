@@ -74,7 +74,8 @@ Decimal scanDecimal(std::u16string_view text) noexcept;
 // then `value` is untouched. A number too small for a float gives 0.
 bool toFloat(Decimal const& number, float& value) noexcept;
 
-// toFloat without its short way: the same answer from the standard library.
+// toFloat without its fast path: the same answer for every number. It needs no other reader of numbers,
+// since not every standard library has one for floats that is exact and independent of the locale.
 bool toFloatSlowly(Decimal const& number, float& value) noexcept;
 
 } // namespace Core
