@@ -16,6 +16,13 @@ using namespace std::string_literals;
 std::string const scratch =
     (std::filesystem::path(testing::TempDir()) / ("xmlattr" + std::to_string(getpid()))).string();
 
+// Nothing stays in the folder for temporary files.
+struct Cleaning : testing::Environment {
+    void TearDown() override { std::filesystem::remove_all(scratch); }
+};
+
+testing::Environment const* const cleaning = testing::AddGlobalTestEnvironment(new Cleaning);
+
 struct Result {
     std::string output, errors;
     int code;
