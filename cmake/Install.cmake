@@ -5,14 +5,17 @@
 # does not link.
 set(internal_headers
   attributes/TXmlAttributeImpl.h
+  catalogue/FoProperties.inc
+  catalogue/Properties.inc
+  catalogue/SvgProperties.inc
+  catalogue/TableText.h
+  catalogue/grammar
   catalogue/legality/AlsoLegal.h
   catalogue/legality/Expression.h
   catalogue/legality/Shorthand.h
-  catalogue/legality/StyleAttribute.h
+  catalogue/legality/ValueOfRow.h
   catalogue/legality/Words.h
   catalogue/types/Describe.h
-  catalogue/FoProperties.inc
-  catalogue/SvgProperties.inc
   color/ColorNames.h
   document/Call.h
   drawing/ColorText.h
@@ -23,7 +26,6 @@ set(internal_headers
   svg/ListGrowth.h
   svg/ShadowReader.h)
 list(TRANSFORM internal_headers PREPEND "/xmlattr/")
-list(TRANSFORM internal_headers REPLACE "\\." "\\\\.")
 list(JOIN internal_headers "$|" internal_headers)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/xmlattr DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development
   FILES_MATCHING PATTERN "*.h" PATTERN "*.inc" REGEX "${internal_headers}$" EXCLUDE)

@@ -1,7 +1,7 @@
 #include "xmlattr/catalogue/grammar/Agrees.h"
 
 #include "xmlattr/catalogue/text/Words.h"
-#include "xmlattr/measures/LengthUnits.h"
+#include "xmlattr/measures/Units.h"
 
 #include <algorithm>
 #include <cmath>
