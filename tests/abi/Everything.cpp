@@ -1,3 +1,5 @@
 // Every public declaration, compiled with the debugging information that `check` reads layouts from.
-#include "xmlattr/catalogue/Catalogue.h"
+#include "xmlattr/catalogue/legality/Judge.h"
+#include "xmlattr/catalogue/legality/StyleAttribute.h"
+#include "xmlattr/catalogue/types/AttributeTypes.h"
 #include "xmlattr/xmlattr.h"
