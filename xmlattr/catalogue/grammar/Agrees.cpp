@@ -178,8 +178,8 @@ bool agrees(Meaning const& meaning, Drawing::RectF const& rectangle) {
     float const sides[] = {rectangle.getTop(), rectangle.getRight(), rectangle.getBottom(), rectangle.getLeft()};
     return std::ranges::equal(meaning.values(), sides, [](Item const& item, float side) {
         auto const* const row =
-            std::ranges::find_if(lengthUnitRows, [&](auto const& unit) { return isUnit(item.unit, unit.suffix); });
-        return row != std::end(lengthUnitRows) && isNear(row->toPixels.of(item.number), side);
+            std::ranges::find_if(unitRows, [&](auto const& unit) { return isUnit(item.unit, unit.word); });
+        return row != std::end(unitRows) && isNear(row->value.toPixels.of(item.number), side);
     });
 }
 
