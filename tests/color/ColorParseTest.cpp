@@ -182,6 +182,7 @@ TEST_F(ColorParseTest, PrintsByTheClassOfTheColor) {
          {PrintRow{nullptr, ""},
           {new Drawing::CMYKColor(0.1f, 0.1, 1 / 3.0, 1e-7), "cmyk(0.1,0.1,0.3333333333333333,1e-07)"},
           {icc, ""},
+          {new Drawing::ICCColor(1, {1, 2, 3, 4}, nullptr), ""},
           {spot(new Drawing::RGBColor(1, 2, 3)), "spot-color(a{0},0.1,cmyk(1,2,3,))"},
           {spot(new Drawing::CMYKColor(0, 0.5, 1, 0.25)), "spot-color(a{0},0.1,rgb(0,0.5,1))"},
           {spot(icc), ""},

@@ -35,14 +35,17 @@ TEST(DefaultAttributes, PrintTheirValues) {
                            Row{DefaultTabStopLength, "0.5in"},
                            Row{DefaultMargin, ""},
                            Row{DefaultLengthOrPercentAuto, "auto"},
-                           Row{DefaultBackgroundPosition, "left"},
+                           Row{DefaultBackgroundPosition, "0px"},
                            Row{DefaultBackgroundSize, "auto"},
                            Row{DefaultFontStretch, "normal"},
-                           Row{DefaultTextAlign, "start"},
+                           Row{DefaultTextAlign, "left"},
                            Row{DefaultManagedBackground, "rgb(255,255,255)"},
                            Row{DefaultFormControlBorderColor, "rgb(112,112,112)"},
                            Row{DefaultBackgroundColor, ""},
-                           Row{DefaultHyphenationCharacter, "\xE2\x80\x90"},
+                           Row{DefaultHyphenationCharacter, ""},
+                           Row{DefaultNumberFormat, ""},
+                           Row{DefaultRuleThickness, "0px"},
+                           Row{DefaultGradientStopColor, ""},
                            Row{DefaultMaxDataPointsAttribute, "all"},
                            Row{DefaultUrl, "url()"},
                            Row{DefaultPointList, ""}})
@@ -54,6 +57,9 @@ TEST(DefaultAttributes, HoldWhatIsNotPrinted) {
     EXPECT_EQ(static_cast<int>(DefaultScriptTypeAttribute.getValue()), 2);
     EXPECT_EQ(static_cast<int>(DefaultDMFormat.getValue()), -1);
     EXPECT_EQ(static_cast<int>(DefaultChartTheme.getValue()), 9);
+    EXPECT_EQ(DefaultFontStretch->getType(), FontStretch::NoValue);
+    EXPECT_EQ(DefaultTextAlign->getType(), TextAlignType::None);
+    EXPECT_TRUE(DefaultStrokeWidth == SLength(0, SLength::UserUnit));
     EXPECT_EQ(DefaultSPreserveAspectRatio->getAspectRatio(), 146);
     EXPECT_TRUE(DefaultMiterlimit == SLength(4, SLength::UserUnit));
     EXPECT_TRUE(DefaultSFontSize->getAbsoluteSize() == SLengthOrPercent(10, SLength::Pt));

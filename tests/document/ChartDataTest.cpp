@@ -87,6 +87,7 @@ TEST(Value, ComparesUnevenly) {
     Value const none, two(2.0f), three(3.0f), zz(Core::String(u"zz")), aaa(Core::String(u"aaa"));
     Value const day = *parsed<Value>(u"2020-01-31"), nextDay = *parsed<Value>(u"2020-02-01");
     EXPECT_TRUE(none != none && none.getValue().empty());
+    EXPECT_TRUE(Value(0.0f) == zz && zz != Value(0.0f)) << "the left operand's type decides";
     EXPECT_FALSE(none < none || none > none);
     EXPECT_TRUE(two < three && three > two && day < nextDay && nextDay > day && day != nextDay);
     EXPECT_TRUE(zz < aaa && aaa > zz && zz != aaa);

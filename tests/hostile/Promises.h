@@ -20,7 +20,7 @@ namespace Promises {
 
 using namespace Xml;
 
-// Calls see(number) for every number in a value, conversions to pixels included.
+// Calls see(number) for every number in a value.
 template <class T, class See> void eachNumber(T const& value, See see) {
     auto const look = [&](auto const&... parts) { (eachNumber(parts, see), ...); };
     if constexpr (std::is_floating_point_v<T>) {
@@ -41,9 +41,9 @@ template <class T, class See> void eachNumber(T const& value, See see) {
     } else if constexpr (requires { value.getDx(); }) {
         look(value.getDx(), value.getDy(), value.getBlurRadius(), value.getColor());
     } else if constexpr (requires { value.getPercent(); }) {
-        look(value.getLength(), value.getPercent(), value.getLengthPxSize(), value.pxSize(100));
+        look(value.getLength(), value.getPercent());
     } else if constexpr (requires { value.pxSize(); }) {
-        look(value.getSize(), value.pxSize());
+        look(value.getSize());
     } else if constexpr (requires { value.getLengthOrPercent(); }) {
         look(value.getLengthOrPercent());
     } else if constexpr (requires { value.getAbsoluteSize(); }) {

@@ -153,7 +153,12 @@ TEST(KeywordTable, ForeignNumbersPrintAWordOrNothingOrThrow) {
     EXPECT_EQ(print<Core::Variant::VariantType>(15), "IntegerValue");
     EXPECT_EQ(print<OriginalInputFormat>(5), "XSLFO");
     EXPECT_EQ(print<Parity>(foreign), "");
-    EXPECT_THROW(print<AbsolutePosition>(3), Core::UnreacheableCodeException);
+    try {
+        print<AbsolutePosition>(3);
+        ADD_FAILURE() << "printed";
+    } catch (Core::UnreacheableCodeException const& exception) {
+        EXPECT_STREQ(exception.getSourceName(), "MiscAttributes");
+    }
     EXPECT_THROW(print<RelativePosition>(2), Core::UnreacheableCodeException);
     EXPECT_THROW(print<FontStyle>(4), Core::UnreacheableCodeException);
     EXPECT_THROW(print<FontSelectionStrategy>(-1), Core::UnreacheableCodeException);

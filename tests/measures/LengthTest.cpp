@@ -5,7 +5,7 @@
 #include "xmlattr/measures/Rectangle.h"
 #include "xmlattr/measures/SLength.h"
 
-#include <cfloat>
+#include <cmath>
 
 namespace Xml {
 namespace {
@@ -75,7 +75,9 @@ TEST(Length, ConvertsAtNinetySixPixelsToTheInch) {
         EXPECT_EQ(row.length.pxSize(), row.pixels) << row.length.getUnit();
     EXPECT_EQ(Length::pxSizeToUnitSize(96, Length::Pt), 72);
     EXPECT_EQ(Length::pxSizeToUnitSize(16, Length::Pc), 144) << "pica multiplies both ways";
-    EXPECT_EQ(Length(3e38f, Length::In).pxSize(), FLT_MAX);
+    EXPECT_EQ(Length(3e38f, Length::In).pxSize(), INFINITY) << "rounded as every float is";
+    EXPECT_EQ(Length::pxSizeToUnitSize(-3e38f, Length::Em), -INFINITY);
+    EXPECT_EQ(SLength(3e38f, SLength::Pc).pxSize(), INFINITY);
     Length const bad(1, static_cast<Length::Unit>(8));
     EXPECT_THROW(bad.pxSize(), Core::UnreacheableCodeException);
     EXPECT_THROW(Length::getValueAsString(bad), Core::UnreacheableCodeException);

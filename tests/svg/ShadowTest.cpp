@@ -40,6 +40,7 @@ TEST(BoxShadow, ComparesLengthsAndColorObjects) {
     EXPECT_TRUE(filled.readFromString(u"7pt"));
     EXPECT_TRUE(filled.getDx() == Length(7, Length::Pt) && filled.getDy() == shadow.getDy() &&
                 filled.getColor() == shadow.getColor());
+    EXPECT_TRUE(filled.readFromString(u"none") && !filled.getColor()) << "none takes the colour away";
 }
 
 TEST(STextShadow, ReadsSvgLengthsAndAPaint) {

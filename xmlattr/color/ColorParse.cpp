@@ -155,8 +155,8 @@ Core::String printICC(Drawing::ICCColor const& color) {
                                    : color.getCount() == 3 ? u"rgb-icc({0},{1},{2},#{3},{4}, {5}, {6})"
                                    : color.getCount() == 4 ? u"rgb-icc({0},{1},{2},#{3},{4}, {5}, {6}, {7})"
                                                            : nullptr;
-    if (!format) return {};
     SmartPtr<Drawing::ICCColorSpace> const space = color.getColorSpace();
+    if (!format || !space) return {};
     return Core::formatText(format,
                             {color.getFallBackR(), color.getFallBackG(), color.getFallBackB(), space->getProfileName(),
                              color.getColor(0), color.getColor(1), color.getColor(2), color.getColor(3)});
@@ -226,7 +226,8 @@ bool ColorParse::parseColorName(Core::String const& text, Target* target) {
     return store(readName, text, target);
 }
 
-Core::String ColorParse::getColorAsString(ColorPtr const& color) {
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the signature is fixed
+Core::String ColorParse::getColorAsString(ColorPtr color) {
     return AttributeTraits<ColorPtr>::print(color);
 }
 

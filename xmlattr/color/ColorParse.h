@@ -59,9 +59,9 @@ public:
 
     static bool parseColorName(Core::String const& text, Target* target);
 
-    // Empty for null, for a colour of another class, for an ICC colour that has not 1, 3 or 4
-    // components, and for a spot colour whose function is not exponential with an RGB or CMYK end.
-    static Core::String getColorAsString(SmartPtr<Drawing::Color> const& color);
+    // Empty for null, for a colour of another class, for an ICC colour without a space or with other
+    // than 1, 3 or 4 components, and for a spot colour whose function is not exponential with an RGB or CMYK end.
+    static Core::String getColorAsString(SmartPtr<Drawing::Color> color);
 };
 
 } // namespace Xml

@@ -16,8 +16,9 @@ public:
     enum ColorType : std::int32_t { None = 0, Url = 1, Color = 2 };
 
     SColor() = default;
-    SColor(Core::String url) : type(Url), url(std::move(url)) {}
-    SColor(SmartPtr<Drawing::Color> color) : type(Color), color(std::move(color)) {} // null is a Color too
+    // NOLINTNEXTLINE(modernize-pass-by-value): the signature is fixed
+    SColor(Core::String const& newUrl) : type(Url), url(newUrl) {}
+    SColor(SmartPtr<Drawing::Color> newColor) : type(Color), color(std::move(newColor)) {} // null is a Color too
 
     ColorType getType() const { return type; }
     SmartPtr<Drawing::Color> getColor() const { return color; }
@@ -44,8 +45,8 @@ class XMLATTR_API SNullableColor : public SColor {
 public:
     // Intended: absent also with a reference or a colour; only a parse or setNull(false) ends that.
     SNullableColor() = default;
-    SNullableColor(Core::String url) : SColor(std::move(url)) {}
-    SNullableColor(SmartPtr<Drawing::Color> color) : SColor(std::move(color)) {}
+    SNullableColor(Core::String const& newUrl) : SColor(newUrl) {}
+    SNullableColor(SmartPtr<Drawing::Color> newColor) : SColor(std::move(newColor)) {}
 
     bool isNull() const { return null; }
     void setNull(bool isNull) { null = isNull; }

@@ -7,8 +7,9 @@
 // it is at that time: DefaultFontFamily from "DefaultFontFamily" ("Times" without it) and
 // DefaultFontSize from "DefaultFontSize", in points (10 without it).
 //
-// Where XSL-FO 1.1 or SVG 1.1 gives the property an initial value that its type can hold, that is the
-// default, and else the neutral value of the type; what differs says so.
+// Keywords and numbers each have a value of their own. A value of a class is the neutral one of its
+// type, what the type gives without arguments, unless a name below says the value. It need not be the
+// initial value that XSL-FO 1.1 or SVG 1.1 gives the property.
 #pragma once
 
 #include "xmlattr/Instantiations.h"

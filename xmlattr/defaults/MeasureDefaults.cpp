@@ -5,7 +5,7 @@ namespace Xml {
 
 constinit TXmlAttribute<AlignmentAdjust> const DefaultAlignmentAdjust;
 constinit TXmlAttribute<AxisUnits> const DefaultAxisUnits(AxisUnits{AxisUnits::Type::Auto});
-constinit TXmlAttribute<BackgroundPosition> const DefaultBackgroundPosition(LengthOrPercent(0.0f));
+constinit TXmlAttribute<BackgroundPosition> const DefaultBackgroundPosition;
 constinit TXmlAttribute<BackgroundSize> const DefaultBackgroundSize;
 constinit TXmlAttribute<BaselineShift> const DefaultBaselineShift;
 constinit TXmlAttribute<BorderWidth> const DefaultBorderWidth(BorderWidth(1.5f, Length::Pt));
@@ -15,7 +15,7 @@ constinit TXmlAttribute<DLength> const DefaultDLength;
 constinit TXmlAttribute<Drawing::ImageFilter> const DefaultImgFilter;
 constinit TXmlAttribute<Drawing::RectF> const DefaultRectFAttribute;
 constinit TXmlAttribute<FloatOrPercent> const DefaultFloatOrPercent;
-constinit TXmlAttribute<FontStretch> const DefaultFontStretch(FontStretch{RelativeFontStretch::Normal});
+constinit TXmlAttribute<FontStretch> const DefaultFontStretch;
 constinit TXmlAttribute<ForcePageCount> const DefaultForcePageCount;
 constinit TXmlAttribute<Indent> const DefaultIndent;
 constinit TXmlAttribute<InitialPageNumber> const DefaultInitialPageNumber(InitialPageNumber{
@@ -31,7 +31,7 @@ constinit TXmlAttribute<Length> const DefaultLength;
 constinit TXmlAttribute<Length> const DefaultMarkerSpacing(Length(5, Length::Px));
 constinit TXmlAttribute<Length> const DefaultMarkerWidth(Length(6, Length::Px));
 constinit TXmlAttribute<Length> const DefaultPageColumnGap(Length(12, Length::Pt));
-constinit TXmlAttribute<Length> const DefaultRuleThickness(Length(1, Length::Pt));
+constinit TXmlAttribute<Length> const DefaultRuleThickness;
 constinit TXmlAttribute<Length> const DefaultTabStopLength(Length(0.5f, Length::In));
 constinit TXmlAttribute<Length> const DefaultTickLength(Length(5, Length::Px));
 constinit TXmlAttribute<Length> const DefaultWidthLength(Length(10, Length::Px));
@@ -54,7 +54,7 @@ constinit TXmlAttribute<SBaselineShift> const DefaultSBaselineShift;
 constinit TXmlAttribute<SFontSize> const DefaultSFontSize(SFontSize(SLengthOrPercent(10, SLength::Pt)));
 constinit TXmlAttribute<SLength> const DefaultMiterlimit(SLength(4, SLength::UserUnit));
 constinit TXmlAttribute<SLength> const DefaultSLength;
-constinit TXmlAttribute<SLength> const DefaultStrokeWidth(SLength(1, SLength::UserUnit));
+constinit TXmlAttribute<SLength> const DefaultStrokeWidth;
 constinit TXmlAttribute<SLengthOrPercent> const DefaultSLengthOrPercent;
 constinit TXmlAttribute<SLengthOrPercent> const DefaultSOneHundredPercent(1.0f);
 constinit TXmlAttribute<SNullableLength> const DefaultSNullableLength;

@@ -4,15 +4,14 @@
 #include "xmlattr/attributes/AttributeTraits.h"
 #include "xmlattr/core/WordTable.h"
 
-#include <utility>
-
 namespace Xml {
 
 // The name of a data field, or one inside of a function that groups dates: "year(OrderDate)".
 class XMLATTR_API AxisSource {
 public:
     AxisSource() = default;
-    AxisSource(Core::String name, Core::String fn) : name(std::move(name)), fn(std::move(fn)) {}
+    // NOLINTNEXTLINE(modernize-pass-by-value): the signature is fixed
+    AxisSource(Core::String const& newName, Core::String const& newFn) : name(newName), fn(newFn) {}
 
     Core::String getName() const { return name; }
     // Empty when there is no function.

@@ -33,10 +33,11 @@ public:
     // or nothing.
     Core::String getValue() const;
     // Intended: replaces the string field alone; the type and the other fields stay.
-    void setValue(Core::String text) { string = std::move(text); }
+    void setValue(Core::String const& text) { string = text; }
 
     // Intended: the field of the left operand's type is compared without a look at the right one's
-    // type, and a value without a type is equal to nothing, itself included.
+    // type, so that the number 0 equals every string and date, whose number is 0, though they need not
+    // equal it. A value without a type is equal to nothing, itself included.
     bool operator==(Value const& other) const;
     // Both are false when the types differ. Intended: of strings only the lengths count, so that
     // "zz" is less than "aaa".

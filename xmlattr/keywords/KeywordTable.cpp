@@ -5,7 +5,7 @@
 namespace Xml::detail {
 
 void throwUnknownKeyword() {
-    throw Core::UnreacheableCodeException("KeywordTable", __LINE__);
+    throw Core::UnreacheableCodeException("MiscAttributes", __LINE__);
 }
 
 } // namespace Xml::detail

@@ -25,8 +25,8 @@ public:
     // Units and sizes are equal; nothing is converted, so 1in and 96px are unequal.
     constexpr bool operator==(Length const&) const = default;
 
-    // In pixels, 96 to the inch. This and all that converts throws UnreacheableCodeException for a
-    // number that is no unit.
+    // In pixels, 96 to the inch; infinite when that is too large for a float. This and all that
+    // converts throws UnreacheableCodeException for a number that is no unit.
     float pxSize() const;
     // Intended: 16 pixels are 144 pica, since callers rely on pica multiplying by 12 both ways.
     static float pxSizeToUnitSize(float px, Unit unit);

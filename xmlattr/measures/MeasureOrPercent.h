@@ -27,9 +27,7 @@ public:
     }
 
     // In pixels; a percentage is taken of the reference.
-    float pxSize(float reference) const {
-        return kind == KindLength ? length.pxSize() : roundToFloat(double{percent} * reference);
-    }
+    float pxSize(float reference) const { return kind == KindLength ? length.pxSize() : percent * reference; }
     // The length in pixels, also when a percentage is held.
     float getLengthPxSize() const { return length.pxSize(); }
 

@@ -3,6 +3,8 @@
 #include "xmlattr/attributes/TextCursor.h"
 #include "xmlattr/measures/Length.h"
 
+#include <cmath>
+
 namespace Xml {
 
 bool AttributeTraits<Drawing::RectF>::parse(Drawing::RectF& value, std::u16string_view text) {
@@ -18,7 +20,9 @@ bool AttributeTraits<Drawing::RectF>::parse(Drawing::RectF& value, std::u16strin
         if (piece.empty()) continue; // Intended: commas side by side count as one
         Length length;
         if (count == std::size(pixels) || !AttributeTraits<Length>::parse(length, Core::trim(piece))) return false;
-        pixels[count++] = length.pxSize();
+        float const pixelSize = length.pxSize();
+        if (!std::isfinite(pixelSize)) return false;
+        pixels[count++] = pixelSize;
     }
     if (count != std::size(pixels)) return false;
     value = Drawing::RectF(pixels[0], pixels[1], pixels[2], pixels[3]);

@@ -27,8 +27,8 @@ public:
     // Whether the size is 0, whatever the unit.
     constexpr bool operator!() const { return size == 0; }
 
-    // In pixels, 96 to the inch; a percentage gives its fraction. Throws UnreacheableCodeException
-    // for a number that is no unit.
+    // In pixels, 96 to the inch, and infinite when that is too large for a float; a percentage gives
+    // its fraction. Throws UnreacheableCodeException for a number that is no unit.
     float pxSize() const;
 
     // Intended: "px" and every other pair of code units that is no unit is dropped, so that "12px"

@@ -32,7 +32,11 @@ template <> struct AttributeTraits<SLengthOrPercent> {
 class XMLATTR_API SNullableLengthOrPercent : public SLengthOrPercent {
 public:
     constexpr SNullableLengthOrPercent() = default;
-    constexpr SNullableLengthOrPercent(SLengthOrPercent const& value) : SLengthOrPercent(value), null(false) {}
+    // Takes the part of the measure that its kind says, and 0 for the other.
+    constexpr SNullableLengthOrPercent(SLengthOrPercent const& value)
+        : SLengthOrPercent(value.isPercent() ? SLengthOrPercent(value.getPercent())
+                                             : SLengthOrPercent(value.getLength())),
+          null(false) {}
 
     constexpr bool isNull() const { return null; }
     constexpr void setNull(bool isNull) { null = isNull; }

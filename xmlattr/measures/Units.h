@@ -7,23 +7,16 @@
 #include "xmlattr/measures/SLength.h"
 
 #include <algorithm>
-#include <cfloat>
 #include <string_view>
 #include <type_traits>
 
 namespace Xml {
 
-// A double rounded to the nearest float; a finite one that is too large becomes the largest float, so
-// that a text never gives an infinity.
-constexpr float roundToFloat(double value) {
-    bool const isFinite = value >= -DBL_MAX && value <= DBL_MAX;
-    return static_cast<float>(isFinite ? std::clamp(value, -double{FLT_MAX}, double{FLT_MAX}) : value);
-}
-
-// Scales a size in double precision, first the product, then the quotient, and rounds once.
+// Scales a size in double precision, first the product, then the quotient, and rounds once: what is
+// too large for a float is infinite.
 struct Ratio {
     double multiply = 1, divide = 1;
-    constexpr float of(float size) const { return roundToFloat(size * multiply / divide); }
+    constexpr float of(float size) const { return static_cast<float>(size * multiply / divide); }
 };
 
 // What the column of a type holds for a unit that the type does not read.

@@ -9,7 +9,7 @@ bool BoxShadow::read(std::u16string_view text) {
     return readShadow(text, {&dx, &dy, &blurRadius}, [this](std::u16string_view part) {
         SmartPtr<Drawing::Color> parsed;
         if (!AttributeTraits<SmartPtr<Drawing::Color>>::parse(parsed, part)) return false;
-        if (parsed) color = parsed->clone();
+        color = parsed ? parsed->clone() : nullptr;
         return true;
     });
 }

@@ -42,7 +42,7 @@ bool Point::parsePointList(Core::Vector<Point>& list, Core::String const& text) 
     return AttributeTraits<Core::Vector<Point>>::parse(list, text);
 }
 
-Core::String Point::getPointListValueAsString(Core::Vector<Point> const& list) {
+Core::String Point::getPointListValueAsString(Core::Vector<Point>& list) {
     return AttributeTraits<Core::Vector<Point>>::print(list);
 }
 

@@ -20,9 +20,9 @@ struct XMLATTR_API Point {
     // Intended: exactly one unit behind each pair is skipped, whatever it is, and white space, so
     // that "10,20-30,40" is (10, 20) and (30, 40) and a second "," leaves an empty length.
     static bool parsePointList(Core::Vector<Point>& list, Core::String const& text);
-    // "x y" pairs with commas between them, in pixels. Throws UnreacheableCodeException for a length
-    // whose unit is none.
-    static Core::String getPointListValueAsString(Core::Vector<Point> const& list);
+    // "x y" pairs with commas between them, in pixels; the list stays as it is. Throws
+    // UnreacheableCodeException for a length whose unit is none.
+    static Core::String getPointListValueAsString(Core::Vector<Point>& list);
 };
 
 static_assert(sizeof(Point) == 16);
