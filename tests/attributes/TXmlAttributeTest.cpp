@@ -44,6 +44,19 @@ TEST(TXmlAttribute, CopiesThroughTheBase) {
     EXPECT_EQ(base.getValueAsString(), source.getValue());
 }
 
+TEST(TXmlAttribute, ReadsEveryFormOfAText) {
+    TXmlAttribute<Length> attribute;
+    std::u16string text = u"1in";
+    std::u16string_view const view = text;
+    EXPECT_TRUE(attribute.parseValue(text) && attribute.isEqual(text));
+    EXPECT_TRUE(attribute.parseValue(view) && attribute.isEqual(view));
+    EXPECT_TRUE(attribute.parseValue(text.c_str()) && attribute.isEqual(text.c_str()));
+    EXPECT_TRUE(attribute.parseValue(text + u"") && attribute.isEqual(text + u"", int_to_type<1>()));
+    EXPECT_FALSE(attribute.parseValue({}));
+    Core::String const string = text;
+    EXPECT_TRUE(string == text && text == string && string + text == u"1in1in" && !(string < text));
+}
+
 TEST(TXmlAttribute, ComparesTheValueOfAText) {
     TXmlAttribute<Length> attribute(Length(1, Length::In));
     EXPECT_TRUE(attribute.isEqual(u"1.0in"));

@@ -12,8 +12,8 @@ template <int N> struct int_to_type {};
 // Holds one value of the value type T and nothing else. Copies by value. The four virtual
 // operations of each T are compiled into the library only; what they accept and print stands
 // beside T. Reading an attribute from several threads is safe; changing one needs exclusive access
-// to it.
-template <class T> class TXmlAttribute : public XmlAttribute {
+// to it. Final, since nothing may be deleted through a class that has no virtual destructor.
+template <class T> class TXmlAttribute final : public XmlAttribute {
 public:
     constexpr TXmlAttribute() = default;
     constexpr TXmlAttribute(T const& value) : stored{value} {}

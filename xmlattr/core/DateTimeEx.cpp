@@ -2,6 +2,7 @@
 
 #include "xmlattr/core/Text.h"
 
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 
@@ -98,16 +99,21 @@ bool DateTimeEx::parseXmlDateEx(std::u16string_view text, DateTimeEx& out) noexc
     year_month_day date;
     auto time = 0s;
     if (!reader.takeDate(date)) return false;
-    if (reader.take(u'T') && !reader.takeTime(time, read.fraction)) return false;
-    if (!reader.takeOffset(read.offset) || !reader.rest.empty()) return false;
-    read.seconds = local_days(date) + time;
-    if (read.seconds >= endOfCalendar) return false; // 24:00:00 on the last day of all
+    nanoseconds fraction{};
+    if (reader.take(u'T') && !reader.takeTime(time, fraction)) return false;
+    std::optional<minutes> offset;
+    if (!reader.takeOffset(offset) || !reader.rest.empty()) return false;
+    local_seconds const instant = local_days(date) + time;
+    if (instant >= endOfCalendar) return false; // 24:00:00 on the last day of all
+    read.seconds = instant.time_since_epoch().count();
+    read.fraction = fraction.count();
+    if (offset) read.offset = offset->count();
     out = read;
     return true;
 }
 
 String DateTimeEx::toDateString(int) const {
-    year_month_day const date(floor<days>(seconds));
+    year_month_day const date(floor<days>(local_seconds(std::chrono::seconds(seconds))));
     int const year = int(date.year());
     char buffer[32];
     int const length = std::snprintf(buffer, sizeof buffer, "%s%04d-%02u-%02u", year < 0 ? "-" : "", std::abs(year),

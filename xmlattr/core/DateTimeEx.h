@@ -3,14 +3,14 @@
 
 #include "xmlattr/core/String.h"
 
-#include <chrono>
 #include <compare>
+#include <cstdint>
 #include <optional>
 
 namespace Core {
 
-// The calendar is extended to all years that std::chrono::year holds, -32767 to 32767; the year
-// before 1 is 0. A date without a time of day is its first instant.
+// The calendar is extended to all years from -32767 to 32767; the year before 1 is 0. A date without
+// a time of day is its first instant.
 class XMLATTR_API DateTimeEx {
 public:
     // 1970-01-01 without a time zone.
@@ -32,16 +32,16 @@ public:
     // date without a zone means the same in every zone; lists that mix both have no order to sort by.
     friend constexpr std::weak_ordering operator<=>(DateTimeEx const& a, DateTimeEx const& b) {
         bool const areInstants = a.offset && b.offset;
-        auto const aSeconds = areInstants ? a.seconds - *a.offset : a.seconds;
-        auto const bSeconds = areInstants ? b.seconds - *b.offset : b.seconds;
+        std::int64_t const aSeconds = areInstants ? a.seconds - *a.offset * 60 : a.seconds;
+        std::int64_t const bSeconds = areInstants ? b.seconds - *b.offset * 60 : b.seconds;
         return aSeconds != bSeconds ? aSeconds <=> bSeconds : a.fraction <=> b.fraction;
     }
     friend constexpr bool operator==(DateTimeEx const& a, DateTimeEx const& b) { return std::is_eq(a <=> b); }
 
 private:
-    std::chrono::local_seconds seconds{};
-    std::chrono::nanoseconds fraction{};        // below a second
-    std::optional<std::chrono::minutes> offset; // of the time zone from UTC
+    std::int64_t seconds = 0;           // since 1970-01-01, where it was written
+    std::int64_t fraction = 0;          // below a second, in nanoseconds
+    std::optional<std::int64_t> offset; // of the time zone from UTC, in minutes
 };
 
 } // namespace Core

@@ -20,4 +20,8 @@ UnreacheableCodeException::~UnreacheableCodeException() = default;
 NullPointerException::NullPointerException() : Exception("null pointer") {}
 NullPointerException::~NullPointerException() = default;
 
+void NullPointerException::raise() {
+    throw NullPointerException();
+}
+
 } // namespace Core

@@ -43,6 +43,9 @@ public:
     NullPointerException(NullPointerException const&) = default;
     NullPointerException& operator=(NullPointerException const&) = default;
     ~NullPointerException() override;
+
+    // Throws one, for headers whose users may compile without exceptions.
+    [[noreturn]] static void raise();
 };
 
 } // namespace Core

@@ -42,7 +42,7 @@ template <class T> class SmartPtr {
 public:
     constexpr SmartPtr() noexcept = default;
     constexpr SmartPtr(std::nullptr_t) noexcept {}
-    SmartPtr(T* object) noexcept : object(object) {
+    SmartPtr(T* newObject) noexcept : object(newObject) {
         if (object) object->AddRef();
     }
     SmartPtr(SmartPtr const& other) noexcept : SmartPtr(other.object) {}
@@ -62,7 +62,7 @@ public:
     T* get() const noexcept { return object; }
     T* operator->() const { return &operator*(); }
     T& operator*() const {
-        if (!object) throw NullPointerException();
+        if (!object) NullPointerException::raise();
         return *object;
     }
     explicit operator bool() const noexcept { return object != nullptr; }

@@ -13,8 +13,8 @@ public:
     enum Type : std::int32_t { Auto = 0, Days = 1, Months = 2, Years = 3, Numeric = 4 };
 
     constexpr AxisUnits() = default;
-    constexpr AxisUnits(Type type) : type(type) {}
-    constexpr AxisUnits(float number) : type(Numeric), number(number) {}
+    constexpr AxisUnits(Type newType) : type(newType) {}
+    constexpr AxisUnits(float newNumber) : type(Numeric), number(newNumber) {}
 
     constexpr Type getType() const { return type; }
     // 0 unless the type is Numeric.

@@ -36,7 +36,7 @@ template <> struct Keywords<ForcePageCountType> {
 class XMLATTR_API ForcePageCount {
 public:
     constexpr ForcePageCount() = default;
-    constexpr ForcePageCount(ForcePageCountType type, int count) : type(type), count(count) {}
+    constexpr ForcePageCount(ForcePageCountType newType, int newCount) : type(newType), count(newCount) {}
 
     constexpr ForcePageCountType getType() const { return type; }
     // -1 unless the type has a multiple.

@@ -27,8 +27,8 @@ template <> struct Keywords<InitialPageNumberType> {
 class XMLATTR_API InitialPageNumber {
 public:
     constexpr InitialPageNumber() = default;
-    constexpr InitialPageNumber(InitialPageNumberType type) : type(type) {}
-    constexpr InitialPageNumber(int number) : type(InitialPageNumberType::Number), number(number) {}
+    constexpr InitialPageNumber(InitialPageNumberType newType) : type(newType) {}
+    constexpr InitialPageNumber(int newNumber) : type(InitialPageNumberType::Number), number(newNumber) {}
     // Throws UnreacheableCodeException for every type but MultipleOf.
     InitialPageNumber(InitialPageNumberType type, int multiple);
 
@@ -66,7 +66,7 @@ enum class XMLATTR_API InitialSheetNumberType : std::int32_t { Auto = 0, Number 
 class XMLATTR_API InitialSheetNumber {
 public:
     constexpr InitialSheetNumber() = default;
-    constexpr InitialSheetNumber(int number) : type(InitialSheetNumberType::Number), number(number) {}
+    constexpr InitialSheetNumber(int newNumber) : type(InitialSheetNumberType::Number), number(newNumber) {}
 
     constexpr InitialSheetNumberType getType() const { return type; }
     // -1 unless the type is Number.

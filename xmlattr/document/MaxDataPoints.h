@@ -13,8 +13,8 @@ enum class XMLATTR_API MaxDataPointsType : std::int32_t { All = 0, Count = 1 };
 class XMLATTR_API MaxDataPoints {
 public:
     constexpr MaxDataPoints() = default;
-    constexpr MaxDataPoints(MaxDataPointsType type) : type(type) {}
-    constexpr MaxDataPoints(int count) : type(MaxDataPointsType::Count), count(count) {}
+    constexpr MaxDataPoints(MaxDataPointsType newType) : type(newType) {}
+    constexpr MaxDataPoints(int newCount) : type(MaxDataPointsType::Count), count(newCount) {}
 
     constexpr MaxDataPointsType getType() const { return type; }
     // The count; 0 when the type is All.

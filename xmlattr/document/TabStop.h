@@ -11,8 +11,8 @@ namespace Xml {
 class XMLATTR_API TabStop {
 public:
     constexpr TabStop() = default;
-    constexpr TabStop(Length position, TabStopType type, TabPattern pattern)
-        : position(position), type(type), pattern(pattern) {}
+    constexpr TabStop(Length newPosition, TabStopType newType, TabPattern newPattern)
+        : position(newPosition), type(newType), pattern(newPattern) {}
 
     constexpr Length const& getPosition() const { return position; }
     constexpr TabStopType getType() const { return type; }

@@ -12,7 +12,7 @@ namespace Xml {
 class XMLATTR_API Url {
 public:
     Url() = default;
-    Url(Core::String url) : url(std::move(url)) {}
+    Url(Core::String newUrl) : url(std::move(newUrl)) {}
 
     Core::String const& getUrl() const { return url; }
 

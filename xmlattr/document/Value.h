@@ -17,9 +17,9 @@ enum class XMLATTR_API ValueType : std::int32_t { None = 0, Number = 1, Date = 2
 class XMLATTR_API Value {
 public:
     Value() = default;
-    Value(float number) : type(ValueType::Number), number(number) {}
-    Value(Core::DateTimeEx date) : type(ValueType::Date), date(date) {}
-    Value(Core::String string) : type(ValueType::String), string(std::move(string)) {}
+    Value(float newNumber) : type(ValueType::Number), number(newNumber) {}
+    Value(Core::DateTimeEx newDate) : type(ValueType::Date), date(newDate) {}
+    Value(Core::String newString) : type(ValueType::String), string(std::move(newString)) {}
 
     ValueType getType() const { return type; }
     float getFloatValue() const { return number; }

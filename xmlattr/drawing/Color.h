@@ -19,7 +19,7 @@ protected:
 
 class XMLATTR_API RGBColor : public Color {
 public:
-    RGBColor(unsigned char r, unsigned char g, unsigned char b) : r(r), g(g), b(b) {}
+    RGBColor(unsigned char newR, unsigned char newG, unsigned char newB) : r(newR), g(newG), b(newB) {}
     RGBColor(RGBColor const&) = default;
     ~RGBColor() override;
 
@@ -36,7 +36,7 @@ private:
 // Fractions of full ink, 0 to 1; values outside are kept as they are.
 class XMLATTR_API CMYKColor : public Color {
 public:
-    CMYKColor(double c, double m, double y, double k) : c(c), m(m), y(y), k(k) {}
+    CMYKColor(double newC, double newM, double newY, double newK) : c(newC), m(newM), y(newY), k(newK) {}
     CMYKColor(CMYKColor const&) = default;
     ~CMYKColor() override;
 

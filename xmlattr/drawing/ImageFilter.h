@@ -16,7 +16,7 @@ public:
         {u"nearest", Nearest}, {u"bilinear", Bilinear}, {u"bicubic", Bicubic}, {u"auto", Auto}};
 
     constexpr ImageFilter() = default;
-    constexpr ImageFilter(Type type) : type(type) {}
+    constexpr ImageFilter(Type newType) : type(newType) {}
 
     constexpr Type getType() const { return type; }
     constexpr bool operator==(ImageFilter const&) const = default;

@@ -10,8 +10,8 @@ namespace Drawing {
 class XMLATTR_API RectF {
 public:
     constexpr RectF() = default;
-    constexpr RectF(float top, float right, float bottom, float left)
-        : top(top), right(right), bottom(bottom), left(left) {}
+    constexpr RectF(float newTop, float newRight, float newBottom, float newLeft)
+        : top(newTop), right(newRight), bottom(newBottom), left(newLeft) {}
 
     constexpr float getTop() const { return top; }
     constexpr float getRight() const { return right; }

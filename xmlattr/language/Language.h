@@ -13,8 +13,8 @@ namespace Xml {
 class XMLATTR_API Language : public Core::Object {
 public:
     constexpr Language() = default;
-    constexpr Language(Drawing::LanguageId language, Drawing::CountryId country)
-        : language(language), country(country) {}
+    constexpr Language(Drawing::LanguageId newLanguage, Drawing::CountryId newCountry)
+        : language(newLanguage), country(newCountry) {}
     Language(Language const&) = default;
     Language& operator=(Language const&) = default;
     ~Language() override;

@@ -11,8 +11,8 @@ namespace Xml {
 class XMLATTR_API AlignmentAdjust {
 public:
     constexpr AlignmentAdjust() = default;
-    constexpr AlignmentAdjust(AlignmentBaseline keyword) : keyword(keyword) {}
-    constexpr AlignmentAdjust(LengthOrPercent const& measure) : keywordHeld(false), measure(measure) {}
+    constexpr AlignmentAdjust(AlignmentBaseline newKeyword) : keyword(newKeyword) {}
+    constexpr AlignmentAdjust(LengthOrPercent const& newMeasure) : keywordHeld(false), measure(newMeasure) {}
 
     constexpr bool isKeyword() const { return keywordHeld; }
     constexpr AlignmentBaseline getKeyword() const { return keyword; }

@@ -28,7 +28,7 @@ template <> struct Keywords<BackgroundSizeType> {
 class XMLATTR_API BackgroundSize : public LengthOrPercent {
 public:
     constexpr BackgroundSize() = default;
-    constexpr BackgroundSize(BackgroundSizeType type) : type(type) {}
+    constexpr BackgroundSize(BackgroundSizeType newType) : type(newType) {}
     constexpr BackgroundSize(LengthOrPercent const& measure)
         : LengthOrPercent(measure), type(BackgroundSizeType::LengthOrPercent) {}
 

@@ -23,7 +23,7 @@ public:
 
 protected:
     constexpr BaselineShiftOf(BaselineShiftMode mode) : BaselineShiftOf::TaggedMeasure(mode) {}
-    constexpr BaselineShiftOf(Measure const& measure) : BaselineShiftOf::TaggedMeasure(measure) {}
+    constexpr BaselineShiftOf(Measure const& newMeasure) : BaselineShiftOf::TaggedMeasure(newMeasure) {}
 };
 
 // "baseline", "sub" or "super", exact in case, or a LengthOrPercent. Prints the same. A failed parse
@@ -32,7 +32,7 @@ class XMLATTR_API BaselineShift : public BaselineShiftOf<LengthOrPercent> {
 public:
     constexpr BaselineShift() : BaselineShift(BaselineShiftMode::Baseline) {}
     constexpr BaselineShift(BaselineShiftMode mode) : BaselineShiftOf(mode) {}
-    constexpr BaselineShift(LengthOrPercent const& measure) : BaselineShiftOf(measure) {}
+    constexpr BaselineShift(LengthOrPercent const& newMeasure) : BaselineShiftOf(newMeasure) {}
 
     constexpr bool operator==(BaselineShift const&) const = default;
 };
@@ -50,7 +50,7 @@ class XMLATTR_API SBaselineShift : public BaselineShiftOf<SLengthOrPercent> {
 public:
     constexpr SBaselineShift() : SBaselineShift(BaselineShiftMode::Baseline) {}
     constexpr SBaselineShift(BaselineShiftMode mode) : BaselineShiftOf(mode) {}
-    constexpr SBaselineShift(SLengthOrPercent const& measure) : BaselineShiftOf(measure) {}
+    constexpr SBaselineShift(SLengthOrPercent const& newMeasure) : BaselineShiftOf(newMeasure) {}
 
     constexpr bool operator==(SBaselineShift const&) const = default;
 };

@@ -12,7 +12,7 @@ namespace Xml {
 class XMLATTR_API BorderWidth : public Length {
 public:
     constexpr BorderWidth() : Length(1.5f, Pt) {}
-    constexpr BorderWidth(float size, Unit unit) : Length(size, unit) {}
+    constexpr BorderWidth(float newSize, Unit newUnit) : Length(newSize, newUnit) {}
     constexpr BorderWidth(Length const& length) : Length(length) {}
 };
 

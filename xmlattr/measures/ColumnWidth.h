@@ -12,7 +12,7 @@ namespace Xml {
 class XMLATTR_API ColumnWidth : public AutoOrMeasure {
 public:
     constexpr ColumnWidth() = default;
-    constexpr ColumnWidth(LengthOrPercent const& measure) : AutoOrMeasure(measure) {}
+    constexpr ColumnWidth(LengthOrPercent const& newMeasure) : AutoOrMeasure(newMeasure) {}
 
     constexpr bool operator==(ColumnWidth const&) const = default;
 

@@ -30,9 +30,9 @@ template <> struct Keywords<ContentScaleMode> {
 class XMLATTR_API ContentLength {
 public:
     constexpr ContentLength() = default;
-    constexpr ContentLength(ContentScaleMode mode) : mode(mode) {}
-    constexpr ContentLength(LengthOrPercent const& value)
-        : mode(ContentScaleMode::LengthOrPercent), value(value), null(false) {}
+    constexpr ContentLength(ContentScaleMode newMode) : mode(newMode) {}
+    constexpr ContentLength(LengthOrPercent const& newValue)
+        : mode(ContentScaleMode::LengthOrPercent), value(newValue), null(false) {}
 
     constexpr ContentScaleMode getMode() const { return mode; }
     constexpr bool isLengthOrPercent() const { return mode == ContentScaleMode::LengthOrPercent; }

@@ -10,7 +10,7 @@ namespace Xml {
 class XMLATTR_API FloatOrPercent {
 public:
     constexpr FloatOrPercent() = default;
-    constexpr FloatOrPercent(float value) : value(value) {}
+    constexpr FloatOrPercent(float newValue) : value(newValue) {}
 
     constexpr float getValue() const { return value; }
 

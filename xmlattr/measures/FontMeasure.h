@@ -27,8 +27,8 @@ public:
 
 protected:
     constexpr FontMeasure() = default;
-    constexpr FontMeasure(RelativeWord relative) : type(Relative), relative(relative) {}
-    constexpr FontMeasure(Measure const& absolute) : type(Absolute), absolute(absolute) {}
+    constexpr FontMeasure(RelativeWord newRelative) : type(Relative), relative(newRelative) {}
+    constexpr FontMeasure(Measure const& newAbsolute) : type(Absolute), absolute(newAbsolute) {}
 
     // Intended: the relative word stays as it was, since the accessors give what is stored.
     constexpr void setAbsolute(Measure const& measure) {

@@ -33,8 +33,8 @@ public:
 
 protected:
     constexpr FontSizeOf() = default;
-    constexpr FontSizeOf(RelativeFontSize relative) : FontSizeOf::FontMeasure(relative) {}
-    constexpr FontSizeOf(Measure const& absolute) : FontSizeOf::FontMeasure(absolute) {}
+    constexpr FontSizeOf(RelativeFontSize newRelative) : FontSizeOf::FontMeasure(newRelative) {}
+    constexpr FontSizeOf(Measure const& newAbsolute) : FontSizeOf::FontMeasure(newAbsolute) {}
 };
 
 // "larger" or "smaller"; "xx-small", "x-small", "small", "medium", "large", "x-large" or "xx-large",
@@ -43,8 +43,8 @@ protected:
 class XMLATTR_API FontSize : public FontSizeOf<LengthOrPercent> {
 public:
     constexpr FontSize() = default;
-    constexpr FontSize(RelativeFontSize relative) : FontSizeOf(relative) {}
-    constexpr FontSize(LengthOrPercent const& absolute) : FontSizeOf(absolute) {}
+    constexpr FontSize(RelativeFontSize newRelative) : FontSizeOf(newRelative) {}
+    constexpr FontSize(LengthOrPercent const& newAbsolute) : FontSizeOf(newAbsolute) {}
     constexpr FontSize& operator=(LengthOrPercent const& measure) {
         setAbsolute(measure);
         return *this;
@@ -65,8 +65,8 @@ template <> struct AttributeTraits<FontSize> {
 class XMLATTR_API SFontSize : public FontSizeOf<SLengthOrPercent> {
 public:
     constexpr SFontSize() = default;
-    constexpr SFontSize(RelativeFontSize relative) : FontSizeOf(relative) {}
-    constexpr SFontSize(SLengthOrPercent const& absolute) : FontSizeOf(absolute) {}
+    constexpr SFontSize(RelativeFontSize newRelative) : FontSizeOf(newRelative) {}
+    constexpr SFontSize(SLengthOrPercent const& newAbsolute) : FontSizeOf(newAbsolute) {}
     constexpr SFontSize& operator=(SLengthOrPercent const& measure) {
         setAbsolute(measure);
         return *this;

@@ -48,8 +48,8 @@ template <> struct Keywords<RelativeFontStretch> {
 class XMLATTR_API FontStretch : public FontMeasure<RelativeFontStretch, 2, LengthOrPercent, 1> {
 public:
     constexpr FontStretch() = default;
-    constexpr FontStretch(RelativeFontStretch relative) : FontMeasure(relative) {}
-    constexpr FontStretch(LengthOrPercent const& absolute) : FontMeasure(absolute) {}
+    constexpr FontStretch(RelativeFontStretch newRelative) : FontMeasure(newRelative) {}
+    constexpr FontStretch(LengthOrPercent const& newAbsolute) : FontMeasure(newAbsolute) {}
     constexpr FontStretch& operator=(LengthOrPercent const& measure) {
         setAbsolute(measure);
         return *this;

@@ -20,7 +20,7 @@ class XMLATTR_API Indent : public TaggedMeasure<IndentFunction, IndentFunction::
 public:
     constexpr Indent() : Indent(IndentFunction::None) {}
     constexpr Indent(IndentFunction function) : TaggedMeasure(function) {}
-    constexpr Indent(LengthOrPercent const& measure) : TaggedMeasure(measure) {}
+    constexpr Indent(LengthOrPercent const& newMeasure) : TaggedMeasure(newMeasure) {}
 
     constexpr IndentFunction getFunction() const { return tag; }
     constexpr LengthOrPercent const& getLengthOrPercent() const { return measure; }

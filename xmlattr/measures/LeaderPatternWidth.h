@@ -10,7 +10,7 @@ namespace Xml {
 class XMLATTR_API LeaderPatternWidth : public AutoOrMeasure {
 public:
     constexpr LeaderPatternWidth() = default;
-    constexpr LeaderPatternWidth(LengthOrPercent const& measure) : AutoOrMeasure(measure) {}
+    constexpr LeaderPatternWidth(LengthOrPercent const& newMeasure) : AutoOrMeasure(newMeasure) {}
 
     constexpr bool usesFontMetrics() const { return isAuto(); }
 

@@ -15,7 +15,7 @@ public:
     enum Unit : std::int32_t { Px = 0, Pt = 1, Pc = 2, Cm = 3, Mm = 4, In = 5, Em = 6, Ex = 7 };
 
     constexpr Length() = default;
-    constexpr Length(float size, Unit unit) : unit(unit), size(size) {}
+    constexpr Length(float newSize, Unit newUnit) : unit(newUnit), size(newSize) {}
 
     constexpr Unit getUnit() const { return unit; }
     constexpr void setUnit(Unit newUnit) { unit = newUnit; }
@@ -60,7 +60,7 @@ template <> struct AttributeTraits<Length> {
 class XMLATTR_API DLength {
 public:
     constexpr DLength() = default;
-    constexpr DLength(Length const& first, Length const& second) : first(first), second(second) {}
+    constexpr DLength(Length const& newFirst, Length const& newSecond) : first(newFirst), second(newSecond) {}
 
     constexpr Length const& getFirst() const { return first; }
     constexpr Length const& getSecond() const { return second; }

@@ -16,8 +16,8 @@ namespace Xml {
 class XMLATTR_API LengthOrPercent : public MeasureOrPercent<Length> {
 public:
     constexpr LengthOrPercent() = default;
-    constexpr LengthOrPercent(Length const& length) : MeasureOrPercent(length) {}
-    constexpr LengthOrPercent(float percent) : MeasureOrPercent(percent) {}
+    constexpr LengthOrPercent(Length const& newLength) : MeasureOrPercent(newLength) {}
+    constexpr LengthOrPercent(float newPercent) : MeasureOrPercent(newPercent) {}
 
     constexpr bool operator==(LengthOrPercent const&) const = default;
 
@@ -44,7 +44,7 @@ public:
 
 protected:
     constexpr AutoOrMeasure() : TaggedMeasure(true) {}
-    constexpr AutoOrMeasure(LengthOrPercent const& measure) : TaggedMeasure(measure) {}
+    constexpr AutoOrMeasure(LengthOrPercent const& newMeasure) : TaggedMeasure(newMeasure) {}
 };
 
 static_assert(sizeof(AutoOrMeasure) == 20);
@@ -58,7 +58,7 @@ struct AutoOrMeasurePrinter {
 class XMLATTR_API LengthOrPercentAuto : public AutoOrMeasure {
 public:
     constexpr LengthOrPercentAuto() = default;
-    constexpr LengthOrPercentAuto(LengthOrPercent const& measure) : AutoOrMeasure(measure) {}
+    constexpr LengthOrPercentAuto(LengthOrPercent const& newMeasure) : AutoOrMeasure(newMeasure) {}
 
     // Keeps the measure.
     constexpr void setAuto(bool isAuto) { tag = isAuto; }
@@ -79,7 +79,7 @@ template <> struct AttributeTraits<LengthOrPercentAuto> {
 class XMLATTR_API Margin : public AutoOrMeasure {
 public:
     constexpr Margin() = default;
-    constexpr Margin(LengthOrPercent const& measure) : AutoOrMeasure(measure) {}
+    constexpr Margin(LengthOrPercent const& newMeasure) : AutoOrMeasure(newMeasure) {}
 
     // Two automatic margins are equal, whatever measures they carry.
     constexpr bool operator==(Margin const&) const = default;

@@ -33,8 +33,8 @@ public:
 
 protected:
     constexpr MeasureOrPercent() = default;
-    constexpr MeasureOrPercent(LengthType const& length) : length(length) {}
-    constexpr MeasureOrPercent(float percent) : kind(KindPercent), percent(percent) {}
+    constexpr MeasureOrPercent(LengthType const& newLength) : length(newLength) {}
+    constexpr MeasureOrPercent(float newPercent) : kind(KindPercent), percent(newPercent) {}
 
 private:
     Kind kind = KindLength;

@@ -17,7 +17,7 @@ public:
     enum Unit : std::int32_t { UserUnit = 0, Pt = 1, Cm = 3, Mm = 4, In = 5, Em = 6, Ex = 7, Pc = 8, Percent = 9 };
 
     constexpr SLength() = default;
-    constexpr SLength(float size, Unit unit) : unit(unit), size(size) {}
+    constexpr SLength(float newSize, Unit newUnit) : unit(newUnit), size(newSize) {}
 
     constexpr Unit getUnit() const { return unit; }
     constexpr float getSize() const { return size; }

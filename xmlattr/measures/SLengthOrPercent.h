@@ -14,8 +14,8 @@ namespace Xml {
 class XMLATTR_API SLengthOrPercent : public MeasureOrPercent<SLength> {
 public:
     constexpr SLengthOrPercent() = default;
-    constexpr SLengthOrPercent(SLength const& length) : MeasureOrPercent(length) {}
-    constexpr SLengthOrPercent(float percent) : MeasureOrPercent(percent) {}
+    constexpr SLengthOrPercent(SLength const& newLength) : MeasureOrPercent(newLength) {}
+    constexpr SLengthOrPercent(float newPercent) : MeasureOrPercent(newPercent) {}
     constexpr SLengthOrPercent(float size, SLength::Unit unit) : MeasureOrPercent(SLength(size, unit)) {}
 
     constexpr bool operator==(SLengthOrPercent const&) const = default;

@@ -11,7 +11,7 @@ namespace Xml {
 class XMLATTR_API TableWidth : public AutoOrMeasure {
 public:
     constexpr TableWidth() = default;
-    constexpr TableWidth(LengthOrPercent const& measure) : AutoOrMeasure(measure) {}
+    constexpr TableWidth(LengthOrPercent const& newMeasure) : AutoOrMeasure(newMeasure) {}
 
     constexpr bool operator==(TableWidth const&) const = default;
 

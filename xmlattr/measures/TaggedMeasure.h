@@ -13,8 +13,8 @@ public:
     }
 
 protected:
-    constexpr TaggedMeasure(Tag tag) : tag(tag) {}
-    constexpr TaggedMeasure(Measure const& measure) : tag(measured), measure(measure) {}
+    constexpr TaggedMeasure(Tag newTag) : tag(newTag) {}
+    constexpr TaggedMeasure(Measure const& newMeasure) : tag(measured), measure(newMeasure) {}
 
     constexpr bool isMeasured() const { return tag == measured; }
 

@@ -43,8 +43,8 @@ class XMLATTR_API TextAlign {
 public:
     TextAlign() = default;
     // The text is dropped unless the type is AlignmentString.
-    TextAlign(TextAlignType type, Core::String text) : type(type) {
-        if (type == TextAlignType::AlignmentString) this->text = std::move(text);
+    TextAlign(TextAlignType newType, Core::String newText) : type(newType) {
+        if (type == TextAlignType::AlignmentString) text = std::move(newText);
     }
 
     // Empty for everything but an alignment string.

@@ -14,8 +14,8 @@ namespace Xml {
 class XMLATTR_API BoxShadow {
 public:
     BoxShadow() = default;
-    BoxShadow(Length const& dx, Length const& dy, Length const& blurRadius, SmartPtr<Drawing::Color> color)
-        : dx(dx), dy(dy), blurRadius(blurRadius), color(std::move(color)) {}
+    BoxShadow(Length const& newDx, Length const& newDy, Length const& newBlurRadius, SmartPtr<Drawing::Color> newColor)
+        : dx(newDx), dy(newDy), blurRadius(newBlurRadius), color(std::move(newColor)) {}
 
     Length getDx() const { return dx; }
     Length getDy() const { return dy; }

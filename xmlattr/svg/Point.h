@@ -10,7 +10,7 @@ struct XMLATTR_API Point {
     SLength x, y;
 
     constexpr Point() = default;
-    constexpr Point(SLength const& x, SLength const& y) : x(x), y(y) {}
+    constexpr Point(SLength const& newX, SLength const& newY) : x(newX), y(newY) {}
 
     constexpr bool operator==(Point const&) const = default;
 

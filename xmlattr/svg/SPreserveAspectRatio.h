@@ -13,7 +13,7 @@ namespace Xml {
 class XMLATTR_API SPreserveAspectRatio {
 public:
     constexpr SPreserveAspectRatio() = default;
-    constexpr SPreserveAspectRatio(int ratio) : ratio(ratio) {}
+    constexpr SPreserveAspectRatio(int newRatio) : ratio(newRatio) {}
 
     constexpr int getAspectRatio() const { return ratio; }
 

@@ -13,8 +13,8 @@ namespace Xml {
 class XMLATTR_API STextDecoration {
 public:
     constexpr STextDecoration() = default;
-    constexpr STextDecoration(bool underline, bool overline, bool lineThrough)
-        : underline(underline), overline(overline), lineThrough(lineThrough) {}
+    constexpr STextDecoration(bool newUnderline, bool newOverline, bool newLineThrough)
+        : underline(newUnderline), overline(newOverline), lineThrough(newLineThrough) {}
 
     constexpr bool isNone() const { return !underline && !overline && !lineThrough; }
     constexpr bool isUnderline() const { return underline; }

@@ -14,8 +14,9 @@ class XMLATTR_API STextShadow {
 public:
     STextShadow() = default;
     // Intended: the paint counts as absent, whatever the colour; see SNullableColor.
-    STextShadow(SLength const& dx, SLength const& dy, SLength const& blurRadius, SmartPtr<Drawing::Color> color)
-        : dx(dx), dy(dy), blurRadius(blurRadius), color(std::move(color)) {}
+    STextShadow(SLength const& newDx, SLength const& newDy, SLength const& newBlurRadius,
+                SmartPtr<Drawing::Color> newColor)
+        : dx(newDx), dy(newDy), blurRadius(newBlurRadius), color(std::move(newColor)) {}
 
     SLength getDx() const { return dx; }
     SLength getDy() const { return dy; }

@@ -48,12 +48,13 @@ struct XMLATTR_API Transform {
     constexpr Transform() = default;
     constexpr Transform(double a, double b, double c, double d, double e, double f)
         : type(TransformType::Matrix), matrix{a, b, c, d, e, f} {}
-    constexpr Transform(SLength const& tx, SLength const& ty) : tx(tx), ty(ty) {}
-    constexpr Transform(double sx, double sy) : type(TransformType::Scale), sx(sx), sy(sy) {}
-    constexpr Transform(double angle, SLength const& cx, SLength const& cy)
-        : type(TransformType::Rotate), angle(angle), cx(cx), cy(cy) {}
+    constexpr Transform(SLength const& newTx, SLength const& newTy) : tx(newTx), ty(newTy) {}
+    constexpr Transform(double newSx, double newSy) : type(TransformType::Scale), sx(newSx), sy(newSy) {}
+    constexpr Transform(double newAngle, SLength const& newCx, SLength const& newCy)
+        : type(TransformType::Rotate), angle(newAngle), cx(newCx), cy(newCy) {}
     // A skew.
-    constexpr Transform(TransformType type, double angle) : type(type), skewAngleX(angle), skewAngleY(angle) {}
+    constexpr Transform(TransformType newType, double newAngle)
+        : type(newType), skewAngleX(newAngle), skewAngleY(newAngle) {}
 
     // The types and the parameters of the type are equal; a number that is no type equals nothing.
     // Intended: skews compare the angle of a rotation, so that two of the same type from a text or

@@ -10,9 +10,9 @@ struct XMLATTR_API ViewBox {
     SLengthOrPercent x{0.0f}, y{0.0f}, width{1.0f}, height{1.0f};
 
     constexpr ViewBox() = default;
-    constexpr ViewBox(SLengthOrPercent const& x, SLengthOrPercent const& y, SLengthOrPercent const& width,
-                      SLengthOrPercent const& height)
-        : x(x), y(y), width(width), height(height) {}
+    constexpr ViewBox(SLengthOrPercent const& newX, SLengthOrPercent const& newY, SLengthOrPercent const& newWidth,
+                      SLengthOrPercent const& newHeight)
+        : x(newX), y(newY), width(newWidth), height(newHeight) {}
 
     constexpr bool operator==(ViewBox const&) const = default;
 };
