@@ -10,6 +10,8 @@
 #include <span>
 #include <string_view>
 
+#include "xmlattr/core/SetMacrosAside.h"
+
 namespace Xml {
 
 struct AttributeType;
@@ -85,3 +87,5 @@ public:
 };
 
 } // namespace Xml
+
+#include "xmlattr/core/PutMacrosBack.h"

@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <utility>
 
+#include "xmlattr/core/SetMacrosAside.h"
+
 namespace Xml {
 
 // "none" or "transparent", a reference "url(#id)", exact in case, to a paint server (SVG 1.1), or a
@@ -61,3 +63,5 @@ template <> struct AttributeTraits<SNullableColor> {
 };
 
 } // namespace Xml
+
+#include "xmlattr/core/PutMacrosBack.h"

@@ -2,6 +2,8 @@
 // Nothing here allocates, throws or depends on the locale.
 #pragma once
 
+#include "xmlattr/core/Export.h"
+
 #include <algorithm>
 #include <array>
 #include <cstddef>

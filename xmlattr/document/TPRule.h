@@ -5,6 +5,8 @@
 
 #include <cstdint>
 
+#include "xmlattr/core/SetMacrosAside.h"
+
 namespace Xml {
 
 enum class XMLATTR_API TPRuleType : std::int32_t { FindKeyword = 0, None = 1 };
@@ -36,3 +38,5 @@ private:
 template <> struct AttributeTraits<TPRule> { static bool parse(TPRule& value, std::u16string_view text); };
 
 } // namespace Xml
+
+#include "xmlattr/core/PutMacrosBack.h"

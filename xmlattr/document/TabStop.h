@@ -4,6 +4,8 @@
 #include "xmlattr/keywords/LayoutKeywords.h"
 #include "xmlattr/measures/Length.h"
 
+#include "xmlattr/core/SetMacrosAside.h"
+
 namespace Xml {
 
 // Where the tabulator stops, how text is aligned there, and what fills the way to it. No attribute
@@ -29,3 +31,5 @@ private:
 };
 
 } // namespace Xml
+
+#include "xmlattr/core/PutMacrosBack.h"

@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <utility>
 
+#include "xmlattr/core/SetMacrosAside.h"
+
 namespace Xml {
 
 enum class XMLATTR_API ValueType : std::int32_t { None = 0, Number = 1, Date = 2, String = 3 };
@@ -59,3 +61,5 @@ template <> struct AttributeTraits<Value> {
 };
 
 } // namespace Xml
+
+#include "xmlattr/core/PutMacrosBack.h"

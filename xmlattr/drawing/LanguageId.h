@@ -5,6 +5,8 @@
 
 #include <cstdint>
 
+#include "xmlattr/core/SetMacrosAside.h"
+
 namespace Drawing {
 
 // The numbers are shared with the hyphenation and shaping of other libraries: they stay.
@@ -154,3 +156,5 @@ enum class XMLATTR_API LanguageId : std::int32_t {
 enum class XMLATTR_API CountryId : std::int32_t { None = 0, UnitedStates = 1, GreatBritain = 2, Australia = 3 };
 
 } // namespace Drawing
+
+#include "xmlattr/core/PutMacrosBack.h"

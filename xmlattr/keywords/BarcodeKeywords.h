@@ -3,6 +3,8 @@
 
 #include "xmlattr/keywords/KeywordTable.h"
 
+#include "xmlattr/core/SetMacrosAside.h"
+
 namespace Xml {
 
 // The symbology of a barcode.
@@ -162,3 +164,5 @@ template <> struct Keywords<TextEncoding> {
 };
 
 } // namespace Xml
+
+#include "xmlattr/core/PutMacrosBack.h"

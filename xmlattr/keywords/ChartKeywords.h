@@ -3,6 +3,8 @@
 
 #include "xmlattr/keywords/KeywordTable.h"
 
+#include "xmlattr/core/SetMacrosAside.h"
+
 namespace Xml {
 
 // The kind of a chart. No keyword gives 3.
@@ -283,3 +285,5 @@ template <> struct Keywords<JoinFunctionType> {
 };
 
 } // namespace Xml
+
+#include "xmlattr/core/PutMacrosBack.h"

@@ -5,6 +5,8 @@
 #include "xmlattr/core/Variant.h"
 #include "xmlattr/keywords/KeywordTable.h"
 
+#include "xmlattr/core/SetMacrosAside.h"
+
 namespace Xml {
 
 // What a database command returns.
@@ -176,3 +178,5 @@ template <> struct Keywords<OriginalInputFormat> {
 };
 
 } // namespace Xml
+
+#include "xmlattr/core/PutMacrosBack.h"

@@ -3,6 +3,8 @@
 
 #include "xmlattr/keywords/KeywordTable.h"
 
+#include "xmlattr/core/SetMacrosAside.h"
+
 namespace Xml {
 
 // font-style of XSL-FO and SVG.
@@ -58,3 +60,5 @@ template <> struct Keywords<TextLineStyle> {
 };
 
 } // namespace Xml
+
+#include "xmlattr/core/PutMacrosBack.h"

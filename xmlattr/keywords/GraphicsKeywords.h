@@ -5,6 +5,8 @@
 #include "xmlattr/drawing/Gradients.h"
 #include "xmlattr/keywords/KeywordTable.h"
 
+#include "xmlattr/core/SetMacrosAside.h"
+
 namespace Xml {
 
 // display of SVG 1.1.
@@ -124,3 +126,5 @@ template <> struct Keywords<PlayMediaObject> {
 };
 
 } // namespace Xml
+
+#include "xmlattr/core/PutMacrosBack.h"

@@ -3,6 +3,8 @@
 
 #include "xmlattr/keywords/KeywordTable.h"
 
+#include "xmlattr/core/SetMacrosAside.h"
+
 namespace Xml {
 
 // absolute-position of XSL-FO.
@@ -612,3 +614,5 @@ template <> struct Keywords<AnchorY> {
 };
 
 } // namespace Xml
+
+#include "xmlattr/core/PutMacrosBack.h"

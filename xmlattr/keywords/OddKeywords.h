@@ -4,6 +4,8 @@
 
 #include "xmlattr/keywords/KeywordTable.h"
 
+#include "xmlattr/core/SetMacrosAside.h"
+
 namespace Xml {
 
 // The keeps of XSL-FO: "auto", "always" or any integer, which is the strength and is held as it is.
@@ -118,3 +120,5 @@ template <> struct AttributeTraits<BarcodeValueType> : KeywordTraits<BarcodeValu
 };
 
 } // namespace Xml
+
+#include "xmlattr/core/PutMacrosBack.h"

@@ -3,6 +3,8 @@
 
 #include "xmlattr/keywords/KeywordTable.h"
 
+#include "xmlattr/core/SetMacrosAside.h"
+
 namespace Xml {
 
 // The standard that a PDF follows.
@@ -94,3 +96,5 @@ template <> struct Keywords<LightingScheme> {
 };
 
 } // namespace Xml
+
+#include "xmlattr/core/PutMacrosBack.h"

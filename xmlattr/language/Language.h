@@ -5,6 +5,8 @@
 #include "xmlattr/core/Object.h"
 #include "xmlattr/drawing/LanguageId.h"
 
+#include "xmlattr/core/SetMacrosAside.h"
+
 namespace Xml {
 
 // A language and, for English, its country. Read from a two-letter code of ISO 639-1, from "cze",
@@ -48,3 +50,5 @@ private:
 template <> struct AttributeTraits<Language> { static bool parse(Language& value, std::u16string_view text); };
 
 } // namespace Xml
+
+#include "xmlattr/core/PutMacrosBack.h"

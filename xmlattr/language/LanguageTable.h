@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <array>
 
+#include "xmlattr/core/SetMacrosAside.h"
+
 namespace Xml {
 
 struct LanguageRow {
@@ -199,3 +201,5 @@ consteval bool languageRowsAreNumbered() {
 static_assert(languageRowsAreNumbered(), "a language stands out of order");
 
 } // namespace Xml
+
+#include "xmlattr/core/PutMacrosBack.h"

@@ -1,7 +1,11 @@
 // A font measure relative to the parent's or absolute: the one value behind font sizes and stretches.
 #pragma once
 
+#include "xmlattr/core/Export.h"
+
 #include <cstdint>
+
+#include "xmlattr/core/SetMacrosAside.h"
 
 namespace Xml {
 
@@ -42,3 +46,5 @@ protected:
 };
 
 } // namespace Xml
+
+#include "xmlattr/core/PutMacrosBack.h"

@@ -4,6 +4,8 @@
 #include "xmlattr/keywords/KeywordTable.h"
 #include "xmlattr/measures/LengthOrPercent.h"
 
+#include "xmlattr/core/SetMacrosAside.h"
+
 namespace Xml {
 
 // What an indent is taken from.
@@ -37,3 +39,5 @@ template <> struct AttributeTraits<Indent> {
 };
 
 } // namespace Xml
+
+#include "xmlattr/core/PutMacrosBack.h"

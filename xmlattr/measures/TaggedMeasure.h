@@ -1,6 +1,8 @@
 // A tag that says which form a value has, and the measure of the one form that has any.
 #pragma once
 
+#include "xmlattr/core/Export.h"
+
 namespace Xml {
 
 // The base of the values that are a measure or one of a few words. The measure counts where the tag

@@ -5,6 +5,8 @@
 
 #include <utility>
 
+#include "xmlattr/core/SetMacrosAside.h"
+
 namespace Xml {
 
 // Where text is aligned; None prints like Left.
@@ -68,3 +70,5 @@ template <> struct AttributeTraits<TextAlign> {
 };
 
 } // namespace Xml
+
+#include "xmlattr/core/PutMacrosBack.h"
