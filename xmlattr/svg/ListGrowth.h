@@ -23,7 +23,7 @@ void growList(Core::Vector<T>& list, std::ptrdiff_t taken, std::ptrdiff_t total)
     std::size_t const least = size + size / 4 + 1, most = 4 * size;
     double const suggested =
         static_cast<double>(size) * static_cast<double>(total) / static_cast<double>(taken + usual);
-    list.reserve(suggested < static_cast<double>(most) ? std::max(least, static_cast<std::size_t>(suggested * 1.0625))
+    list.reserve(suggested < static_cast<double>(most) ? (std::max)(least, static_cast<std::size_t>(suggested * 1.0625))
                                                        : most);
 }
 
