@@ -21,7 +21,7 @@ public:
     String(char16_t const* text) : units(text) {}
     String(std::u16string_view text) : units(text) {}
     String(std::u16string const& text) : units(text) {}
-    String(std::u16string&& text) noexcept : units(std::move(text)) {}
+    explicit String(std::u16string&& text) noexcept : units(std::move(text)) {}
 
     // Malformed UTF-8 and lone surrogates become U+FFFD, one for each maximal ill-formed part.
     static String fromUtf8(std::string_view text);
