@@ -2,6 +2,8 @@
 // say it: words and kinds of values.
 #pragma once
 
+#include "xmlattr/core/Export.h"
+
 #include <cstdint>
 #include <optional>
 #include <string_view>
