@@ -16,7 +16,7 @@ std::string heldText(double held);
 // Keeps the first difference between a text and the value that is held of it.
 class SvgComparison {
 public:
-    explicit SvgComparison(char16_t const* text) : text(text) {}
+    explicit SvgComparison(char16_t const* newText) : text(newText) {}
 
     bool differs() const { return reading.outcome == SvgReading::Outcome::Differs; }
 

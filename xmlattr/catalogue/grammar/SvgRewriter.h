@@ -12,7 +12,7 @@ namespace Xml {
 // A text that is copied but for some changes, made from its start to its end.
 class SvgRewriter {
 public:
-    explicit SvgRewriter(std::u16string_view text) : text(text), copied(text.data()) {}
+    explicit SvgRewriter(std::u16string_view newText) : text(newText), copied(newText.data()) {}
 
     void replace(char16_t const* begin, char16_t const* end, std::u16string_view with) {
         out.append(copied, begin);
