@@ -8,13 +8,12 @@ set(internal_headers
   catalogue/FoProperties.inc
   catalogue/Properties.inc
   catalogue/SvgProperties.inc
-  catalogue/TableText.h
   catalogue/grammar
   catalogue/legality/AlsoLegal.h
   catalogue/legality/Expression.h
   catalogue/legality/Shorthand.h
   catalogue/legality/ValueOfRow.h
-  catalogue/legality/Words.h
+  catalogue/text
   catalogue/types/Describe.h
   color/ColorNames.h
   document/Call.h

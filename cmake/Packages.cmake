@@ -25,7 +25,6 @@ set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(purpose "Reads the attributes of XSL-FO and SVG documents, and those of the
 vocabularies of a document formatter, into typed values, and prints and
@@ -36,6 +35,14 @@ set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
 set(CPACK_COMPONENT_LIBRARY_DESCRIPTION "${purpose}
 
 This package has the shared libraries.")
+# The linker's cache is brought up to date once for all packages, and packages that need the libraries name this one.
+file(CONFIGURE OUTPUT debian/triggers CONTENT "activate-noawait ldconfig\n")
+file(CONFIGURE OUTPUT debian/shlibs CONTENT
+  "libxmlattr @PROJECT_VERSION_MAJOR@ libxmlattr@PROJECT_VERSION_MAJOR@ (>= @PROJECT_VERSION@)
+libxmlattr_catalogue @PROJECT_VERSION_MAJOR@ libxmlattr@PROJECT_VERSION_MAJOR@ (>= @PROJECT_VERSION@)
+" @ONLY)
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA ${PROJECT_BINARY_DIR}/debian/triggers ${PROJECT_BINARY_DIR}/debian/shlibs)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/xmlattr)
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libxmlattr-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)

@@ -15,19 +15,32 @@ namespace {
 using Function = int (*)();
 
 #ifdef _WIN32
-void* load(std::string const& file) { return LoadLibraryA(file.c_str()); }
-Function find(void* library, std::string const& name) {
-    return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(static_cast<HMODULE>(library), name.c_str())));
+void* load(std::string const& file) {
+    return LoadLibraryA(file.c_str());
 }
-bool release(void* library) { return FreeLibrary(static_cast<HMODULE>(library)) != 0; }
-bool isLoaded(std::string const& file) { return GetModuleHandleA(file.c_str()) != nullptr; }
+Function find(void* library, std::string const& name) {
+    return reinterpret_cast<Function>(
+        reinterpret_cast<void*>(GetProcAddress(static_cast<HMODULE>(library), name.c_str())));
+}
+bool release(void* library) {
+    return FreeLibrary(static_cast<HMODULE>(library)) != 0;
+}
+bool isLoaded(std::string const& file) {
+    return GetModuleHandleA(file.c_str()) != nullptr;
+}
 #else
-void* load(std::string const& file) { return dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL); }
+void* load(std::string const& file) {
+    return dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
+}
 Function find(void* library, std::string const& name) {
     return reinterpret_cast<Function>(dlsym(library, name.c_str()));
 }
-bool release(void* library) { return dlclose(library) == 0; }
-bool isLoaded(std::string const& file) { return dlopen(file.c_str(), RTLD_LAZY | RTLD_NOLOAD) != nullptr; }
+bool release(void* library) {
+    return dlclose(library) == 0;
+}
+bool isLoaded(std::string const& file) {
+    return dlopen(file.c_str(), RTLD_LAZY | RTLD_NOLOAD) != nullptr;
+}
 #endif
 
 bool useOnce(std::string const& file, std::string const& name) {
