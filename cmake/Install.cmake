@@ -11,6 +11,7 @@ set(internal_headers
   catalogue/grammar
   catalogue/legality/AlsoLegal.h
   catalogue/legality/Expression.h
+  catalogue/legality/ExpressionFunctions.h
   catalogue/legality/Shorthand.h
   catalogue/legality/ValueOfRow.h
   catalogue/text
@@ -19,9 +20,7 @@ set(internal_headers
   document/Call.h
   drawing/ColorText.h
   language/LanguageTable.h
-  measures/LengthUnits.h
   measures/Reading.h
-  measures/SLengthUnits.h
   svg/ListGrowth.h
   svg/ShadowReader.h)
 list(TRANSFORM internal_headers PREPEND "/xmlattr/")

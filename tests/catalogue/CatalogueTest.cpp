@@ -27,7 +27,7 @@ TEST(Catalogue, FindsNoAttributeButItsOwn) {
             auto const* const found = Catalogue::find(entry.vocabulary, "block", text);
             bool const isThere = std::ranges::any_of(Catalogue::entries(), [&](CatalogueEntry const& other) {
                 return other.vocabulary == entry.vocabulary && other.attribute == text &&
-                       (other.element == "*" || other.element == "block");
+                       (other.isForEveryElement() || std::ranges::count(other.elements, "block") > 0);
             });
             ASSERT_EQ(found != nullptr, isThere) << text;
             ASSERT_TRUE(!found || found->attribute == text) << text;

@@ -5,9 +5,9 @@ namespace Core {
 namespace {
 
 template <Case rule, class Unit>
-std::size_t search(PackedWord const* words, Unit const* letters, std::uint16_t const* slots,
+std::size_t search(PackedWord const* words, Unit const* letters, std::uint16_t const* firstRows,
                    std::basic_string_view<Unit> text, std::uint64_t factor) {
-    std::size_t row = slots[detail::slotOf(detail::markOf<rule>(text), factor)];
+    std::size_t row = firstRows[detail::slotOf(detail::markOf<rule>(text), factor)];
     while (!detail::isWord<rule>(letters + words[row].start, words[row].length, text)) {
         row = words[row].next;
         if (row == 0) return noWord;
@@ -17,19 +17,19 @@ std::size_t search(PackedWord const* words, Unit const* letters, std::uint16_t c
 
 } // namespace
 
-std::size_t findWord(PackedWord const* words, char16_t const* letters, std::uint16_t const* slots,
+std::size_t findWord(PackedWord const* words, char16_t const* letters, std::uint16_t const* firstRows,
                      std::u16string_view text, std::uint64_t factor) {
-    return search<Case::Exact>(words, letters, slots, text, factor);
+    return search<Case::Exact>(words, letters, firstRows, text, factor);
 }
 
-std::size_t findWord(PackedWord const* words, char const* letters, std::uint16_t const* slots, std::string_view text,
-                     std::uint64_t factor) {
-    return search<Case::Exact>(words, letters, slots, text, factor);
+std::size_t findWord(PackedWord const* words, char const* letters, std::uint16_t const* firstRows,
+                     std::string_view text, std::uint64_t factor) {
+    return search<Case::Exact>(words, letters, firstRows, text, factor);
 }
 
-std::size_t findWordInAnyCase(PackedWord const* words, char16_t const* letters, std::uint16_t const* slots,
+std::size_t findWordInAnyCase(PackedWord const* words, char16_t const* letters, std::uint16_t const* firstRows,
                               std::u16string_view text, std::uint64_t factor) {
-    return search<Case::Any>(words, letters, slots, text, factor);
+    return search<Case::Any>(words, letters, firstRows, text, factor);
 }
 
 // From the last row to the first, without a branch that depends on the value: which row matches cannot

@@ -38,12 +38,13 @@ inline constexpr std::size_t noWord = SIZE_MAX;
 
 // The number of the row whose word is the text, or noWord. The slot of the text's mark holds the first row that it
 // may be. A table comes in pieces, which are passed in registers; as one it would go through memory.
-XMLATTR_API std::size_t findWord(PackedWord const* words, char16_t const* letters, std::uint16_t const* slots,
+XMLATTR_API std::size_t findWord(PackedWord const* words, char16_t const* letters, std::uint16_t const* firstRows,
                                  std::u16string_view text, std::uint64_t factor);
-XMLATTR_API std::size_t findWord(PackedWord const* words, char const* letters, std::uint16_t const* slots,
+XMLATTR_API std::size_t findWord(PackedWord const* words, char const* letters, std::uint16_t const* firstRows,
                                  std::string_view text, std::uint64_t factor);
-XMLATTR_API std::size_t findWordInAnyCase(PackedWord const* words, char16_t const* letters, std::uint16_t const* slots,
-                                          std::u16string_view text, std::uint64_t factor);
+XMLATTR_API std::size_t findWordInAnyCase(PackedWord const* words, char16_t const* letters,
+                                          std::uint16_t const* firstRows, std::u16string_view text,
+                                          std::uint64_t factor);
 
 // The number of the first row with the value, or noWord.
 XMLATTR_API std::size_t findNumber(std::int32_t const* values, std::size_t count, std::int32_t value);
@@ -119,7 +120,7 @@ struct WordIndex : PackedWords<Value, Unit, count, letterCount> {
         std::max(1, static_cast<int>(std::bit_width(std::min(count* count / 4, 8 * count))));
     static constexpr int mostTries = 64;
 
-    std::array<std::uint16_t, std::size_t{1} << slotBits> slots{};
+    std::array<std::uint16_t, std::size_t{1} << slotBits> firstRows{};
     std::uint64_t factor = 0;
     bool hasDuplicates = false;
 
@@ -160,10 +161,10 @@ private:
             std::size_t const slot = slotOf(marks[i], factor);
             if (!taken[slot]) {
                 taken[slot] = true;
-                slots[slot] = static_cast<std::uint16_t>(i);
+                firstRows[slot] = static_cast<std::uint16_t>(i);
                 continue;
             }
-            PackedWord* last = &this->words[slots[slot]];
+            PackedWord* last = &this->words[firstRows[slot]];
             for (;; last = &this->words[last->next]) {
                 if (isWord<rule>(this->letters.data() + last->start, last->length, this->word(i))) hasDuplicates = true;
                 if (last->next == 0) break;
@@ -181,7 +182,7 @@ template <class V, class U> struct RowTypes<WordRow<V, U>> {
 
 template <auto const& rows> consteval std::size_t longestWord() {
     std::size_t longest = 0;
-    for (auto const& row : rows) longest = std::max(longest, row.word.size());
+    for (auto const& row : rows) longest = (std::max)(longest, row.word.size());
     return longest;
 }
 
@@ -250,9 +251,10 @@ public:
     static std::size_t indexOf(Text text) {
         auto const& table = WordTable::packed;
         if constexpr (rule == Case::Any)
-            return findWordInAnyCase(table.words.data(), table.letters.data(), table.slots.data(), text, table.factor);
+            return findWordInAnyCase(table.words.data(), table.letters.data(), table.firstRows.data(), text,
+                                     table.factor);
         else if constexpr (!detail::areNumbers<rows, rule>)
-            return findWord(table.words.data(), table.letters.data(), table.slots.data(), text, table.factor);
+            return findWord(table.words.data(), table.letters.data(), table.firstRows.data(), text, table.factor);
         else
             return indexOfNumber(text.size() > longest ? 0 : detail::numberOf(text));
     }
@@ -272,7 +274,7 @@ public:
 private:
     static std::size_t indexOfNumber(std::uint64_t number) {
         auto const& table = WordTable::packed;
-        std::size_t row = table.slots[detail::slotOf(number, table.factor)];
+        std::size_t row = table.firstRows[detail::slotOf(number, table.factor)];
         while (numbers[row] != number) {
             row = table.words[row].next;
             if (row == 0) return noWord;

@@ -40,7 +40,8 @@ struct Unit {
 inline constexpr Core::WordRow<Unit> unitRows[] = {
     {u"pt", {Length::Pt, SLength::Pt, {96, 72}, {72, 96}}},
     {u"px", {Length::Px, SLength::UserUnit, {1, 1}, {1, 1}}}, // Intended: SVG lengths forget that it stood there
-    {u"cm", {Length::Cm, SLength::Cm, {96, 2.54f}, {2.54f, 96}}}, // Intended: 2.54 and 25.4 in single precision, widened
+    {u"cm",
+     {Length::Cm, SLength::Cm, {96, 2.54f}, {2.54f, 96}}}, // Intended: 2.54 and 25.4 in single precision, widened
     {u"mm", {Length::Mm, SLength::Mm, {96, 25.4f}, {25.4f, 96}}},
     {u"in", {Length::In, SLength::In, {96, 1}, {1, 96}}},
     {u"em", {Length::Em, SLength::Em, {96, 1536}, {1536, 96}}}, // Intended: 1/16 and 1/8 pixel, whatever the font
@@ -69,7 +70,7 @@ template <class E> struct UnitAtEnd {
     std::size_t length;
 
     explicit UnitAtEnd(std::u16string_view text) {
-        for (length = std::min(Units::longest, text.size()); length > 0; --length)
+        for (length = (std::min)(Units::longest, text.size()); length > 0; --length)
             if ((unit = findUnit<E>(text.substr(text.size() - length))) != noUnit<E>) return;
     }
 };

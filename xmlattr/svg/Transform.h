@@ -19,12 +19,12 @@ enum class XMLATTR_API TransformType : std::int32_t {
 };
 
 // A kind of transform and how many arguments it takes.
-struct TransformForm {
+struct TransformArguments {
     TransformType type;
     int least, most;
 };
 
-inline constexpr Core::WordRow<TransformForm> transformWords[] = {
+inline constexpr Core::WordRow<TransformArguments> transformWords[] = {
     {u"matrix", {TransformType::Matrix, 6, 6}}, {u"translate", {TransformType::Translate, 1, 2}},
     {u"scale", {TransformType::Scale, 1, 2}},   {u"rotate", {TransformType::Rotate, 1, 3}},
     {u"skewX", {TransformType::SkewX, 1, 1}},   {u"skewY", {TransformType::SkewY, 1, 1}},

@@ -66,7 +66,7 @@ bool takeArguments(ValueCursor& cursor, int most) {
 bool readNamedColor(Item& item, std::u16string_view name) {
     constexpr std::size_t longest = 32; // more than any name has
     if (name.empty() || name.size() > longest) return false;
-    if (auto const rgb = findColorName(name)) {
+    if (auto const rgb = Core::WordTable<colorNames, Core::Case::Any>::find(name)) {
         item.rgb = *rgb;
         return true;
     }
