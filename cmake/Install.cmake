@@ -5,22 +5,28 @@
 # does not link.
 set(internal_headers
   attributes/TXmlAttributeImpl.h
+  attributes/TextCursor.h
   catalogue/FoProperties.inc
+  catalogue/NameIndex.h
+  catalogue/NameTable.h
   catalogue/Properties.inc
   catalogue/SvgProperties.inc
-  catalogue/grammar
+  catalogue/TypeNumber.h
+  catalogue/grammar/[A-Za-z]*.h
   catalogue/legality/AlsoLegal.h
   catalogue/legality/Expression.h
   catalogue/legality/ExpressionFunctions.h
   catalogue/legality/Shorthand.h
   catalogue/legality/ValueOfRow.h
-  catalogue/text
-  catalogue/types/Describe.h
+  catalogue/text/[A-Za-z]*.h
   color/ColorNames.h
+  core/Append.h
+  core/NumberReader.h
   document/Call.h
   drawing/ColorText.h
   language/LanguageTable.h
   measures/Reading.h
+  measures/Units.h
   svg/ListGrowth.h
   svg/ShadowReader.h)
 list(TRANSFORM internal_headers PREPEND "/xmlattr/")

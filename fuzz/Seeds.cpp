@@ -3,8 +3,8 @@
 //
 //   fuzz_seeds FOLDER DOCUMENT...
 #include "xml/XmlReader.h"
+#include "xmlattr/catalogue/AttributeType.h"
 #include "xmlattr/catalogue/Catalogue.h"
-#include "xmlattr/catalogue/types/AttributeTypes.h"
 
 #include "text/Text.h"
 
@@ -20,7 +20,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// What the types that are no mere keywords are made of, and one text or more of each.
+// What occurs in texts besides the words and examples of the types: units, functions and letters of
+// grammars, numbers at the limits of their types, and odd characters.
 constexpr char const* grammarWords[] = {"px",
                                         "pt",
                                         "pc",
@@ -38,18 +39,6 @@ constexpr char const* grammarWords[] = {"px",
                                         "16777217",
                                         "2147483647",
                                         "-2147483648",
-                                        "auto",
-                                        "none",
-                                        "normal",
-                                        "medium",
-                                        "thin",
-                                        "larger",
-                                        "smaller",
-                                        "sub",
-                                        "super",
-                                        "left",
-                                        "outside",
-                                        "relative",
                                         "rect(",
                                         "rgb(",
                                         "rgb-icc(",
@@ -58,10 +47,6 @@ constexpr char const* grammarWords[] = {"px",
                                         "url(",
                                         ")",
                                         "#",
-                                        "#ffffff",
-                                        "transparent",
-                                        "red",
-                                        "WindowText",
                                         "translate(",
                                         "matrix(",
                                         "scale(",
@@ -79,14 +64,8 @@ constexpr char const* grammarWords[] = {"px",
                                         "q",
                                         "t",
                                         "a",
-                                        "xMidYMid",
-                                        "meet",
-                                        "slice",
                                         "defer",
-                                        "underline",
-                                        "overline",
-                                        "line-through",
-                                        "en-us",
+                                        "WindowText",
                                         "multiple-of(",
                                         "end-on-multiple-of(",
                                         "is-after(",
@@ -95,56 +74,13 @@ constexpr char const* grammarWords[] = {"px",
                                         "and",
                                         "FIND_KEYWORD(",
                                         "year(",
-                                        "quarter(",
-                                        "all",
-                                        "days",
-                                        "2020-01-31",
                                         "T24:00:00",
                                         "+01:00",
                                         "Z",
-                                        "proportional-column-width(",
-                                        "body-start()",
-                                        "label-end()",
-                                        "use-font-metrics",
-                                        "scale-to-fit",
-                                        "cover",
-                                        "ultra-condensed",
-                                        "indefinite",
                                         "\\x1F",
                                         "\\xC2\\xA0",
                                         "\\xED\\xA0\\x80",
                                         "\\xED\\xB0\\x80"};
-
-constexpr char const* texts[] = {"12pt",
-                                 "-1.5e3cm",
-                                 "50%",
-                                 "1pt 2pt",
-                                 "rect(1pt, 2pt, 3pt, 4pt)",
-                                 "1,2 3,4",
-                                 "rgb(1,2,3)",
-                                 "#fff",
-                                 "rgb-icc(1,2,3,#CMYK,0.1,0.2,0.3,0.4)",
-                                 "cmyk(0.1,20%,30,0)",
-                                 "spot-color(Gold,0.5,rgb(1,2,3))",
-                                 "url(#a) red",
-                                 "url('a b')",
-                                 "translate(1,2) rotate(45deg,1,2),matrix(1 0 0 1 0 0) skewX(3)",
-                                 "M10,20 l3-4 C1 2 3 4 5 6z a1,1 0 01 3,4",
-                                 "0 0 100 100",
-                                 "xMinYMax slice",
-                                 "1px 2px 3px red",
-                                 "underline, overline",
-                                 "en-GB",
-                                 "multiple-of(4)",
-                                 "is-after(a) and match( b )",
-                                 "FIND_KEYWORD(x)",
-                                 "year( date )",
-                                 "2020-01-31T10:20:30.5Z",
-                                 "proportional-column-width(2)",
-                                 "all",
-                                 "1.5",
-                                 "auto",
-                                 "none"};
 
 void write(fs::path const& file, std::string_view text) {
     fs::create_directories(file.parent_path());
@@ -189,15 +125,20 @@ int main(int argc, char** argv) {
     fs::path const folder = argv[1];
     Seeds seeds(folder);
     std::set<std::string> words;
-    auto const types = Xml::attributeTypes();
+    auto const types = Xml::AttributeType::all();
+    // Every type gets the examples of all: what one reads, another must refuse in good order.
+    std::set<std::string> examples;
+    for (Xml::AttributeType const& type : types)
+        for (std::u16string_view const example : type.examples()) examples.insert(Command::toUtf8(example));
     for (std::size_t i = 0; i < types.size(); ++i) {
-        for (std::u16string_view const word : types[i].keywords()) {
+        for (std::u16string_view const word : types[i].words()) {
             words.insert(Command::toUtf8(word));
-            seeds.addValue(i, Command::toUtf8(word));
+            if (types[i].isEnumeration()) seeds.addValue(i, Command::toUtf8(word));
         }
-        if (!types[i].isEnumeration)
-            for (char const* const text : texts) seeds.addValue(i, text);
+        if (!types[i].isEnumeration())
+            for (std::string const& text : examples) seeds.addValue(i, text);
     }
+    words.insert(examples.begin(), examples.end());
     for (int i = 2; i < argc; ++i) {
         std::ifstream file(argv[i], std::ios::binary);
         std::string const bytes(std::istreambuf_iterator<char>(file), {});

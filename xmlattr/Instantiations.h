@@ -2,7 +2,7 @@
 // it again.
 #pragma once
 
-#include "xmlattr/Values.h"
+#include "xmlattr/ValueTypes.inc"
 #include "xmlattr/attributes/TXmlAttribute.h"
 
 namespace Xml {

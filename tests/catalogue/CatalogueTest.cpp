@@ -1,8 +1,8 @@
 #include "xmlattr/catalogue/Catalogue.h"
 
 #include "WordTables.h"
+#include "xmlattr/catalogue/AttributeType.h"
 #include "xmlattr/catalogue/legality/ExpressionFunctions.h"
-#include "xmlattr/catalogue/types/AttributeTypes.h"
 
 #include <gtest/gtest.h>
 
@@ -17,7 +17,7 @@ TEST(Catalogue, FindsEachOfItsRows) {
             std::string_view const element = entry.isForEveryElement() ? "unheard-of" : name;
             EXPECT_EQ(Catalogue::find(entry.vocabulary, element, entry.attribute), &entry) << entry.attribute;
         }
-        EXPECT_EQ(entry.type() ? entry.type()->name : "", entry.valueType) << entry.attribute;
+        EXPECT_EQ(entry.type() ? entry.type()->name() : "", entry.valueType) << entry.attribute;
     }
 }
 
@@ -62,7 +62,7 @@ TEST(Catalogue, KnowsPropertiesAndLists) {
         ASSERT_NE(entry, nullptr) << row.attribute;
         EXPECT_EQ(entry->isInherited, row.isInherited) << row.attribute;
         EXPECT_EQ(entry->isPresentation, row.isPresentation) << row.attribute;
-        EXPECT_EQ(entry->isList, row.isList) << row.attribute;
+        EXPECT_EQ(entry->type()->readsList(), row.isList) << row.attribute;
     }
 }
 

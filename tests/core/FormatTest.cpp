@@ -1,6 +1,7 @@
 #include "xmlattr/core/Format.h"
 
 #include "Support.h"
+#include "xmlattr/core/Append.h"
 #include "xmlattr/core/NumberReader.h"
 #include "xmlattr/core/StringFormatStream.h"
 

@@ -2,7 +2,7 @@
 
 #include "Support.h"
 #include "WordTables.h"
-#include "xmlattr/Values.h"
+#include "xmlattr/Instantiations.h"
 #include "xmlattr/color/ColorNames.h"
 #include "xmlattr/core/SystemColors.h"
 #include "xmlattr/language/LanguageTable.h"
@@ -28,8 +28,8 @@ template <class T> constexpr Case ruleOf() {
 
 template <class T> void checkType([[maybe_unused]] char const* name) {
     if constexpr (Xml::KeywordEnumeration<T>) checkKeywords<T>(name);
-    if constexpr (requires { Xml::AttributeTraits<T>::words; })
-        checkTable<Xml::AttributeTraits<T>::words, ruleOf<T>()>(name);
+    if constexpr (requires { Xml::AttributeTraits<T>::rows; })
+        checkTable<Xml::AttributeTraits<T>::rows, ruleOf<T>()>(name);
 }
 
 TEST(WordTable, EveryTableFindsWhatLookingAtEveryRowFinds) {
@@ -52,7 +52,7 @@ TEST(WordTable, EveryTableFindsWhatLookingAtEveryRowFinds) {
     checkTable<absoluteFontSizes>("absoluteFontSizes");
     checkTable<transformWords>("transformWords");
     checkTable<unitRows>("unitRows");
-    checkTable<Drawing::ImageFilter::words, Case::Any>("ImageFilter");
+    checkTable<Drawing::ImageFilter::rows, Case::Any>("ImageFilter");
     checkTable<colorNames, Case::Any>("colorNames");
     checkTable<noColorNames, Case::Any>("noColorNames");
     checkTable<systemColors, Case::Any>("systemColors");

@@ -1,7 +1,7 @@
 #include "xmlattr/keywords/KeywordTable.h"
 
 #include "Support.h"
-#include "xmlattr/Values.h"
+#include "xmlattr/Instantiations.h"
 #include "xmlattr/core/Exceptions.h"
 
 #include <algorithm>

@@ -20,7 +20,7 @@ TEST(Hints, SuggestWhatIsNear) {
           Row{"Break", "page", "", u"Page"}, Row{"BorderWidth", "", "thick", u"thickk"},
           Row{"SmartPtr<Drawing::Color>", "", "purple", u"pruple"}, Row{"Length", "", "", u"purple"},
           Row{"SmartPtr<Drawing::Color>", "", "green", u"gren"}}) {
-        Hints const hints = hintsFor(*Xml::findAttributeType(row.type), row.text);
+        Hints const hints = hintsFor(*Xml::AttributeType::find(row.type), row.text);
         EXPECT_EQ(hints.variant, row.variant) << toUtf8(row.text);
         EXPECT_EQ(hints.nearest, row.nearest) << toUtf8(row.text);
     }

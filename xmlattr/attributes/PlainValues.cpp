@@ -37,4 +37,8 @@ Core::String AttributeTraits<Drawing::ImageFilter>::print(Drawing::ImageFilter c
     return value.toString();
 }
 
+void AttributeTraits<Drawing::ImageFilter>::words(Words& out) {
+    out.addAll(Drawing::ImageFilter::rows);
+}
+
 } // namespace Xml

@@ -6,6 +6,9 @@
 namespace Xml {
 
 template <class T> bool TXmlAttribute<T>::parseValue(Core::String const& text) {
+    static_assert(saysWhatItReads<T>(),
+                  "AttributeTraits<T> needs a description beside T: a line that says what the type reads, such as "
+                  "static constexpr Description describe{{u\"a length\"}};");
     return AttributeTraits<T>::parse(stored.value, text);
 }
 
@@ -14,6 +17,9 @@ template <class T> void TXmlAttribute<T>::copyFrom(XmlAttribute const& other) {
 }
 
 template <class T> Core::String TXmlAttribute<T>::getValueAsString() const {
+    static_assert(Prints<T> != PrintsEmpty<T>,
+                  "AttributeTraits<T> needs either static Core::String print(T const&) or, for a type without a "
+                  "printer, static constexpr bool printsEmpty = true;");
     if constexpr (Prints<T>)
         return AttributeTraits<T>::print(stored.value);
     else

@@ -1,8 +1,8 @@
 #include "xmlattr/catalogue/Catalogue.h"
 
-#include "xmlattr/Values.h"
+#include "xmlattr/catalogue/AttributeType.h"
+#include "xmlattr/catalogue/TypeNumber.h"
 #include "xmlattr/catalogue/text/TableText.h"
-#include "xmlattr/catalogue/types/AttributeTypes.h"
 #include "xmlattr/core/WordTable.h"
 #include "xmlattr/defaults/DefaultAttributes.h"
 
@@ -56,32 +56,6 @@ consteval bool areInOrder() {
 
 static_assert(areInOrder());
 
-// The value types that the rows name.
-
-template <class T> constexpr char mark = 0; // its address tells types apart
-
-constexpr char const* typeMarks[] = {
-#define XMLATTR_PUBLIC_VALUE(...) &mark<__VA_ARGS__>,
-#define XMLATTR_INTERNAL_VALUE(...) &mark<__VA_ARGS__>,
-#include "xmlattr/ValueTypes.inc"
-};
-
-constexpr std::string_view typeNames[] = {
-#define XMLATTR_PUBLIC_VALUE(...) #__VA_ARGS__,
-#define XMLATTR_INTERNAL_VALUE(...) #__VA_ARGS__,
-#include "xmlattr/ValueTypes.inc"
-};
-
-template <class T>
-constexpr std::size_t typeNumber = [] {
-    std::size_t number = 0;
-    while (number < std::size(typeMarks) && typeMarks[number] != &mark<T>) ++number;
-    return number;
-}();
-
-template <class T> constexpr bool isListType = std::is_same_v<T, ViewBox>;
-template <class T> constexpr bool isListType<Core::Vector<T>> = true;
-
 constexpr struct None {
 } NoDefault;
 
@@ -134,13 +108,11 @@ constexpr auto longhandsOf = [] {
 template <class T, class Constant>
 consteval CatalogueEntry typed(CatalogueEntry row, std::string_view constant, std::span<LegalToken const> alsoLegal) {
     constexpr bool hasDefault = !std::is_same_v<Constant, None const>;
-    static_assert(typeNumber<T> < std::size(typeNames), "the value type of this row is not in ValueTypes.inc");
+    static_assert(typeNumber<T> < typeNames.size(), "the value type of this row is not in ValueTypes.inc");
     static_assert(!hasDefault || std::is_same_v<Constant, TXmlAttribute<T> const>,
                   "the default constant of this row holds a value of another type than the row's");
     row.valueType = typeNames[typeNumber<T>];
     row.typeNumber = static_cast<std::int16_t>(typeNumber<T>);
-    row.isList = isListType<T>;
-    row.isUrl = std::is_same_v<T, Url>;
     if (hasDefault) row.defaultConstant = constant;
     row.alsoLegal = alsoLegal;
     return row;
@@ -205,7 +177,7 @@ constexpr Core::WordRow<Vocabulary, char> namespaces[] = {{"http://www.w3.org/19
 } // namespace
 
 AttributeType const* CatalogueEntry::type() const noexcept {
-    return typeNumber < 0 ? nullptr : &attributeTypes()[static_cast<std::size_t>(typeNumber)];
+    return typeNumber < 0 ? nullptr : &AttributeType::all()[static_cast<std::size_t>(typeNumber)];
 }
 
 std::span<CatalogueEntry const> Catalogue::entries() noexcept {

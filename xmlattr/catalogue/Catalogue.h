@@ -14,7 +14,7 @@
 
 namespace Xml {
 
-struct AttributeType;
+class AttributeType;
 
 enum class Vocabulary : std::uint8_t { Fo, Svg };
 
@@ -47,10 +47,6 @@ struct CatalogueEntry {
     // Of a typed attribute: the name under which ValueTypes.inc lists the type, and its place there.
     std::string_view valueType{};
     std::int16_t typeNumber = -1;
-    // Whether the value is a list, which can take many times the memory of its text.
-    bool isList = false;
-    // Whether it is a Url, which any text is.
-    bool isUrl = false;
     // The name of the constant that holds the default; may be empty.
     std::string_view defaultConstant{};
     // What the recommendation allows and the value type does not read.

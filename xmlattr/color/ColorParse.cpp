@@ -9,6 +9,9 @@
 #include "xmlattr/drawing/ColorText.h"
 #include "xmlattr/drawing/SpotColor.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace Xml {
 
 using namespace std::string_view_literals; // these know their length when the program is compiled
@@ -179,6 +182,17 @@ Core::String printSpot(Drawing::SpotColor const& color) {
     return {};
 }
 
+void addColor(Parts& out, unsigned char r, unsigned char g, unsigned char b) {
+    out.add(u"rgb") << r << u" " << g << u" " << b;
+    out.rgb = std::uint32_t{r} << 16 | std::uint32_t{g} << 8 | b;
+}
+
+// How much light an ink and the black above it leave without a colour profile.
+std::uint32_t shadeOf(double ink, double black) {
+    auto const light = [](double part) { return 1 - std::clamp(part, 0.0, 1.0); };
+    return static_cast<std::uint32_t>(std::lround(255 * light(ink) * light(black)));
+}
+
 } // namespace
 
 bool AttributeTraits<ColorPtr>::parse(ColorPtr& value, std::u16string_view text) {
@@ -229,6 +243,37 @@ bool ColorParse::parseColorName(Core::String const& text, Target* target) {
 // NOLINTNEXTLINE(performance-unnecessary-value-param): the signature is fixed
 Core::String ColorParse::getColorAsString(ColorPtr color) {
     return AttributeTraits<ColorPtr>::print(color);
+}
+
+void AttributeTraits<ColorPtr>::words(Words& out) {
+    out.addAll(noColorNames);
+    out.addAll(colorNames);
+}
+
+void AttributeTraits<ColorPtr>::parts(ColorPtr const& value, Parts& out) {
+    Drawing::Color const* const color = value.get();
+    if (!color) {
+        out.add(u"kind") << u"no colour";
+        return;
+    }
+    if (auto const* const rgb = dynamic_cast<Drawing::RGBColor const*>(color)) {
+        out.add(u"kind") << u"RGB";
+        addColor(out, rgb->getR(), rgb->getG(), rgb->getB());
+    } else if (auto const* const cmyk = dynamic_cast<Drawing::CMYKColor const*>(color)) {
+        double const c = cmyk->getC(), m = cmyk->getM(), y = cmyk->getY(), k = cmyk->getK();
+        out.add(u"kind") << u"CMYK";
+        out.add(u"cmyk") << c << u" " << m << u" " << y << u" " << k;
+        out.rgb = shadeOf(c, k) << 16 | shadeOf(m, k) << 8 | shadeOf(y, k);
+    } else if (auto const* const icc = dynamic_cast<Drawing::ICCColor const*>(color)) {
+        out.add(u"kind") << u"ICC";
+        addColor(out, icc->getFallBackR(), icc->getFallBackG(), icc->getFallBackB());
+        if (auto const space = icc->getColorSpace()) out.add(u"profile") << space->getProfileName();
+        for (int i = 0; i < icc->getCount(); ++i) out.add(u"component") << icc->getColor(i);
+    } else if (auto const* const spot = dynamic_cast<Drawing::SpotColor const*>(color)) {
+        out.add(u"kind") << u"spot";
+        out.add(u"name") << spot->getColorName();
+        out.add(u"tint") << spot->getTint();
+    }
 }
 
 } // namespace Xml

@@ -27,9 +27,16 @@ using Core::SmartPtr;
 // Prints the function of the colour's class, never a name.
 // Intended: comparing takes the object, not the colour. Since every parse makes a new object, only
 // null equals a text.
-template <> struct AttributeTraits<SmartPtr<Drawing::Color>> {
+template <> struct XMLATTR_API AttributeTraits<SmartPtr<Drawing::Color>> {
     static bool parse(SmartPtr<Drawing::Color>& value, std::u16string_view text);
     static Core::String print(SmartPtr<Drawing::Color> const& value);
+    static constexpr Description describe{
+        .forms = {u"a colour name", u"#rgb", u"#rrggbb", u"rgb()", u"cmyk()", u"rgb-icc()", u"spot-color()", u"none"},
+        .examples = {u"rgb(1,2,3)", u"rgb-icc(1,2,3,#CMYK,0.1,0.2,0.3,0.4)", u"cmyk(0.1,20%,30,0)",
+                     u"spot-color(Gold,0.5,rgb(1,2,3))"},
+        .listsWords = false};
+    static void words(Words& out);
+    static void parts(SmartPtr<Drawing::Color> const& value, Parts& out);
 };
 
 // The readers of the single forms. Each takes the whole text, whatever it begins with, and stores

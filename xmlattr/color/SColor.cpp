@@ -30,4 +30,24 @@ bool AttributeTraits<SNullableColor>::parse(SNullableColor& value, std::u16strin
     return true;
 }
 
+void AttributeTraits<SColor>::words(Words& out) {
+    AttributeTraits<SmartPtr<Drawing::Color>>::words(out);
+}
+
+void AttributeTraits<SColor>::parts(SColor const& value, Parts& out) {
+    switch (value.getType()) {
+    case SColor::None: out.add(u"kind") << u"no paint"; break;
+    case SColor::Url: out.add(u"reference") << value.getUrl(); break;
+    case SColor::Color: return AttributeTraits<SmartPtr<Drawing::Color>>::parts(value.getColor(), out);
+    }
+}
+
+void AttributeTraits<SNullableColor>::words(Words& out) {
+    AttributeTraits<SColor>::words(out);
+}
+
+void AttributeTraits<SNullableColor>::parts(SNullableColor const& value, Parts& out) {
+    AttributeTraits<SColor>::parts(value, out);
+}
+
 } // namespace Xml

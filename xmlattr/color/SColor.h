@@ -39,7 +39,14 @@ private:
     Core::String url;
 };
 
-template <> struct AttributeTraits<SColor> { static bool parse(SColor& value, std::u16string_view text); };
+template <> struct XMLATTR_API AttributeTraits<SColor> {
+    static bool parse(SColor& value, std::u16string_view text);
+    static constexpr bool printsEmpty = true;
+    static constexpr Description describe{
+        .forms = {u"none", u"url(#ID)", u"a colour"}, .examples = {u"#fff", u"url(#a) red"}, .listsWords = false};
+    static void words(Words& out);
+    static void parts(SColor const& value, Parts& out);
+};
 
 // An SVG paint or nothing. A parse that succeeds makes it present; one that fails changes nothing.
 // Comparing takes the paints alone.
@@ -57,9 +64,13 @@ private:
     bool null = true;
 };
 
-template <> struct AttributeTraits<SNullableColor> {
+template <> struct XMLATTR_API AttributeTraits<SNullableColor> {
     static bool parse(SNullableColor& value, std::u16string_view text);
     static constexpr bool refusesComparison = true;
+    static constexpr bool printsEmpty = true;
+    static constexpr Description describe = AttributeTraits<SColor>::describe;
+    static void words(Words& out);
+    static void parts(SNullableColor const& value, Parts& out);
 };
 
 } // namespace Xml

@@ -1,5 +1,6 @@
 #include "xmlattr/core/Format.h"
 
+#include "xmlattr/core/Append.h"
 #include "xmlattr/core/NumberReader.h"
 #include "xmlattr/core/Text.h"
 

@@ -44,12 +44,4 @@ public:
     static String toShortest(int value);
 };
 
-// The same printers, behind what a text holds already.
-void appendMeasure(std::u16string& out, double value, std::u16string_view suffix = {});
-void appendShortest(std::u16string& out, float value);
-void appendShortest(std::u16string& out, double value);
-void appendShortest(std::u16string& out, int value);
-// appendMeasure without its short way: the same answer from the standard library.
-void appendMeasureSlowly(std::u16string& out, double value, std::u16string_view suffix = {});
-
 } // namespace Core

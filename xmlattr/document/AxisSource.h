@@ -27,17 +27,21 @@ private:
     Core::String name, fn;
 };
 
-template <> struct AttributeTraits<AxisSource> {
+template <> struct XMLATTR_API AttributeTraits<AxisSource> {
     // "year" also begins "year-month" and "year-quarter".
-    static constexpr Core::WordRow<> words[] = {{u"year"},      {u"quarter"},   {u"week"},      {u"month"},
+    static constexpr Core::WordRow<> rows[] = {{u"year"},      {u"quarter"},   {u"week"},      {u"month"},
                                                 {u"dayofweek"}, {u"dayofyear"}, {u"dayofmonth"}};
     static constexpr Core::Case rule = Core::Case::Any;
-    using Functions = Core::WordTable<words, rule>;
+    using Functions = Core::WordTable<rows, rule>;
 
     // Every text is accepted. One with a function and both parentheses is trimmed around the two
     // parts; every other is a name as it stands, "sum(x)" included.
     static bool parse(AxisSource& value, std::u16string_view text);
     static Core::String print(AxisSource const& value);
+    static constexpr Description describe{
+        .forms = {u"a field", u"a field inside a function that groups dates, as in year(FIELD)"},
+        .examples = {u"OrderDate", u"year( date )", u"quarter(date)"},
+        .readsAnyText = true};
 };
 
 } // namespace Xml

@@ -16,4 +16,15 @@ bool AttributeTraits<AxisUnits>::parse(AxisUnits& value, std::u16string_view tex
     return true;
 }
 
+void AttributeTraits<AxisUnits>::words(Words& out) {
+    out.addAll(Keywords<AxisUnits::Type>::rows);
+}
+
+void AttributeTraits<AxisUnits>::parts(AxisUnits const& value, Parts& out) {
+    if (value.getType() == AxisUnits::Numeric)
+        out.add(u"units") << value.getNumericVal();
+    else
+        out.add(u"units") << KeywordTraits<AxisUnits::Type>::print(value.getType());
+}
+
 } // namespace Xml

@@ -38,10 +38,14 @@ template <> struct Keywords<AxisUnits::Type> {
                                                            {u"years", AxisUnits::Years}};
 };
 
-template <> struct AttributeTraits<AxisUnits> {
+template <> struct XMLATTR_API AttributeTraits<AxisUnits> {
     // Intended: 0 is refused, as no spacing at all; a negative number is not. A text that is refused
     // changes nothing.
     static bool parse(AxisUnits& value, std::u16string_view text);
+    static constexpr bool printsEmpty = true;
+    static constexpr Description describe{{u"a number other than 0"}, {u"1.5"}};
+    static void words(Words& out);
+    static void parts(AxisUnits const& value, Parts& out);
 };
 
 } // namespace Xml

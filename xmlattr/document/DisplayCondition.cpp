@@ -13,7 +13,7 @@ namespace {
 
 using Operator = DisplayCondition::Operator;
 
-using Operators = Core::WordTable<AttributeTraits<DisplayCondition>::words>;
+using Operators = Core::WordTable<AttributeTraits<DisplayCondition>::rows>;
 
 // Appends the condition of one segment; false when it lacks a parenthesis. Intended: the segment
 // need only begin with an operator ("matches(x)"), and without one it means is-after.
@@ -60,6 +60,10 @@ Core::String AttributeTraits<DisplayCondition>::print(DisplayCondition const& va
         appendCall(out, {}, condition.argument);
     }
     return Core::String(std::move(out));
+}
+
+void AttributeTraits<DisplayCondition>::parts(DisplayCondition const& value, Parts& out) {
+    out.add(u"conditions") << static_cast<int>(value.getConditions().size());
 }
 
 } // namespace Xml

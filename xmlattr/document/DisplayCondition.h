@@ -31,8 +31,8 @@ private:
     Core::Vector<Condition> conditions;
 };
 
-template <> struct AttributeTraits<DisplayCondition> {
-    static constexpr Core::WordRow<DisplayCondition::Operator> words[] = {
+template <> struct XMLATTR_API AttributeTraits<DisplayCondition> {
+    static constexpr Core::WordRow<DisplayCondition::Operator> rows[] = {
         {u"is-after", DisplayCondition::Operator::IsAfter},
         {u"is-before", DisplayCondition::Operator::IsBefore},
         {u"match", DisplayCondition::Operator::Match}};
@@ -42,6 +42,9 @@ template <> struct AttributeTraits<DisplayCondition> {
     static bool parse(DisplayCondition& value, std::u16string_view text);
     // The conditions with " and " between them.
     static Core::String print(DisplayCondition const& value);
+    static constexpr Description describe{{u"is-after(TEXT), is-before(TEXT) and match(TEXT) joined by \"and\""},
+                                          {u"is-after(a) and match( b )", u"is-before(c)"}};
+    static void parts(DisplayCondition const& value, Parts& out);
 };
 
 } // namespace Xml

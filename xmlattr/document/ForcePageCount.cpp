@@ -30,4 +30,23 @@ bool AttributeTraits<ForcePageCount>::parse(ForcePageCount& value, std::u16strin
     return true;
 }
 
+void AttributeTraits<ForcePageCount>::words(Words& out) {
+    out.addAll(Keywords<ForcePageCountType>::rows);
+}
+
+void AttributeTraits<ForcePageCount>::parts(ForcePageCount const& value, Parts& out) {
+    switch (value.getType()) {
+    case ForcePageCountType::Auto:
+    case ForcePageCountType::Even:
+    case ForcePageCountType::Odd:
+    case ForcePageCountType::EndOnEven:
+    case ForcePageCountType::EndOnOdd:
+    case ForcePageCountType::NoForce:
+        out.add(u"kind") << KeywordTraits<ForcePageCountType>::print(value.getType());
+        break;
+    case ForcePageCountType::MultipleOf: out.add(u"multiple") << value.getCount(); break;
+    case ForcePageCountType::EndOnMultipleOf: out.add(u"end on multiple") << value.getCount(); break;
+    }
+}
+
 } // namespace Xml

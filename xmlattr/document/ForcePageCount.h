@@ -55,9 +55,15 @@ private:
 
 static_assert(sizeof(ForcePageCount) == 8);
 
-template <> struct AttributeTraits<ForcePageCount> {
+template <> struct XMLATTR_API AttributeTraits<ForcePageCount> {
     // Intended: an unknown text gives "auto", whatever the value was.
     static bool parse(ForcePageCount& value, std::u16string_view text);
+    static constexpr bool printsEmpty = true;
+    static constexpr Description describe{.forms = {u"multiple-of(NUMBER)", u"end-on-multiple-of(NUMBER)"},
+                                          .examples = {u"multiple-of(4)", u"end-on-multiple-of(4)"},
+                                          .readsAnyText = true};
+    static void words(Words& out);
+    static void parts(ForcePageCount const& value, Parts& out);
 };
 
 } // namespace Xml

@@ -9,6 +9,8 @@ namespace Xml {
 
 namespace {
 
+constexpr std::u16string_view automatic = u"auto";
+
 int readPositive(std::u16string_view text) {
     return std::max(Core::Format::parseInt(text), 1);
 }
@@ -38,8 +40,35 @@ bool AttributeTraits<InitialPageNumber>::parse(InitialPageNumber& value, std::u1
 }
 
 bool AttributeTraits<InitialSheetNumber>::parse(InitialSheetNumber& value, std::u16string_view text) {
-    value = text == u"auto" ? InitialSheetNumber() : InitialSheetNumber(readPositive(text));
+    value = text == automatic ? InitialSheetNumber() : InitialSheetNumber(readPositive(text));
     return true;
+}
+
+void AttributeTraits<InitialPageNumber>::words(Words& out) {
+    out.addAll(Keywords<InitialPageNumberType>::rows);
+}
+
+void AttributeTraits<InitialPageNumber>::parts(InitialPageNumber const& value, Parts& out) {
+    switch (value.getType()) {
+    case InitialPageNumberType::Auto:
+    case InitialPageNumberType::AutoOdd:
+    case InitialPageNumberType::AutoEven:
+        out.add(u"kind") << KeywordTraits<InitialPageNumberType>::print(value.getType());
+        break;
+    case InitialPageNumberType::Number: out.add(u"page") << value.getNumber(); break;
+    case InitialPageNumberType::MultipleOf: out.add(u"multiple") << value.getMultiple(); break;
+    }
+}
+
+void AttributeTraits<InitialSheetNumber>::words(Words& out) {
+    out.add(automatic);
+}
+
+void AttributeTraits<InitialSheetNumber>::parts(InitialSheetNumber const& value, Parts& out) {
+    switch (value.getType()) {
+    case InitialSheetNumberType::Auto: out.add(u"sheet") << automatic; break;
+    case InitialSheetNumberType::Number: out.add(u"sheet") << value.getNumber(); break;
+    }
 }
 
 } // namespace Xml

@@ -55,8 +55,14 @@ private:
 
 static_assert(sizeof(InitialPageNumber) == 12);
 
-template <> struct AttributeTraits<InitialPageNumber> {
+template <> struct XMLATTR_API AttributeTraits<InitialPageNumber> {
     static bool parse(InitialPageNumber& value, std::u16string_view text);
+    static constexpr bool printsEmpty = true;
+    static constexpr Description describe{.forms = {u"a whole number from 1", u"multiple-of(NUMBER)"},
+                                          .examples = {u"12", u"multiple-of(4)"},
+                                          .readsAnyText = true};
+    static void words(Words& out);
+    static void parts(InitialPageNumber const& value, Parts& out);
 };
 
 enum class XMLATTR_API InitialSheetNumberType : std::int32_t { Auto = 0, Number = 1 };
@@ -79,8 +85,13 @@ private:
     int number = -1;
 };
 
-template <> struct AttributeTraits<InitialSheetNumber> {
+template <> struct XMLATTR_API AttributeTraits<InitialSheetNumber> {
     static bool parse(InitialSheetNumber& value, std::u16string_view text);
+    static constexpr bool printsEmpty = true;
+    static constexpr Description describe{
+        .forms = {u"a whole number from 1"}, .examples = {u"12"}, .readsAnyText = true};
+    static void words(Words& out);
+    static void parts(InitialSheetNumber const& value, Parts& out);
 };
 
 } // namespace Xml

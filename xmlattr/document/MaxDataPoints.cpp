@@ -5,8 +5,14 @@
 
 namespace Xml {
 
+namespace {
+
+constexpr std::u16string_view all = u"all";
+
+} // namespace
+
 bool AttributeTraits<MaxDataPoints>::parse(MaxDataPoints& value, std::u16string_view text) {
-    if (Core::equalsNoCase(Core::trim(text), u"all")) {
+    if (Core::equalsNoCase(Core::trim(text), all)) {
         value = MaxDataPoints(MaxDataPointsType::All);
         return true;
     }
@@ -18,10 +24,14 @@ bool AttributeTraits<MaxDataPoints>::parse(MaxDataPoints& value, std::u16string_
 
 Core::String AttributeTraits<MaxDataPoints>::print(MaxDataPoints const& value) {
     switch (value.getType()) {
-    case MaxDataPointsType::All: return u"all";
+    case MaxDataPointsType::All: return all;
     case MaxDataPointsType::Count: return Core::Format::toShortest(value.getValue());
     }
     return {};
+}
+
+void AttributeTraits<MaxDataPoints>::words(Words& out) {
+    out.add(all);
 }
 
 } // namespace Xml

@@ -15,4 +15,8 @@ bool AttributeTraits<TPRule>::parse(TPRule& value, std::u16string_view text) {
     return keyword.has_value();
 }
 
+void AttributeTraits<TPRule>::parts(TPRule const& value, Parts& out) {
+    if (value.getType() == TPRuleType::FindKeyword) out.add(u"keyword") << value.getKeyword();
+}
+
 } // namespace Xml

@@ -35,7 +35,12 @@ private:
     Core::String keyword;
 };
 
-template <> struct AttributeTraits<TPRule> { static bool parse(TPRule& value, std::u16string_view text); };
+template <> struct XMLATTR_API AttributeTraits<TPRule> {
+    static bool parse(TPRule& value, std::u16string_view text);
+    static constexpr bool printsEmpty = true;
+    static constexpr Description describe{{u"FIND_KEYWORD(TEXT)"}, {u"FIND_KEYWORD(x)"}};
+    static void parts(TPRule const& value, Parts& out);
+};
 
 } // namespace Xml
 

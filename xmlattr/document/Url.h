@@ -22,13 +22,16 @@ private:
     Core::String url;
 };
 
-template <> struct AttributeTraits<Url> {
+template <> struct XMLATTR_API AttributeTraits<Url> {
     // False for "url" and more without a "("; then `value` is untouched.
     // Intended: "url" alone is a reference, one without its ")" is empty, and in a list of
     // references the last ")" ends the one that is read.
     static bool parse(Url& value, std::u16string_view text);
     // "url(...)", without quotes.
     static Core::String print(Url const& value);
+    static constexpr Description describe{.forms = {u"url(REFERENCE)", u"a reference as it stands"},
+                                          .examples = {u"url('a b')", u"a.png"},
+                                          .readsAnyText = true};
 };
 
 } // namespace Xml

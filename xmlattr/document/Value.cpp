@@ -53,4 +53,14 @@ bool AttributeTraits<Value>::parse(Value& value, std::u16string_view text) {
     return true;
 }
 
+void AttributeTraits<Value>::parts(Value const& value, Parts& out) {
+    switch (value.getType()) {
+    case ValueType::None: out.add(u"kind") << u"none"; break;
+    case ValueType::Number: out.add(u"kind") << u"number"; break;
+    case ValueType::Date: out.add(u"kind") << u"date"; break;
+    case ValueType::String: out.add(u"kind") << u"string"; break;
+    }
+    out.add(u"value") << value.getValue();
+}
+
 } // namespace Xml

@@ -54,10 +54,15 @@ private:
     int ordinal = -1;
 };
 
-template <> struct AttributeTraits<Value> {
+template <> struct XMLATTR_API AttributeTraits<Value> {
     // Replaces the whole value, ordinal included. Only the empty text is refused; it changes nothing.
     // There is no printer: see Value::getValue.
     static bool parse(Value& value, std::u16string_view text);
+    static constexpr bool printsEmpty = true;
+    static constexpr Description describe{.forms = {u"a date", u"a number", u"a text"},
+                                          .examples = {u"2020-01-31", u"2020-01-31T10:20:30.5Z", u"1.5", u"north"},
+                                          .readsAnyText = true};
+    static void parts(Value const& value, Parts& out);
 };
 
 } // namespace Xml

@@ -2,7 +2,7 @@
 
 namespace Drawing {
 
-using Words = Core::WordTable<ImageFilter::words, Core::Case::Any>;
+using Words = Core::WordTable<ImageFilter::rows, Core::Case::Any>;
 
 bool ImageFilter::parseFilter(ImageFilter& filter, std::u16string_view text) {
     auto const type = Words::find(text);

@@ -5,6 +5,7 @@
 #include "xmlattr/core/WordTable.h"
 
 #include <cstdint>
+#include <span>
 
 namespace Drawing {
 
@@ -12,7 +13,7 @@ namespace Drawing {
 class XMLATTR_API ImageFilter {
 public:
     enum Type : std::int32_t { Nearest = 0, Bilinear = 1, Bicubic = 2, Auto = 3 };
-    static constexpr Core::WordRow<Type> words[] = {
+    static constexpr Core::WordRow<Type> rows[] = {
         {u"nearest", Nearest}, {u"bilinear", Bilinear}, {u"bicubic", Bicubic}, {u"auto", Auto}};
 
     constexpr ImageFilter() = default;
@@ -20,6 +21,12 @@ public:
 
     constexpr Type getType() const { return type; }
     constexpr bool operator==(ImageFilter const&) const = default;
+
+    struct Word {
+        std::u16string_view word;
+        Type type;
+    };
+    static std::span<Word const> words();
 
     // False for any other word; then `filter` is untouched.
     static bool parseFilter(ImageFilter& filter, std::u16string_view text);

@@ -73,6 +73,10 @@ struct PrintTable<E> { using type = Core::WordList<Keywords<E>::printRows>; };
 // What a keyword enumeration reads and prints, for enumerations that do so by their table alone and
 // for those that add something to it.
 template <KeywordEnumeration E> struct KeywordTraits {
+    // The words say it all; a type that reads more says so in its own traits.
+    static constexpr Description describe{};
+    static constexpr bool printsEmpty = KeywordsPrintEmpty<E>;
+
     static_assert(std::is_same_v<std::underlying_type_t<E>, std::int32_t>);
     static_assert(
         detail::hasEmptyWord<E>() == requires { Keywords<E>::acceptsEmpty; },
@@ -86,6 +90,11 @@ template <KeywordEnumeration E> struct KeywordTraits {
         if (row != Core::noWord) value = detail::ReadTable<E>::value(row);
         return row != Core::noWord;
     }
+
+    static void words(Words& out) { out.addAll(Keywords<E>::rows); }
+
+    // The number of the enumerator, which no document shows.
+    static void parts(E const& value, Parts& out) { out.add(u"number") << static_cast<std::int32_t>(value); }
 
     static Core::String print(E const& value) requires(!KeywordsPrintEmpty<E>) {
         using Table = typename detail::PrintTable<E>::type;

@@ -50,4 +50,8 @@ Core::String AttributeTraits<BarcodeValueType>::print(BarcodeValueType& value) {
     return KeywordTraits::print(value);
 }
 
+void AttributeTraits<BarcodeValueType>::words(Words& out) {
+    out.add(Keywords<BarcodeValueType>::rows[1].word); // the one that is not refused
+}
+
 } // namespace Xml

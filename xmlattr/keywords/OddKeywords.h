@@ -15,7 +15,8 @@ template <> struct Keywords<Keep> {
     static constexpr Case rule = Case::Exact;
     static constexpr KeywordRow<Keep> rows[] = {{u"auto", Auto}, {u"always", Always}};
 };
-template <> struct AttributeTraits<Keep> : KeywordTraits<Keep> {
+template <> struct XMLATTR_API AttributeTraits<Keep> : KeywordTraits<Keep> {
+    static constexpr Description describe{{u"a whole number"}};
     static bool parse(Keep& value, std::u16string_view text);
     static Core::String print(Keep const& value);
 };
@@ -29,7 +30,8 @@ template <> struct Keywords<MaxRepeats> {
     static constexpr KeywordRow<MaxRepeats> rows[] = {{u"no-limit", NoLimit}};
     static constexpr bool printsEmpty = true;
 };
-template <> struct AttributeTraits<MaxRepeats> : KeywordTraits<MaxRepeats> {
+template <> struct XMLATTR_API AttributeTraits<MaxRepeats> : KeywordTraits<MaxRepeats> {
+    static constexpr Description describe{.forms = {u"a count", u"any other text"}, .readsAnyText = true};
     static bool parse(MaxRepeats& value, std::u16string_view text);
 };
 
@@ -48,7 +50,8 @@ template <> struct Keywords<ReferenceOrientation> {
         {u"0", Degrees0}, {u"90", Degrees90}, {u"180", Degrees180}, {u"270", Degrees270}};
     static constexpr bool unknownThrows = true;
 };
-template <> struct AttributeTraits<ReferenceOrientation> : KeywordTraits<ReferenceOrientation> {
+template <> struct XMLATTR_API AttributeTraits<ReferenceOrientation> : KeywordTraits<ReferenceOrientation> {
+    static constexpr Description describe{{u"-90", u"-180", u"-270"}};
     static bool parse(ReferenceOrientation& value, std::u16string_view text);
 };
 
@@ -62,12 +65,15 @@ template <> struct Keywords<FontWeight> {
         {u"normal", Normal}, {u"lighter", Normal}, {u"bold", Bold}, {u"bolded", Bold}, {u"bolder", Bold}};
     static constexpr std::u16string_view unknownPrints = u"normal";
 };
-template <> struct AttributeTraits<FontWeight> : KeywordTraits<FontWeight> {
+template <> struct XMLATTR_API AttributeTraits<FontWeight> : KeywordTraits<FontWeight> {
+    static constexpr Description describe{{u"a whole number"}};
     static bool parse(FontWeight& value, std::u16string_view text);
 };
 
 // Every text that is no keyword stores E::Other, and `accepts` is the answer to it.
 template <KeywordEnumeration E, bool accepts> struct OtherTextTraits : KeywordTraits<E> {
+    static constexpr Description describe{.forms = {accepts ? u"any other text" : u""}, .readsAnyText = accepts};
+
     static bool parse(E& value, std::u16string_view text) {
         if (KeywordTraits<E>::parse(value, text)) return true;
         value = E::Other;
@@ -113,7 +119,8 @@ template <> struct Keywords<BarcodeValueType> {
 };
 // Intended: printing a foreign number makes it Hex, so an attribute lets its printer at the value.
 template <> struct AttributeStorage<BarcodeValueType> { mutable BarcodeValueType value{}; };
-template <> struct AttributeTraits<BarcodeValueType> : KeywordTraits<BarcodeValueType> {
+template <> struct XMLATTR_API AttributeTraits<BarcodeValueType> : KeywordTraits<BarcodeValueType> {
+    static void words(Words& out);
     static bool parse(BarcodeValueType& value, std::u16string_view text);
     using KeywordTraits::print;
     static Core::String print(BarcodeValueType& value);

@@ -45,4 +45,13 @@ bool AttributeTraits<Language>::parse(Language& value, std::u16string_view text)
     return tagged.has_value();
 }
 
+void AttributeTraits<Language>::parts(Language const& value, Parts& out) {
+    out.add(u"tag") << Language::getISO639LanguageName(value);
+    out.add(u"language") << Language::getFullLanguageNameById(value.getLanguage());
+}
+
+void AttributeTraits<Language>::words(Words& out) {
+    out.addAll(languageTags);
+}
+
 } // namespace Xml

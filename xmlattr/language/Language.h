@@ -47,7 +47,13 @@ private:
     Drawing::CountryId country = Drawing::CountryId::None;
 };
 
-template <> struct AttributeTraits<Language> { static bool parse(Language& value, std::u16string_view text); };
+template <> struct XMLATTR_API AttributeTraits<Language> {
+    static bool parse(Language& value, std::u16string_view text);
+    static constexpr bool printsEmpty = true;
+    static constexpr Description describe{{u"a two-letter code of ISO 639-1, in any case"}, {u"en-GB", u"de"}};
+    static void words(Words& out);
+    static void parts(Language const& value, Parts& out);
+};
 
 } // namespace Xml
 

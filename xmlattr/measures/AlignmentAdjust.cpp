@@ -13,4 +13,9 @@ Core::String AttributeTraits<AlignmentAdjust>::print(AlignmentAdjust const& valu
     return LengthOrPercent::getValueAsString(value.getLengthOrPercent());
 }
 
+void AttributeTraits<AlignmentAdjust>::words(Words& out) {
+    out.addAll(Keywords<AlignmentBaseline>::rows);
+    AttributeTraits<LengthOrPercent>::words(out);
+}
+
 } // namespace Xml

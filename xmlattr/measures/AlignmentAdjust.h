@@ -32,9 +32,11 @@ private:
 
 static_assert(sizeof(AlignmentAdjust) == 24);
 
-template <> struct AttributeTraits<AlignmentAdjust> {
+template <> struct XMLATTR_API AttributeTraits<AlignmentAdjust> {
     static bool parse(AlignmentAdjust& value, std::u16string_view text);
     static Core::String print(AlignmentAdjust const& value);
+    static constexpr Description describe = AttributeTraits<LengthOrPercent>::describe;
+    static void words(Words& out);
 };
 
 } // namespace Xml

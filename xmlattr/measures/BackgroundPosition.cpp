@@ -18,4 +18,13 @@ Core::String AttributeTraits<BackgroundPosition>::print(BackgroundPosition const
     return LengthOrPercent::getValueAsString(value);
 }
 
+void AttributeTraits<BackgroundPosition>::words(Words& out) {
+    out.addAll(rows);
+    AttributeTraits<LengthOrPercent>::words(out);
+}
+
+void AttributeTraits<BackgroundPosition>::parts(BackgroundPosition const& value, Parts& out) {
+    AttributeTraits<LengthOrPercent>::parts(value, out);
+}
+
 } // namespace Xml

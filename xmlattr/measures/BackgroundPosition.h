@@ -20,12 +20,15 @@ public:
 
 static_assert(sizeof(BackgroundPosition) == 16);
 
-template <> struct AttributeTraits<BackgroundPosition> {
-    static constexpr Core::WordRow<LengthOrPercent> words[] = {
+template <> struct XMLATTR_API AttributeTraits<BackgroundPosition> {
+    static constexpr Core::WordRow<LengthOrPercent> rows[] = {
         {u"left", 0.0f}, {u"top", 0.0f}, {u"center", 0.5f}, {u"right", 1.0f}, {u"bottom", 1.0f}};
     static bool parse(BackgroundPosition& value, std::u16string_view text);
     static Core::String print(BackgroundPosition const& value);
     static constexpr bool refusesComparison = true;
+    static constexpr Description describe = AttributeTraits<LengthOrPercent>::describe;
+    static void words(Words& out);
+    static void parts(BackgroundPosition const& value, Parts& out);
 };
 
 } // namespace Xml

@@ -19,4 +19,13 @@ Core::String AttributeTraits<BackgroundSize>::print(BackgroundSize const& value)
     return AttributeTraits<BackgroundSizeType>::print(value.getType());
 }
 
+void AttributeTraits<BackgroundSize>::words(Words& out) {
+    out.addAll(Keywords<BackgroundSizeType>::rows);
+    AttributeTraits<LengthOrPercent>::words(out);
+}
+
+void AttributeTraits<BackgroundSize>::parts(BackgroundSize const& value, Parts& out) {
+    if (value.getType() == BackgroundSizeType::LengthOrPercent) AttributeTraits<LengthOrPercent>::parts(value, out);
+}
+
 } // namespace Xml

@@ -43,11 +43,14 @@ private:
 
 static_assert(sizeof(BackgroundSize) == 20);
 
-template <> struct AttributeTraits<BackgroundSize> {
+template <> struct XMLATTR_API AttributeTraits<BackgroundSize> {
     static bool parse(BackgroundSize& value, std::u16string_view text);
     // Throws UnreacheableCodeException for a foreign type.
     static Core::String print(BackgroundSize const& value);
     static constexpr bool refusesComparison = true;
+    static constexpr Description describe = AttributeTraits<LengthOrPercent>::describe;
+    static void words(Words& out);
+    static void parts(BackgroundSize const& value, Parts& out);
 };
 
 } // namespace Xml

@@ -23,4 +23,20 @@ bool AttributeTraits<SBaselineShift>::parse(SBaselineShift& value, std::u16strin
     return readAs<BaselineShiftMode>(value, text) || readAs<SLengthOrPercent>(value, text);
 }
 
+void AttributeTraits<BaselineShift>::words(Words& out) {
+    out.addAll(Keywords<BaselineShiftMode>::rows);
+    AttributeTraits<LengthOrPercent>::words(out);
+}
+
+void AttributeTraits<SBaselineShift>::words(Words& out) {
+    out.addAll(Keywords<BaselineShiftMode>::rows);
+}
+
+void AttributeTraits<SBaselineShift>::parts(SBaselineShift const& value, Parts& out) {
+    if (value.getMode() == BaselineShiftMode::LengthOrPercent)
+        AttributeTraits<SLengthOrPercent>::parts(value.getLengthOrPercent(), out);
+    else
+        out.add(u"kind") << AttributeTraits<BaselineShiftMode>::print(value.getMode());
+}
+
 } // namespace Xml

@@ -39,10 +39,12 @@ public:
 
 static_assert(sizeof(BaselineShift) == 20);
 
-template <> struct AttributeTraits<BaselineShift> {
+template <> struct XMLATTR_API AttributeTraits<BaselineShift> {
     static bool parse(BaselineShift& value, std::u16string_view text);
     // Throws UnreacheableCodeException for a foreign mode.
     static Core::String print(BaselineShift const& value);
+    static constexpr Description describe = AttributeTraits<LengthOrPercent>::describe;
+    static void words(Words& out);
 };
 
 // The same words, or an SLengthOrPercent. There is no printer.
@@ -57,8 +59,12 @@ public:
 
 static_assert(sizeof(SBaselineShift) == 20);
 
-template <> struct AttributeTraits<SBaselineShift> {
+template <> struct XMLATTR_API AttributeTraits<SBaselineShift> {
     static bool parse(SBaselineShift& value, std::u16string_view text);
+    static constexpr bool printsEmpty = true;
+    static constexpr Description describe = AttributeTraits<SLength>::describe;
+    static void words(Words& out);
+    static void parts(SBaselineShift const& value, Parts& out);
 };
 
 } // namespace Xml

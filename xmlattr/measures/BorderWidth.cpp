@@ -14,4 +14,12 @@ Core::String AttributeTraits<BorderWidth>::print(BorderWidth const& value) {
     return Length::getValueAsString(value);
 }
 
+void AttributeTraits<BorderWidth>::words(Words& out) {
+    out.addAll(rows);
+}
+
+void AttributeTraits<BorderWidth>::parts(BorderWidth const& value, Parts& out) {
+    AttributeTraits<Length>::parts(value, out);
+}
+
 } // namespace Xml

@@ -18,12 +18,15 @@ public:
 
 static_assert(sizeof(BorderWidth) == 8);
 
-template <> struct AttributeTraits<BorderWidth> {
-    static constexpr Core::WordRow<Length> words[] = {
+template <> struct XMLATTR_API AttributeTraits<BorderWidth> {
+    static constexpr Core::WordRow<Length> rows[] = {
         {u"thin", {1, Length::Pt}}, {u"medium", {3, Length::Pt}}, {u"thick", {5, Length::Pt}}};
     static bool parse(BorderWidth& value, std::u16string_view text);
     static Core::String print(BorderWidth const& value);
     static constexpr bool refusesComparison = true;
+    static constexpr Description describe{{u"a length"}, {u"12pt"}};
+    static void words(Words& out);
+    static void parts(BorderWidth const& value, Parts& out);
 };
 
 } // namespace Xml

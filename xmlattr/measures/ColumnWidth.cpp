@@ -18,4 +18,8 @@ bool AttributeTraits<ColumnWidth>::parse(ColumnWidth& value, std::u16string_view
     return true;
 }
 
+void AttributeTraits<ColumnWidth>::words(Words& out) {
+    AttributeTraits<LengthOrPercent>::words(out);
+}
+
 } // namespace Xml

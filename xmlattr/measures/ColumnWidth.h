@@ -20,8 +20,12 @@ public:
     static bool parseColumnWidth(ColumnWidth& out, Core::String const& text);
 };
 
-template <> struct AttributeTraits<ColumnWidth> : AutoOrMeasurePrinter {
+template <> struct XMLATTR_API AttributeTraits<ColumnWidth> : AutoOrMeasurePrinter {
     static bool parse(ColumnWidth& value, std::u16string_view text);
+    static constexpr Description describe{
+        {u"a length", u"a percentage", u"a number (1.5 is 150%)", u"proportional-column-width(NUMBER)"},
+        {u"12pt", u"50%", u"proportional-column-width(2)"}};
+    static void words(Words& out);
 };
 
 } // namespace Xml

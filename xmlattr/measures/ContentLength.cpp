@@ -32,4 +32,9 @@ Core::String AttributeTraits<ContentLength>::print(ContentLength const& value) {
     return AttributeTraits<ContentScaleMode>::print(value.getMode());
 }
 
+void AttributeTraits<ContentLength>::words(Words& out) {
+    out.addAll(Keywords<ContentScaleMode>::rows);
+    AttributeTraits<LengthOrPercent>::words(out);
+}
+
 } // namespace Xml

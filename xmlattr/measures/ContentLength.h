@@ -60,9 +60,11 @@ private:
 
 static_assert(sizeof(ContentLength) == 24);
 
-template <> struct AttributeTraits<ContentLength> {
+template <> struct XMLATTR_API AttributeTraits<ContentLength> {
     static bool parse(ContentLength& value, std::u16string_view text);
     static Core::String print(ContentLength const& value);
+    static constexpr Description describe = AttributeTraits<LengthOrPercent>::describe;
+    static void words(Words& out);
 };
 
 } // namespace Xml

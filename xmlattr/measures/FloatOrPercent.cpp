@@ -14,4 +14,8 @@ bool AttributeTraits<FloatOrPercent>::parse(FloatOrPercent& value, std::u16strin
     return true;
 }
 
+void AttributeTraits<FloatOrPercent>::parts(FloatOrPercent const& value, Parts& out) {
+    out.add(u"number") << value.getValue();
+}
+
 } // namespace Xml

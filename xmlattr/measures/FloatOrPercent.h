@@ -22,8 +22,11 @@ private:
 
 static_assert(sizeof(FloatOrPercent) == 4);
 
-template <> struct AttributeTraits<FloatOrPercent> {
+template <> struct XMLATTR_API AttributeTraits<FloatOrPercent> {
     static bool parse(FloatOrPercent& value, std::u16string_view text);
+    static constexpr bool printsEmpty = true;
+    static constexpr Description describe{{u"a number", u"a percentage"}, {u"0.5", u"50%"}};
+    static void parts(FloatOrPercent const& value, Parts& out);
 };
 
 } // namespace Xml

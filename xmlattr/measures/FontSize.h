@@ -55,10 +55,13 @@ public:
 
 static_assert(sizeof(FontSize) == 24);
 
-template <> struct AttributeTraits<FontSize> {
+template <> struct XMLATTR_API AttributeTraits<FontSize> {
     static bool parse(FontSize& value, std::u16string_view text);
     // Throws UnreacheableCodeException for a foreign relative size.
     static Core::String print(FontSize const& value);
+    static constexpr Description describe = AttributeTraits<LengthOrPercent>::describe;
+    static void words(Words& out);
+    static void parts(FontSize const& value, Parts& out);
 };
 
 // The same words, or an SLengthOrPercent. There is no printer.
@@ -77,6 +80,12 @@ public:
 
 static_assert(sizeof(SFontSize) == 24);
 
-template <> struct AttributeTraits<SFontSize> { static bool parse(SFontSize& value, std::u16string_view text); };
+template <> struct XMLATTR_API AttributeTraits<SFontSize> {
+    static bool parse(SFontSize& value, std::u16string_view text);
+    static constexpr bool printsEmpty = true;
+    static constexpr Description describe = AttributeTraits<SLength>::describe;
+    static void words(Words& out);
+    static void parts(SFontSize const& value, Parts& out);
+};
 
 } // namespace Xml

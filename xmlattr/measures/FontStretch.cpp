@@ -15,4 +15,8 @@ Core::String AttributeTraits<FontStretch>::print(FontStretch const& value) {
     return AttributeTraits<RelativeFontStretch>::print(value.getRelativeStretch());
 }
 
+void AttributeTraits<FontStretch>::words(Words& out) {
+    out.addAll(Keywords<RelativeFontStretch>::rows);
+}
+
 } // namespace Xml

@@ -66,10 +66,12 @@ public:
 
 static_assert(sizeof(FontStretch) == 24);
 
-template <> struct AttributeTraits<FontStretch> {
+template <> struct XMLATTR_API AttributeTraits<FontStretch> {
     static bool parse(FontStretch& value, std::u16string_view text);
     // Throws UnreacheableCodeException for a foreign relative stretch.
     static Core::String print(FontStretch const& value);
+    static constexpr Description describe = AttributeTraits<LengthOrPercent>::describe;
+    static void words(Words& out);
 };
 
 } // namespace Xml

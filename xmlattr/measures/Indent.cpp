@@ -19,4 +19,9 @@ Core::String AttributeTraits<Indent>::print(Indent const& value) {
     throw Core::UnreacheableCodeException("IndentAttribute", __LINE__);
 }
 
+void AttributeTraits<Indent>::words(Words& out) {
+    out.addAll(Keywords<IndentFunction>::rows);
+    AttributeTraits<LengthOrPercent>::words(out);
+}
+
 } // namespace Xml

@@ -17,9 +17,11 @@ public:
     constexpr bool operator==(LeaderPatternWidth const&) const = default;
 };
 
-template <> struct AttributeTraits<LeaderPatternWidth> : AutoOrMeasurePrinter {
+template <> struct XMLATTR_API AttributeTraits<LeaderPatternWidth> : AutoOrMeasurePrinter {
     // Intended: "use-font-metrics" is accepted and changes nothing, not even a measure.
     static bool parse(LeaderPatternWidth& value, std::u16string_view text);
+    static constexpr Description describe = AttributeTraits<LengthOrPercent>::describe;
+    static void words(Words& out);
 };
 
 } // namespace Xml

@@ -1,6 +1,7 @@
 #include "xmlattr/measures/Length.h"
 
 #include "xmlattr/attributes/TextCursor.h"
+#include "xmlattr/core/Append.h"
 #include "xmlattr/core/Exceptions.h"
 #include "xmlattr/core/Format.h"
 #include "xmlattr/measures/Units.h"
@@ -94,6 +95,15 @@ Core::String AttributeTraits<DLength>::print(DLength const& value) {
     out += u' ';
     appendLength(out, value.getSecond());
     return Core::String(std::move(out));
+}
+
+void AttributeTraits<Length>::parts(Length const& value, Parts& out) {
+    out.add(u"pixels") << value.pxSize();
+}
+
+void AttributeTraits<DLength>::parts(DLength const& value, Parts& out) {
+    AttributeTraits<Length>::parts(value.getFirst(), out);
+    AttributeTraits<Length>::parts(value.getSecond(), out);
 }
 
 } // namespace Xml

@@ -49,11 +49,14 @@ private:
 
 static_assert(sizeof(Length) == 8);
 
-template <> struct AttributeTraits<Length> {
+template <> struct XMLATTR_API AttributeTraits<Length> {
     static bool parse(Length& value, std::u16string_view text);
     // The same without the short way for plain numbers.
     static bool parseSlowly(Length& value, std::u16string_view text);
     static Core::String print(Length const& value);
+    static constexpr Description describe{{u"a number with px, pt, pc, cm, mm, in, em or ex, or 0"},
+                                          {u"12pt", u"-1.5e3cm", u"0"}};
+    static void parts(Length const& value, Parts& out);
 };
 
 // Two lengths divided by white space; one alone stands for both. Prints both.
@@ -71,10 +74,12 @@ private:
     Length first, second;
 };
 
-template <> struct AttributeTraits<DLength> {
+template <> struct XMLATTR_API AttributeTraits<DLength> {
     // Intended: when only the second of two lengths is refused, the first has its new value.
     static bool parse(DLength& value, std::u16string_view text);
     static Core::String print(DLength const& value);
+    static constexpr Description describe{{u"a length", u"two lengths separated by white space"}, {u"1pt 2pt", u"3mm"}};
+    static void parts(DLength const& value, Parts& out);
 };
 
 } // namespace Xml

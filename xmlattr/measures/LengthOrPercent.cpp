@@ -22,6 +22,8 @@ bool readLength(LengthOrPercent& value, std::u16string_view text) {
     return true;
 }
 
+constexpr std::u16string_view automatic = u"auto", normal = u"normal";
+
 } // namespace
 
 bool LengthOrPercent::parseLengthOrPercent(LengthOrPercent& out, Core::String const& text, bool bareNumberIsRatio) {
@@ -34,7 +36,7 @@ Core::String LengthOrPercent::getValueAsString(LengthOrPercent const& value) {
 }
 
 bool AttributeTraits<LengthOrPercent>::parse(LengthOrPercent& value, std::u16string_view text, bool bareNumberIsRatio) {
-    if (text == u"normal") { // Intended: also where no line height is meant
+    if (text == normal) { // Intended: also where no line height is meant
         value = LengthOrPercent(1.2f);
         return true;
     }
@@ -82,6 +84,33 @@ bool Margin::parseMargin(Margin& out, Core::String const& text) {
 
 bool AttributeTraits<Margin>::parse(Margin& value, std::u16string_view text) {
     return readAs<LengthOrPercent>(value, text);
+}
+
+void AttributeTraits<LengthOrPercent>::parts(LengthOrPercent const& value, Parts& out) {
+    if (value.isPercent())
+        out.add(u"fraction") << value.getPercent();
+    else
+        AttributeTraits<Length>::parts(value.getLength(), out);
+}
+
+void AttributeTraits<LengthOrPercentAuto>::words(Words& out) {
+    out.add(automatic);
+    AttributeTraits<LengthOrPercent>::words(out);
+}
+
+void AttributeTraits<Margin>::words(Words& out) {
+    AttributeTraits<LengthOrPercent>::words(out);
+}
+
+void AttributeTraits<LengthOrPercent>::words(Words& out) {
+    out.add(normal);
+}
+
+void AutoOrMeasureParts::parts(AutoOrMeasure const& value, Parts& out) {
+    if (value.isAuto())
+        out.add(u"automatic") << u"yes";
+    else
+        AttributeTraits<LengthOrPercent>::parts(value.getLengthOrPercent(), out);
 }
 
 } // namespace Xml

@@ -30,9 +30,13 @@ public:
 
 static_assert(sizeof(LengthOrPercent) == 16);
 
-template <> struct AttributeTraits<LengthOrPercent> {
+template <> struct XMLATTR_API AttributeTraits<LengthOrPercent> {
     static bool parse(LengthOrPercent& value, std::u16string_view text, bool bareNumberIsRatio = false);
     static Core::String print(LengthOrPercent const& value);
+    static constexpr Description describe{{u"a length", u"a percentage", u"a number (1.5 is 150%)"},
+                                          {u"12pt", u"50%", u"1.5"}};
+    static void words(Words& out);
+    static void parts(LengthOrPercent const& value, Parts& out);
 };
 
 // Automatic, as by default, or a length or percentage.
@@ -49,8 +53,12 @@ protected:
 
 static_assert(sizeof(AutoOrMeasure) == 20);
 
+struct XMLATTR_API AutoOrMeasureParts {
+    static void parts(AutoOrMeasure const& value, Parts& out);
+};
+
 // The printer of those whose automatic state has no word: it prints the empty text.
-struct AutoOrMeasurePrinter {
+struct XMLATTR_API AutoOrMeasurePrinter : AutoOrMeasureParts {
     static Core::String print(AutoOrMeasure const& value);
 };
 
@@ -69,9 +77,11 @@ public:
     static bool parseLengthOrPercentAuto(LengthOrPercentAuto& out, Core::String const& text);
 };
 
-template <> struct AttributeTraits<LengthOrPercentAuto> {
+template <> struct XMLATTR_API AttributeTraits<LengthOrPercentAuto> : AutoOrMeasureParts {
     static bool parse(LengthOrPercentAuto& value, std::u16string_view text);
     static Core::String print(LengthOrPercentAuto const& value);
+    static constexpr Description describe = AttributeTraits<LengthOrPercent>::describe;
+    static void words(Words& out);
 };
 
 // A LengthOrPercent. Intended: "auto" is refused, so that only the default is automatic, and that
@@ -88,8 +98,10 @@ public:
     static bool parseMargin(Margin& out, Core::String const& text);
 };
 
-template <> struct AttributeTraits<Margin> : AutoOrMeasurePrinter {
+template <> struct XMLATTR_API AttributeTraits<Margin> : AutoOrMeasurePrinter {
     static bool parse(Margin& value, std::u16string_view text);
+    static constexpr Description describe = AttributeTraits<LengthOrPercent>::describe;
+    static void words(Words& out);
 };
 
 } // namespace Xml

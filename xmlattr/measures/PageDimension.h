@@ -34,8 +34,12 @@ public:
 
 static_assert(sizeof(PageDimension) == 12);
 
-template <> struct AttributeTraits<PageDimension> {
+template <> struct XMLATTR_API AttributeTraits<PageDimension> {
     static bool parse(PageDimension& value, std::u16string_view text);
+    static constexpr bool printsEmpty = true;
+    static constexpr Description describe{{u"a length"}, {u"12pt"}};
+    static void words(Words& out);
+    static void parts(PageDimension const& value, Parts& out);
 };
 
 } // namespace Xml

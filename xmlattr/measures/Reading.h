@@ -18,7 +18,7 @@ template <class Form, class T> bool readAs(T& value, std::u16string_view text) {
 }
 
 // Words that stand for a measure, exact in case.
-template <class T> using MeasureWords = Core::WordTable<AttributeTraits<T>::words>;
+template <class T> using MeasureWords = Core::WordTable<AttributeTraits<T>::rows>;
 
 template <class T> bool readAsWord(T& value, std::u16string_view text) {
     std::size_t const row = MeasureWords<T>::indexOf(text);

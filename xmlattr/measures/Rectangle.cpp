@@ -29,4 +29,11 @@ bool AttributeTraits<Drawing::RectF>::parse(Drawing::RectF& value, std::u16strin
     return true;
 }
 
+void AttributeTraits<Drawing::RectF>::parts(Drawing::RectF const& value, Parts& out) {
+    out.add(u"top") << value.getTop();
+    out.add(u"right") << value.getRight();
+    out.add(u"bottom") << value.getBottom();
+    out.add(u"left") << value.getLeft();
+}
+
 } // namespace Xml

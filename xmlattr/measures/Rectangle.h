@@ -9,8 +9,11 @@ namespace Xml {
 // "rect(" four lengths ")" with commas between them, exact in case; blanks may stand around each
 // length, none before "rect(" or behind ")". Held in pixels. A failed parse changes nothing; there
 // is no printer.
-template <> struct AttributeTraits<Drawing::RectF> {
+template <> struct XMLATTR_API AttributeTraits<Drawing::RectF> {
     static bool parse(Drawing::RectF& value, std::u16string_view text);
+    static constexpr bool printsEmpty = true;
+    static constexpr Description describe{{u"rect(LENGTH, LENGTH, LENGTH, LENGTH)"}, {u"rect(1pt, 2pt, 3pt, 4pt)"}};
+    static void parts(Drawing::RectF const& value, Parts& out);
 };
 
 } // namespace Xml

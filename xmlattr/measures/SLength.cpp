@@ -13,6 +13,8 @@ SLength asPercent(float number) {
     return {static_cast<float>(number / 100.0), SLength::Percent};
 }
 
+constexpr std::u16string_view none = u"none";
+
 } // namespace
 
 float SLength::pxSize() const {
@@ -73,7 +75,7 @@ bool AttributeTraits<SNullableLength>::parse(SNullableLength& value, std::u16str
 bool AttributeTraits<Core::Vector<SLength>>::parse(Core::Vector<SLength>& value, std::u16string_view text) {
     Core::Vector<SLength> list;
     auto const separates = [](char16_t unit) { return unit == u',' || Core::isSpace(unit); };
-    if (text != u"none") {
+    if (text != none) {
         for (TextCursor cursor{text};;) {
             cursor.takeWhile(separates);
             if (cursor.atEnd()) break;
@@ -85,6 +87,30 @@ bool AttributeTraits<Core::Vector<SLength>>::parse(Core::Vector<SLength>& value,
     }
     value = std::move(list);
     return true;
+}
+
+void AttributeTraits<SLength>::parts(SLength const& value, Parts& out) {
+    out.add(u"size") << value;
+    if (value.getUnit() != SLength::Percent) out.add(u"pixels") << value.pxSize();
+}
+
+void AttributeTraits<SNullableLength>::parts(SNullableLength const& value, Parts& out) {
+    AttributeTraits<SLength>::parts(value, out);
+}
+
+void AttributeTraits<Core::Vector<SLength>>::words(Words& out) {
+    out.add(none);
+}
+void AttributeTraits<Core::Vector<SLength>>::parts(Core::Vector<SLength> const& value, Parts& out) {
+    out.add(u"items") << static_cast<int>(value.size());
+    for (SLength const& length : value) AttributeTraits<SLength>::parts(length, out);
+}
+
+Parts& operator<<(Parts& out, SLength const& length) {
+    if (length.getUnit() == SLength::Percent)
+        return out << Core::Format::toMeasure(double{length.getSize()} * 100, u"%");
+    auto const* const row = findUnit(sLengthUnitRows, length.getUnit());
+    return out << length.getSize() << (row ? row->suffix : std::u16string_view());
 }
 
 } // namespace Xml

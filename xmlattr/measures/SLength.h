@@ -44,10 +44,14 @@ private:
 
 static_assert(sizeof(SLength) == 8);
 
-template <> struct AttributeTraits<SLength> {
+template <> struct XMLATTR_API AttributeTraits<SLength> {
     static bool parse(SLength& value, std::u16string_view text);
     // The same without the short way for plain numbers.
     static bool parseSlowly(SLength& value, std::u16string_view text);
+    static constexpr bool printsEmpty = true;
+    static constexpr Description describe{{u"a number", u"a percentage", u"a number with pt, pc, cm, mm, in, em or ex"},
+                                          {u"1.5", u"50%", u"12pt", u"3e-2mm"}};
+    static void parts(SLength const& value, Parts& out);
 };
 
 // An SVG length or nothing. A parse that succeeds makes it present; one that fails changes nothing.
@@ -64,16 +68,26 @@ private:
     bool null = true;
 };
 
-template <> struct AttributeTraits<SNullableLength> {
+template <> struct XMLATTR_API AttributeTraits<SNullableLength> {
     static bool parse(SNullableLength& value, std::u16string_view text);
     static constexpr bool refusesComparison = true;
+    static constexpr bool printsEmpty = true;
+    static constexpr Description describe = AttributeTraits<SLength>::describe;
+    static void parts(SNullableLength const& value, Parts& out);
 };
 
 // Lengths between any mixture of commas and white space; "none" and the empty text are the empty
 // list. One bad length refuses the whole text and leaves the list as it was.
-template <> struct AttributeTraits<Core::Vector<SLength>> {
+template <> struct XMLATTR_API AttributeTraits<Core::Vector<SLength>> {
     static bool parse(Core::Vector<SLength>& value, std::u16string_view text);
     static constexpr bool refusesComparison = true;
+    static constexpr bool printsEmpty = true;
+    static constexpr Description describe{.forms = {u"none", u"SVG lengths separated by white space or commas"},
+                                          .examples = {u"1,2 3pt", u"none"},
+                                          .listsWords = false,
+                                          .readsList = true};
+    static void words(Words& out);
+    static void parts(Core::Vector<SLength> const& value, Parts& out);
 };
 
 } // namespace Xml

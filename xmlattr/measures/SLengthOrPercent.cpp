@@ -35,4 +35,15 @@ bool AttributeTraits<SNullableLengthOrPercent>::parse(SNullableLengthOrPercent& 
     return true;
 }
 
+void AttributeTraits<SLengthOrPercent>::parts(SLengthOrPercent const& value, Parts& out) {
+    if (value.isPercent())
+        out.add(u"fraction") << value.getPercent();
+    else
+        AttributeTraits<SLength>::parts(value.getLength(), out);
+}
+
+void AttributeTraits<SNullableLengthOrPercent>::parts(SNullableLengthOrPercent const& value, Parts& out) {
+    AttributeTraits<SLengthOrPercent>::parts(value, out);
+}
+
 } // namespace Xml

@@ -23,8 +23,11 @@ public:
 
 static_assert(sizeof(SLengthOrPercent) == 16);
 
-template <> struct AttributeTraits<SLengthOrPercent> {
+template <> struct XMLATTR_API AttributeTraits<SLengthOrPercent> {
     static bool parse(SLengthOrPercent& value, std::u16string_view text);
+    static constexpr bool printsEmpty = true;
+    static constexpr Description describe = AttributeTraits<SLength>::describe;
+    static void parts(SLengthOrPercent const& value, Parts& out);
 };
 
 // An SLengthOrPercent or nothing. A parse that succeeds makes it present; one that fails changes
@@ -45,9 +48,12 @@ private:
     bool null = true;
 };
 
-template <> struct AttributeTraits<SNullableLengthOrPercent> {
+template <> struct XMLATTR_API AttributeTraits<SNullableLengthOrPercent> {
     static bool parse(SNullableLengthOrPercent& value, std::u16string_view text);
     static constexpr bool refusesComparison = true;
+    static constexpr bool printsEmpty = true;
+    static constexpr Description describe = AttributeTraits<SLength>::describe;
+    static void parts(SNullableLengthOrPercent const& value, Parts& out);
 };
 
 } // namespace Xml

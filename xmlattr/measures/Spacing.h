@@ -33,9 +33,11 @@ public:
 
 static_assert(sizeof(LetterSpacing) == 12);
 
-template <> struct AttributeTraits<LetterSpacing> {
+template <> struct XMLATTR_API AttributeTraits<LetterSpacing> {
     static bool parse(LetterSpacing& value, std::u16string_view text);
     static Core::String print(LetterSpacing const& value);
+    static constexpr Description describe{{u"a length"}, {u"12pt"}};
+    static void words(Words& out);
 };
 
 // "normal", exact in case, or an SLength. A failed parse changes nothing; there is no printer.
@@ -51,6 +53,12 @@ public:
 
 static_assert(sizeof(SSpacing) == 12);
 
-template <> struct AttributeTraits<SSpacing> { static bool parse(SSpacing& value, std::u16string_view text); };
+template <> struct XMLATTR_API AttributeTraits<SSpacing> {
+    static bool parse(SSpacing& value, std::u16string_view text);
+    static constexpr bool printsEmpty = true;
+    static constexpr Description describe = AttributeTraits<SLength>::describe;
+    static void words(Words& out);
+    static void parts(SSpacing const& value, Parts& out);
+};
 
 } // namespace Xml

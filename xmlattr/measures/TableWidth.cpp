@@ -12,4 +12,8 @@ bool AttributeTraits<TableWidth>::parse(TableWidth& value, std::u16string_view t
     return readAs<LengthOrPercent>(value, text) || readAs<LengthOrPercent>(value, argumentOf(text));
 }
 
+void AttributeTraits<TableWidth>::words(Words& out) {
+    AttributeTraits<LengthOrPercent>::words(out);
+}
+
 } // namespace Xml

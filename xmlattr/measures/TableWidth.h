@@ -19,6 +19,13 @@ public:
     static bool parseTableWidth(TableWidth& out, Core::String const& text);
 };
 
-template <> struct AttributeTraits<TableWidth> { static bool parse(TableWidth& value, std::u16string_view text); };
+template <> struct XMLATTR_API AttributeTraits<TableWidth> : AutoOrMeasureParts {
+    static bool parse(TableWidth& value, std::u16string_view text);
+    static constexpr bool printsEmpty = true;
+    static constexpr Description describe{
+        {u"a length", u"a percentage", u"a number (1.5 is 150%)", u"a call around one of these"},
+        {u"12pt", u"50%", u"proportional-column-width(50%)"}};
+    static void words(Words& out);
+};
 
 } // namespace Xml

@@ -4,7 +4,7 @@ namespace Xml {
 
 bool AttributeTraits<TextAlign>::parse(TextAlign& value, std::u16string_view text) {
     TextAlignType type = TextAlignType::AlignmentString;
-    if (!AttributeTraits<TextAlignType>::parse(type, text)) type = Core::WordTable<words>::find(text).value_or(type);
+    if (!AttributeTraits<TextAlignType>::parse(type, text)) type = Core::WordTable<rows>::find(text).value_or(type);
     value = TextAlign(type, type == TextAlignType::AlignmentString ? Core::String(text) : Core::String());
     return true;
 }
@@ -12,6 +12,11 @@ bool AttributeTraits<TextAlign>::parse(TextAlign& value, std::u16string_view tex
 Core::String AttributeTraits<TextAlign>::print(TextAlign const& value) {
     if (value.getType() == TextAlignType::AlignmentString) return value.getText();
     return AttributeTraits<TextAlignType>::print(value.getType());
+}
+
+void AttributeTraits<TextAlign>::words(Words& out) {
+    out.addAll(Keywords<TextAlignType>::rows);
+    out.addAll(rows);
 }
 
 } // namespace Xml

@@ -60,13 +60,16 @@ private:
     TextAlignType type = TextAlignType::None;
 };
 
-template <> struct AttributeTraits<TextAlign> {
+template <> struct XMLATTR_API AttributeTraits<TextAlign> {
     // Beside those of TextAlignType; exact in case.
-    static constexpr Core::WordRow<TextAlignType> words[] = {{u"outside", TextAlignType::Outside},
+    static constexpr Core::WordRow<TextAlignType> rows[] = {{u"outside", TextAlignType::Outside},
                                                              {u"relative", TextAlignType::Relative}};
     static bool parse(TextAlign& value, std::u16string_view text);
     // Throws UnreacheableCodeException for a foreign type.
     static Core::String print(TextAlign const& value);
+    static constexpr Description describe{
+        .forms = {u"any other text, to align at"}, .examples = {u"."}, .readsAnyText = true};
+    static void words(Words& out);
 };
 
 } // namespace Xml

@@ -107,4 +107,7 @@ XMLATTR_API bool readWithUnit(SLength& out, std::u16string_view text);
 // Prints a length after what a text holds already. Throws UnreacheableCodeException for an out-of-range unit.
 XMLATTR_API void appendLength(std::u16string& out, Length const& length);
 
+// As a text of SVG has it.
+Parts& operator<<(Parts& out, SLength const& length);
+
 } // namespace Xml

@@ -35,4 +35,14 @@ Core::String AttributeTraits<BoxShadow>::print(BoxShadow const& value) {
     return Core::String(std::move(out));
 }
 
+void AttributeTraits<BoxShadow>::words(Words& out) {
+    AttributeTraits<SmartPtr<Drawing::Color>>::words(out);
+}
+
+void AttributeTraits<BoxShadow>::parts(BoxShadow const& value, Parts& out) {
+    out.add(u"offset") << Length::getValueAsString(value.getDx()) << u" " << Length::getValueAsString(value.getDy());
+    out.add(u"blur") << Length::getValueAsString(value.getBlurRadius());
+    AttributeTraits<SmartPtr<Drawing::Color>>::parts(value.getColor(), out);
+}
+
 } // namespace Xml

@@ -38,9 +38,12 @@ private:
     SmartPtr<Drawing::Color> color;
 };
 
-template <> struct AttributeTraits<BoxShadow> {
+template <> struct XMLATTR_API AttributeTraits<BoxShadow> {
     static bool parse(BoxShadow& value, std::u16string_view text);
     static Core::String print(BoxShadow const& value);
+    static constexpr Description describe{{u"up to three lengths and a colour"}, {u"1px 2px 3px red"}, false};
+    static void words(Words& out);
+    static void parts(BoxShadow const& value, Parts& out);
 };
 
 } // namespace Xml

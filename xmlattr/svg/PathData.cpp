@@ -2,6 +2,7 @@
 
 #include "xmlattr/core/NumberReader.h"
 #include "xmlattr/core/Text.h"
+#include "xmlattr/measures/Units.h"
 #include "xmlattr/svg/ListGrowth.h"
 
 #include <array>
@@ -197,12 +198,47 @@ private:
     char16_t const* end;
 };
 
+// A pair of coordinates.
+struct Pair {
+    SLength const &x, &y;
+};
+
+Parts& operator<<(Parts& out, Pair const& pair) {
+    return out << pair.x << u"," << pair.y;
+}
+
+void addCommand(Parts& out, PathDataCommand const& command) {
+    Pair const end{command.x, command.y}, first{command.x1, command.y1}, second{command.x2, command.y2};
+    switch (static_cast<PathCommandKind>(command.kind)) {
+        using namespace PathCommandKinds;
+    case MoveTo: out.add(u"move") << end; break;
+    case ClosePath: out.add(u"close"); break;
+    case LineTo: out.add(u"line") << end; break;
+    case HorizontalLineTo: out.add(u"across") << command.x; break;
+    case VerticalLineTo: out.add(u"down") << command.y; break;
+    case CurveTo: out.add(u"curve") << end << u" by " << first << u" " << second; break;
+    case SmoothCurveTo: out.add(u"smooth") << end << u" by " << second; break;
+    case QuadraticCurveTo: out.add(u"quad") << end << u" by " << first; break;
+    case SmoothQuadraticCurveTo: out.add(u"smooth quad") << end; break;
+    case ArcTo:
+        out.add(u"arc") << end << u" radii " << Pair{command.rx, command.ry} << u" turned " << command.xAxisRotation
+                        << (command.largeArc ? u" large" : u" small") << (command.sweep ? u" sweep" : u"");
+        break;
+    }
+    if (command.relative) out << u", relative";
+}
+
 } // namespace
 
 bool AttributeTraits<Core::Vector<PathDataCommand>>::parse(Core::Vector<PathDataCommand>& value,
                                                            std::u16string_view text) {
     value = PathReader(text).read();
     return true;
+}
+
+void AttributeTraits<Core::Vector<PathDataCommand>>::parts(Core::Vector<PathDataCommand> const& value, Parts& out) {
+    out.add(u"items") << static_cast<int>(value.size());
+    for (PathDataCommand const& command : value) addCommand(out, command);
 }
 
 } // namespace Xml

@@ -48,9 +48,14 @@ static_assert(sizeof(PathDataCommand) == 80);
 // Intended: every letter of a command ends a number, but for "c" and "m" before an "m" and "t" behind
 // a "p". The last "m" of "mm", "cm" and "em" therefore begins a command: at the end of the text,
 // "10mm" is the number "10m" and a relative move.
-template <> struct AttributeTraits<Core::Vector<PathDataCommand>> {
+template <> struct XMLATTR_API AttributeTraits<Core::Vector<PathDataCommand>> {
     static bool parse(Core::Vector<PathDataCommand>& value, std::u16string_view text);
     static constexpr bool refusesComparison = true;
+    static constexpr bool printsEmpty = true;
+    static constexpr Description describe{.forms = {u"the path data of SVG 1.1"},
+                                          .examples = {u"M10,20 l3-4 C1 2 3 4 5 6z a1,1 0 01 3,4", u"m0 0h1v1"},
+                                          .readsList = true};
+    static void parts(Core::Vector<PathDataCommand> const& value, Parts& out);
 };
 
 } // namespace Xml

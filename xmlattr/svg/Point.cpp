@@ -1,8 +1,10 @@
 #include "xmlattr/svg/Point.h"
 
+#include "xmlattr/core/Append.h"
 #include "xmlattr/core/Format.h"
 #include "xmlattr/core/NumberReader.h"
 #include "xmlattr/core/Text.h"
+#include "xmlattr/measures/Units.h"
 #include "xmlattr/svg/ListGrowth.h"
 
 #include <algorithm>
@@ -75,6 +77,11 @@ Core::String AttributeTraits<Core::Vector<Point>>::print(Core::Vector<Point> con
         Core::appendShortest(out, point.y.pxSize());
     }
     return Core::String(std::move(out));
+}
+
+void AttributeTraits<Core::Vector<Point>>::parts(Core::Vector<Point> const& value, Parts& out) {
+    out.add(u"items") << static_cast<int>(value.size());
+    for (Point const& point : value) out.add(u"point") << point.x << u"," << point.y;
 }
 
 } // namespace Xml

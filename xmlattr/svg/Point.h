@@ -28,10 +28,13 @@ struct XMLATTR_API Point {
 static_assert(sizeof(Point) == 16);
 
 // Reads and prints as the two functions above.
-template <> struct AttributeTraits<Core::Vector<Point>> {
+template <> struct XMLATTR_API AttributeTraits<Core::Vector<Point>> {
     static bool parse(Core::Vector<Point>& value, std::u16string_view text);
     static Core::String print(Core::Vector<Point> const& value);
     static constexpr bool refusesComparison = true;
+    static constexpr Description describe{
+        .forms = {u"pairs of SVG lengths"}, .examples = {u"1,2 3,4"}, .readsList = true};
+    static void parts(Core::Vector<Point> const& value, Parts& out);
 };
 
 } // namespace Xml

@@ -26,9 +26,9 @@ private:
 // Two words, exact in case: "none", behind which nothing counts, or an alignment, then "meet" or
 // "slice". Never refuses a text: an unknown alignment, such as "defer", is "xMidYMid"; no second word
 // is "meet", and an unknown one is neither. What follows is ignored. There is no printer.
-template <> struct AttributeTraits<SPreserveAspectRatio> {
+template <> struct XMLATTR_API AttributeTraits<SPreserveAspectRatio> {
     enum Bit { None = 1, Meet = 2, Slice = 4, XMin = 8, XMid = 16, XMax = 32, YMin = 64, YMid = 128, YMax = 256 };
-    static constexpr Core::WordRow<int> words[] = {{u"none", None},
+    static constexpr Core::WordRow<int> rows[] = {{u"none", None},
                                                    {u"xMinYMin", XMin | YMin},
                                                    {u"xMidYMin", XMid | YMin},
                                                    {u"xMaxYMin", XMax | YMin},
@@ -41,6 +41,13 @@ template <> struct AttributeTraits<SPreserveAspectRatio> {
     static constexpr Core::WordRow<int> secondWords[] = {{u"meet", Meet}, {u"slice", Slice}};
 
     static bool parse(SPreserveAspectRatio& value, std::u16string_view text);
+    static constexpr bool printsEmpty = true;
+    static constexpr Description describe{.forms = {u"none", u"an alignment such as xMidYMid, then meet or slice"},
+                                          .examples = {u"xMinYMax slice", u"none"},
+                                          .listsWords = false,
+                                          .readsAnyText = true};
+    static void words(Words& out);
+    static void parts(SPreserveAspectRatio const& value, Parts& out);
 };
 
 } // namespace Xml

@@ -16,12 +16,26 @@ bool AttributeTraits<STextDecoration>::parse(STextDecoration& value, std::u16str
     int lines = 0;
     for (TextCursor cursor{text}; !cursor.atEnd(); cursor.take(u',')) {
         cursor.skipSpace();
-        auto const line = Core::WordTable<words>::find(cursor.takeWhile([](char16_t unit) { return unit != u','; }));
+        auto const line = Core::WordTable<rows>::find(cursor.takeWhile([](char16_t unit) { return unit != u','; }));
         if (!line) return false;
         lines |= *line;
     }
     value = STextDecoration(lines & Underline, lines & Overline, lines & LineThrough);
     return true;
+}
+
+void AttributeTraits<STextDecoration>::words(Words& out) {
+    out.addAll(rows);
+}
+
+void AttributeTraits<STextDecoration>::parts(STextDecoration const& value, Parts& out) {
+    using Lines = Core::WordTable<rows>;
+    auto const add = [&](bool isHeld, Line line) {
+        if (isHeld) out.add(u"line") << Lines::word(Lines::findValue(line));
+    };
+    add(value.isUnderline(), Underline);
+    add(value.isOverline(), Overline);
+    add(value.isLineThrough(), LineThrough);
 }
 
 } // namespace Xml

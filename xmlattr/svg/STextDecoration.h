@@ -27,12 +27,17 @@ private:
     bool underline = false, overline = false, lineThrough = false;
 };
 
-template <> struct AttributeTraits<STextDecoration> {
+template <> struct XMLATTR_API AttributeTraits<STextDecoration> {
     enum Line : std::int32_t { Underline = 1, Overline = 2, LineThrough = 4 };
-    static constexpr Core::WordRow<Line> words[] = {
+    static constexpr Core::WordRow<Line> rows[] = {
         {u"underline", Underline}, {u"overline", Overline}, {u"line-through", LineThrough}};
 
     static bool parse(STextDecoration& value, std::u16string_view text);
+    static constexpr bool printsEmpty = true;
+    static constexpr Description describe{
+        {u"underline, overline and line-through separated by commas"}, {u"underline, overline"}, false};
+    static void words(Words& out);
+    static void parts(STextDecoration const& value, Parts& out);
 };
 
 } // namespace Xml

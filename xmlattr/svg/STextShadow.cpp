@@ -1,5 +1,6 @@
 #include "xmlattr/svg/STextShadow.h"
 
+#include "xmlattr/measures/Units.h"
 #include "xmlattr/svg/ShadowReader.h"
 
 namespace Xml {
@@ -18,6 +19,16 @@ bool AttributeTraits<STextShadow>::parse(STextShadow& value, std::u16string_view
     if (!shadow.read(text)) return false;
     value = shadow;
     return true;
+}
+
+void AttributeTraits<STextShadow>::words(Words& out) {
+    AttributeTraits<SNullableColor>::words(out);
+}
+
+void AttributeTraits<STextShadow>::parts(STextShadow const& value, Parts& out) {
+    out.add(u"offset") << value.getDx() << u" " << value.getDy();
+    out.add(u"blur") << value.getBlurRadius();
+    AttributeTraits<SNullableColor>::parts(value.getColor(), out);
 }
 
 } // namespace Xml

@@ -38,6 +38,12 @@ private:
     SNullableColor color;
 };
 
-template <> struct AttributeTraits<STextShadow> { static bool parse(STextShadow& value, std::u16string_view text); };
+template <> struct XMLATTR_API AttributeTraits<STextShadow> {
+    static bool parse(STextShadow& value, std::u16string_view text);
+    static constexpr bool printsEmpty = true;
+    static constexpr Description describe{{u"up to three SVG lengths and a paint"}, {u"1 2 3 red"}, false};
+    static void words(Words& out);
+    static void parts(STextShadow const& value, Parts& out);
+};
 
 } // namespace Xml

@@ -4,6 +4,7 @@
 #include "xmlattr/core/Format.h"
 #include "xmlattr/core/NumberReader.h"
 #include "xmlattr/core/Text.h"
+#include "xmlattr/measures/Units.h"
 #include "xmlattr/svg/ListGrowth.h"
 
 #include <algorithm>
@@ -107,6 +108,22 @@ bool read(Transform& transform, char16_t const*& at, char16_t const* end, bool i
     return count >= form->least;
 }
 
+void addTransform(Parts& out, Transform const& transform) {
+    switch (transform.type) {
+    case TransformType::Matrix:
+        out.add(u"matrix") << transform.matrix[0];
+        for (int i = 1; i < 6; ++i) out << u" " << transform.matrix[i];
+        break;
+    case TransformType::Translate: out.add(u"translate") << *transform.tx << u" " << *transform.ty; break;
+    case TransformType::Scale: out.add(u"scale") << transform.sx << u" " << transform.sy; break;
+    case TransformType::Rotate:
+        out.add(u"rotate") << transform.angle << u" around " << *transform.cx << u" " << *transform.cy;
+        break;
+    case TransformType::SkewX: out.add(u"skewX") << transform.skewAngleX; break;
+    case TransformType::SkewY: out.add(u"skewY") << transform.skewAngleY; break;
+    }
+}
+
 } // namespace
 
 bool Transform::operator==(Transform const& other) const {
@@ -147,6 +164,11 @@ bool AttributeTraits<Core::Vector<Transform>>::parse(Core::Vector<Transform>& va
         }
         ++at;
     }
+}
+
+void AttributeTraits<Core::Vector<Transform>>::parts(Core::Vector<Transform> const& value, Parts& out) {
+    out.add(u"items") << static_cast<int>(value.size());
+    for (Transform const& transform : value) addTransform(out, transform);
 }
 
 } // namespace Xml

@@ -74,9 +74,16 @@ struct XMLATTR_API Transform {
 // What cannot be read is an identity in its place; what has no ")" at the end of the text is dropped.
 // Never refuses a text. Intended: appends to the list, since callers who want a fresh one parse into
 // a fresh attribute. There is no printer.
-template <> struct AttributeTraits<Core::Vector<Transform>> {
+template <> struct XMLATTR_API AttributeTraits<Core::Vector<Transform>> {
     static bool parse(Core::Vector<Transform>& value, std::u16string_view text);
     static constexpr bool refusesComparison = true;
+    static constexpr bool printsEmpty = true;
+    static constexpr Description describe{
+        .forms = {u"matrix(), translate(), scale(), rotate(), skewX() and skewY() in any number"},
+        .examples = {u"translate(1,2) rotate(45deg,1,2),matrix(1 0 0 1 0 0) skewX(3)", u"scale(2)"},
+        .readsList = true,
+        .readsAnyText = true};
+    static void parts(Core::Vector<Transform> const& value, Parts& out);
 };
 
 } // namespace Xml

@@ -73,7 +73,7 @@ void Checker::check(Occurrence const& occurrence) {
 }
 
 void Checker::checkValue(Occurrence const& occurrence, Xml::CatalogueEntry const& entry) {
-    if (entry.isList && occurrence.value.size() > longestList) {
+    if (entry.type() && entry.type()->readsList() && occurrence.value.size() > longestList) {
         ++counts.tooLong;
         return;
     }
@@ -100,7 +100,7 @@ void Checker::checkValue(Occurrence const& occurrence, Xml::CatalogueEntry const
     finding.part = toUtf8(judgement.part);
     finding.problem = judgement.problem;
     for (Xml::AttributeType const* const type : judgement.tried) {
-        finding.types.emplace_back(type->name);
+        finding.types.emplace_back(type->name());
         if (finding.hints.variant.empty() && finding.hints.nearest.empty())
             finding.hints = hintsFor(*type, judgement.part.empty() ? text : judgement.part);
     }
@@ -129,9 +129,9 @@ void Checker::refuse(Occurrence const& occurrence, Finding finding) {
 }
 
 std::string Finding::message() const {
-    std::string line = attribute + "=" + inQuotes(shown(text)) + " on " + shown(element);
+    std::string line = attribute + "=" + inQuotes(printable(text)) + " on " + printable(element);
     if (!problem.empty()) return line + " " + problem;
-    line += part.empty() ? " is no " : ": " + inQuotes(shown(part)) + " is no ";
+    line += part.empty() ? " is no " : ": " + inQuotes(printable(part)) + " is no ";
     line += joinWith(types, "or");
     if (!hints.variant.empty()) line += "; " + inQuotes(hints.variant) + " is";
     if (!hints.accepted.empty()) line += "; accepted: " + joinWith(hints.accepted, "and");

@@ -2,9 +2,6 @@
 
 #include "text/Text.h"
 
-#include "xmlattr/catalogue/text/Words.h"
-
-#include "xmlattr/color/ColorNames.h"
 #include "xmlattr/core/Text.h"
 
 #include <algorithm>
@@ -57,19 +54,6 @@ std::vector<std::u16string> variantsOf(std::u16string_view text) {
     return {trimmed, solid, solidLower, lower, pointed, without(trimmed, u"\"'"), solidLower + u"pt"};
 }
 
-// The words that a type reads: keywords, names of colours, or what is one in the line of its syntax.
-std::vector<std::u16string> wordsOf(Xml::AttributeType const& type) {
-    std::vector<std::u16string> words;
-    for (std::u16string_view const word : type.keywords()) words.emplace_back(word);
-    if (!words.empty()) return words;
-    std::u16string const syntax = toUtf16(type.syntax());
-    for (std::u16string_view const word : Xml::splitValues(syntax, u","))
-        if (type.accepts(word)) words.emplace_back(word);
-    if (type.accepts(Xml::colorNames[0].word))
-        for (auto const& color : Xml::colorNames) words.emplace_back(color.word);
-    return words;
-}
-
 } // namespace
 
 std::u16string_view nearestWord(std::u16string_view text, std::vector<std::u16string_view> const& words) {
@@ -95,10 +79,10 @@ Hints hintsFor(Xml::AttributeType const& type, std::u16string_view text) {
                 hints.variant = toUtf8(variant);
                 break;
             }
-    for (std::u16string_view const word : type.keywords()) hints.accepted.push_back(toUtf8(word));
-    if (!hints.variant.empty()) return hints;
-    auto const words = wordsOf(type);
-    hints.nearest = toUtf8(nearestWord(Core::trim(text), {words.begin(), words.end()}));
+    auto const words = type.words();
+    if (type.isEnumeration())
+        for (std::u16string_view const word : words) hints.accepted.push_back(toUtf8(word));
+    if (hints.variant.empty()) hints.nearest = toUtf8(nearestWord(Core::trim(text), words));
     return hints;
 }
 

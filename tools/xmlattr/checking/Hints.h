@@ -1,7 +1,7 @@
 // What the author of a refused text may have meant.
 #pragma once
 
-#include "xmlattr/catalogue/types/AttributeTypes.h"
+#include "xmlattr/catalogue/AttributeType.h"
 
 #include <string>
 #include <vector>

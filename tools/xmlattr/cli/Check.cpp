@@ -33,7 +33,7 @@ public:
         ++done;
         if (!on) return;
         flushOutput();
-        std::fprintf(stderr, "\r\x1b[K[%zu/%zu] %s", done, total, shown(file).c_str());
+        std::fprintf(stderr, "\r\x1b[K[%zu/%zu] %s", done, total, printable(file).c_str());
     }
 
     void clear() const {

@@ -38,15 +38,6 @@ int nothingMatches() {
     return 2;
 }
 
-// The syntax, or the keywords of an enumeration, or both.
-std::string syntaxOf(Xml::AttributeType const& type) {
-    std::vector<std::string> words;
-    for (std::u16string_view const word : type.keywords()) words.push_back(word.empty() ? "\"\"" : toUtf8(word));
-    std::string text = joinWith(words, "or");
-    if (type.syntax().empty()) return text;
-    return text + (text.empty() ? "" : "; ") + std::string(type.syntax());
-}
-
 struct ElementRow {
     std::string_view element;
     Xml::CatalogueEntry const* entry;
@@ -99,13 +90,15 @@ std::string textLine(std::string_view element, Xml::CatalogueEntry const& entry)
 
 int types(TypesOptions const& options) {
     bool isAny = false;
-    for (Xml::AttributeType const& type : Xml::attributeTypes()) {
-        if (!contains(type.name, options.name)) continue;
+    for (Xml::AttributeType const& type : Xml::AttributeType::all()) {
+        if (!contains(type.name(), options.name)) continue;
         isAny = true;
         if (options.format == OutputFormat::Json)
-            print(Json({{"type", type.name}, {"public", type.isPublic}, {"syntax", syntaxOf(type)}}).dump() + "\n");
+            print(
+                Json({{"type", type.name()}, {"public", type.isPublic()}, {"syntax", type.syntax().toUtf8()}}).dump() +
+                "\n");
         else
-            print(trimmedLine(padded(type.name, 30) + syntaxOf(type)));
+            print(trimmedLine(padded(type.name(), 30) + type.syntax().toUtf8()));
     }
     flushOutput();
     return isAny ? 0 : nothingMatches();

@@ -11,22 +11,22 @@ namespace Command {
 namespace {
 
 bool isCalled(Xml::AttributeType const& type, std::string_view name) {
-    std::string_view bare = type.name;
+    std::string_view bare = type.name();
     if (bare.starts_with("SmartPtr<")) bare = bare.substr(9, bare.size() - 10);
     std::size_t const space = bare.rfind(':');
-    return Xml::equalsNoCase(name, type.name) || Xml::equalsNoCase(name, bare) ||
+    return Xml::equalsNoCase(name, type.name()) || Xml::equalsNoCase(name, bare) ||
            (space != std::string_view::npos && Xml::equalsNoCase(name, bare.substr(space + 1)));
 }
 
 } // namespace
 
 Xml::AttributeType const* findNamedType(std::string_view name) {
-    for (Xml::AttributeType const& type : Xml::attributeTypes())
+    for (Xml::AttributeType const& type : Xml::AttributeType::all())
         if (isCalled(type, name)) return &type;
     std::vector<std::u16string> names;
-    for (Xml::AttributeType const& type : Xml::attributeTypes()) names.push_back(toUtf16(type.name));
+    for (Xml::AttributeType const& type : Xml::AttributeType::all()) names.push_back(toUtf16(type.name()));
     std::u16string_view const nearest = nearestWord(toUtf16(name), {names.begin(), names.end()});
-    printError("xmlattr: no value type is called " + inQuotes(shown(name)) +
+    printError("xmlattr: no value type is called " + inQuotes(printable(name)) +
                (nearest.empty() ? "" : "; did you mean " + inQuotes(toUtf8(nearest)) + "?") + "\n");
     return nullptr;
 }

@@ -1,7 +1,7 @@
 // The value type that a user of the command names.
 #pragma once
 
-#include "xmlattr/catalogue/types/AttributeTypes.h"
+#include "xmlattr/catalogue/AttributeType.h"
 
 #include <string_view>
 

@@ -25,32 +25,55 @@ std::string swatch(std::uint32_t rgb) {
     return colored("      ", code, true);
 }
 
-void printText(ShowOptions const& options, Xml::AttributeType const& type, Xml::Shown const& shown,
-               Hints const& hints) {
-    print(row("type", type.name) + row("text", inQuotes(options.text)) +
-          row("accepted", shown.accepted ? "yes" : "no"));
-    if (shown.accepted)
-        print(row("prints", inQuotes(shown.printed.toUtf8())));
-    else {
-        if (!hints.variant.empty()) print(row("near", inQuotes(hints.variant) + " is accepted"));
-        if (!hints.accepted.empty()) print(row("keywords", joinWith(hints.accepted, "and")));
-        if (!hints.nearest.empty()) print(row("nearest", inQuotes(hints.nearest)));
-        if (std::string_view const syntax = type.syntax(); !syntax.empty()) print(row("syntax", syntax));
+// What a type makes of a text.
+struct Reading {
+    bool accepted = false;
+    std::string printed;
+    Xml::Parts parts;
+    bool isEqual = false; // to the other text
+    Hints hints;          // of a refused text
+};
+
+Reading read(Xml::AttributeType const& type, Core::String const& text, Core::String const& other) {
+    Reading reading;
+    Xml::AnyAttribute attribute(type);
+    reading.accepted = attribute.parseValue(text);
+    if (reading.accepted) {
+        reading.printed = attribute.getValueAsString().toUtf8();
+        reading.parts = attribute.parts();
+        reading.isEqual = attribute.isEqual(other);
+    } else {
+        reading.hints = hintsFor(type, text);
     }
-    for (Xml::Part const& part : shown.parts) print(row(part.name, part.value));
-    if (shown.rgb && usesTrueColor(options.color)) print(row("swatch", swatch(*shown.rgb)));
-    if (options.other) print(row("equal", inQuotes(*options.other) + (shown.equal.value_or(false) ? ": yes" : ": no")));
+    return reading;
 }
 
-void printJson(ShowOptions const& options, Xml::AttributeType const& type, Xml::Shown const& shown,
-               Hints const& hints) {
-    Json line = {{"type", type.name}, {"text", options.text}, {"accepted", shown.accepted}};
-    if (shown.accepted) line["prints"] = shown.printed.toUtf8();
+void printText(ShowOptions const& options, Xml::AttributeType const& type, Reading const& reading) {
+    Hints const& hints = reading.hints;
+    print(row("type", type.name()) + row("text", inQuotes(options.text)) +
+          row("accepted", reading.accepted ? "yes" : "no"));
+    if (reading.accepted)
+        print(row("prints", inQuotes(reading.printed)));
+    else {
+        if (!hints.variant.empty()) print(row("near", inQuotes(hints.variant) + " is accepted"));
+        if (!hints.nearest.empty()) print(row("nearest", inQuotes(hints.nearest)));
+        print(row("reads", type.syntax().toUtf8()));
+    }
+    for (Xml::Part const& part : reading.parts.list) print(row(toUtf8(part.name), toUtf8(part.value)));
+    if (reading.parts.rgb && usesTrueColor(options.color)) print(row("swatch", swatch(*reading.parts.rgb)));
+    if (options.other) print(row("equal", inQuotes(*options.other) + (reading.isEqual ? ": yes" : ": no")));
+}
+
+void printJson(ShowOptions const& options, Xml::AttributeType const& type, Reading const& reading) {
+    Hints const& hints = reading.hints;
+    Json line = {{"type", type.name()}, {"text", options.text}, {"accepted", reading.accepted}};
+    if (reading.accepted) line["prints"] = reading.printed;
     if (!hints.variant.empty()) line["acceptedVariant"] = hints.variant;
     if (!hints.accepted.empty()) line["keywords"] = hints.accepted;
     if (!hints.nearest.empty()) line["nearest"] = hints.nearest;
-    for (Xml::Part const& part : shown.parts) line["parts"].push_back({{"name", part.name}, {"value", part.value}});
-    if (options.other) line["equal"] = shown.equal.value_or(false);
+    for (Xml::Part const& part : reading.parts.list)
+        line["parts"].push_back({{"name", toUtf8(part.name)}, {"value", toUtf8(part.value)}});
+    if (options.other) line["equal"] = reading.isEqual;
     print(line.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n");
 }
 
@@ -61,15 +84,13 @@ int show(ShowOptions const& options) {
     if (!type) return 2;
     std::vector<std::string> warnings;
     Core::Log::setHandler([&](Core::String const& message) { warnings.push_back(message.toUtf8()); });
-    Core::String const text = Core::String::fromUtf8(options.text);
-    Core::String const other = Core::String::fromUtf8(options.other.value_or(""));
-    Xml::Shown const shown = type->show(text, options.other ? &other : nullptr);
+    Reading const reading =
+        read(*type, Core::String::fromUtf8(options.text), Core::String::fromUtf8(options.other.value_or("")));
     Core::Log::setHandler([](Core::String const&) {});
-    Hints const hints = shown.accepted ? Hints() : hintsFor(*type, text);
     for (std::string const& warning : warnings) printError("xmlattr: warning: " + warning + "\n");
-    (options.format == OutputFormat::Json ? printJson : printText)(options, *type, shown, hints);
+    (options.format == OutputFormat::Json ? printJson : printText)(options, *type, reading);
     flushOutput();
-    return shown.accepted ? 0 : 1;
+    return reading.accepted ? 0 : 1;
 }
 
 } // namespace Command

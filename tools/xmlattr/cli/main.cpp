@@ -31,7 +31,7 @@ void addChoice(CLI::App& app, std::string const& name, Value& value, std::string
             if (word == text) return std::string();
             words.push_back(word);
         }
-        return inQuotes(shown(text)) + " is not " + joinWith(words, "or");
+        return inQuotes(printable(text)) + " is not " + joinWith(words, "or");
     };
     app.add_option_function<std::string>(name, choose, help)->check(check)->type_name(placeholder);
 }
@@ -50,7 +50,7 @@ void addColor(CLI::App& app, ColorMode& color) {
 
 std::string checkCount(std::string const& text) {
     bool const isCount = !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
-    return isCount ? "" : inQuotes(shown(text)) + " is no whole number";
+    return isCount ? "" : inQuotes(printable(text)) + " is no whole number";
 }
 
 int run(int argc, char** argv) {

@@ -39,7 +39,7 @@ std::string escaped(unsigned char control) {
 
 } // namespace
 
-std::string shown(std::string_view utf8) {
+std::string printable(std::string_view utf8) {
     constexpr std::size_t most = 80;
     std::string text;
     std::size_t count = 0;

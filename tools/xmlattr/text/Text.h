@@ -18,7 +18,7 @@ constexpr std::size_t utf8Length(char32_t c) {
 }
 
 // What a message shows of a text: at most 80 code points, control characters as \u{..}.
-std::string shown(std::string_view utf8);
+std::string printable(std::string_view utf8);
 
 std::string inQuotes(std::string_view text);
 

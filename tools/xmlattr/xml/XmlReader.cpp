@@ -309,7 +309,7 @@ private:
         case XML_ERROR_UNKNOWN_ENCODING:
         case XML_ERROR_INCORRECT_ENCODING:
             return failed("encoding", unknownEncoding.empty() ? "the file is not in the encoding that it declares"
-                                                              : "encoding " + shown(unknownEncoding) +
+                                                              : "encoding " + printable(unknownEncoding) +
                                                                     " is not read; " + std::string(readEncodings));
         case XML_ERROR_AMPLIFICATION_LIMIT_BREACH:
             return failed("limit", "entities expand to more than 100 times the size of the file");

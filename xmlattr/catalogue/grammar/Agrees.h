@@ -3,7 +3,7 @@
 
 #include "xmlattr/catalogue/grammar/Meaning.h"
 
-#include "xmlattr/Values.h"
+#include "xmlattr/Instantiations.h"
 
 #include <initializer_list>
 

@@ -88,7 +88,7 @@ bool isLanguage(std::u16string_view text) {
 
 // rgb(...) with three integers or three percentages, # with three or six digits, and the names in
 // any case, all of which the colour type knows in lower case.
-bool isColor(std::u16string_view text, Accepts accepts) {
+bool isColor(std::u16string_view text, Accepts const& accepts) {
     constexpr std::u16string_view opening = u"rgb(";
     if (text.starts_with(u'#'))
         return (text.size() == 4 || text.size() == 7) && std::all_of(text.begin() + 1, text.end(), [](char16_t unit) {
@@ -114,7 +114,7 @@ bool isColor(std::u16string_view text, Accepts accepts) {
 
 class Row {
 public:
-    Row(std::span<LegalToken const> tokens, Vocabulary vocabulary, Accepts accepts)
+    Row(std::span<LegalToken const> tokens, Vocabulary vocabulary, Accepts const& accepts)
         : tokens(tokens), ignoresCase(vocabulary == Vocabulary::Svg), accepts(accepts) {}
 
     bool allows(std::u16string_view text) const {
@@ -165,12 +165,13 @@ private:
 
     std::span<LegalToken const> tokens;
     bool ignoresCase;
-    Accepts accepts;
+    Accepts const& accepts;
 };
 
 } // namespace
 
-bool isAlsoLegal(std::span<LegalToken const> tokens, Vocabulary vocabulary, std::u16string_view text, Accepts accepts) {
+bool isAlsoLegal(std::span<LegalToken const> tokens, Vocabulary vocabulary, std::u16string_view text,
+                 Accepts const& accepts) {
     return Row(tokens, vocabulary, accepts).allows(text);
 }
 

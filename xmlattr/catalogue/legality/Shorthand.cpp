@@ -1,5 +1,6 @@
 #include "xmlattr/catalogue/legality/Shorthand.h"
 
+#include "xmlattr/catalogue/AttributeType.h"
 #include "xmlattr/catalogue/legality/Expression.h"
 #include "xmlattr/catalogue/legality/ValueOfRow.h"
 #include "xmlattr/catalogue/text/Words.h"
@@ -63,9 +64,9 @@ private:
         bool hasPassed = false;
         tried.clear();
         for (CatalogueEntry const* const longhand : longhands) {
-            // A URL can be any text; among other values only these two forms are one.
+            // Of what may be any text, only these two forms are a value among others.
             bool const isOther = !part.starts_with(u"url(") && part != u"none";
-            if (longhand->isUrl && longhands.size() > 1 && isOther) continue;
+            if (longhand->type()->readsAnyText() && longhands.size() > 1 && isOther) continue;
             Verdict const verdict = judgeValue(*longhand, part);
             if (verdict == Verdict::Read) return hasRead = true;
             hasPassed |= verdict == Verdict::PassedOver;

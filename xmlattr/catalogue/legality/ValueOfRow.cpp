@@ -1,9 +1,9 @@
 #include "xmlattr/catalogue/legality/ValueOfRow.h"
 
+#include "xmlattr/catalogue/AttributeType.h"
 #include "xmlattr/catalogue/legality/AlsoLegal.h"
 #include "xmlattr/catalogue/legality/Expression.h"
 #include "xmlattr/catalogue/text/Words.h"
-#include "xmlattr/catalogue/types/AttributeTypes.h"
 
 namespace Xml {
 
@@ -23,11 +23,12 @@ Verdict judgeValue(CatalogueEntry const& entry, std::u16string_view text) {
     text = trimXmlSpace(text);
     bool const isFo = entry.vocabulary == Vocabulary::Fo;
     if (equalsWord(text, "inherit", !isFo)) return Verdict::PassedOver;
-    if (isAlsoLegal(entry.alsoLegal, entry.vocabulary, text, type.accepts)) return Verdict::PassedOver;
+    auto const accepts = [&](std::u16string_view item) { return type.accepts(item); };
+    if (isAlsoLegal(entry.alsoLegal, entry.vocabulary, text, accepts)) return Verdict::PassedOver;
     if (isFo && isZero(text) && type.accepts(u"0pt")) return Verdict::PassedOver;
-    if (isFo && (type.isEnumeration ? isCopy(text) : isExpression(text))) return Verdict::PassedOver;
+    if (isFo && (type.isEnumeration() ? isCopy(text) : isExpression(text))) return Verdict::PassedOver;
     // White space around a list is part of its grammar in SVG 1.1.
-    return entry.isList && type.accepts(text) ? Verdict::PassedOver : Verdict::Refused;
+    return type.readsList() && type.accepts(text) ? Verdict::PassedOver : Verdict::Refused;
 }
 
 } // namespace Xml

@@ -1,0 +1,17 @@
+// The printers of Core::Format for texts that are written in pieces.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace Core {
+
+// Each prints after what a text holds already.
+void appendMeasure(std::u16string& out, double value, std::u16string_view suffix = {});
+void appendShortest(std::u16string& out, float value);
+void appendShortest(std::u16string& out, double value);
+void appendShortest(std::u16string& out, int value);
+// appendMeasure without its fast path: the reference from the standard library.
+void appendMeasureSlowly(std::u16string& out, double value, std::u16string_view suffix = {});
+
+} // namespace Core
