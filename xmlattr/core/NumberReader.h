@@ -1,6 +1,7 @@
 // The one reader of decimal numbers in UTF-16 text. Format and the list parsers build on it.
 #pragma once
 
+#include "xmlattr/core/Export.h"
 #include "xmlattr/core/Text.h"
 
 #include <bit>
@@ -68,11 +69,11 @@ inline char16_t const* scanPlain(char16_t const* unit, char16_t const* end, floa
 }
 
 // Scans the longest number at the very start of the text: [sign] digits [. digits] [exponent].
-Decimal scanDecimal(std::u16string_view text) noexcept;
+XMLATTR_API Decimal scanDecimal(std::u16string_view text) noexcept;
 
 // The float nearest to a scanned number, ties to even. False when it is too large for a float;
 // then `value` is untouched. A number too small for a float gives 0.
-bool toFloat(Decimal const& number, float& value) noexcept;
+XMLATTR_API bool toFloat(Decimal const& number, float& value) noexcept;
 
 // toFloat without its fast path: the same answer for every number. It needs no other reader of numbers,
 // since not every standard library has one for floats that is exact and independent of the locale.
