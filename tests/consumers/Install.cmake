@@ -10,7 +10,8 @@ endfunction()
 install()
 execute_process(COMMAND ${CMAKE_COMMAND} -DBUILD=${BUILD} -P ${SOURCE}/cmake/Uninstall.cmake
   OUTPUT_QUIET ERROR_QUIET COMMAND_ERROR_IS_FATAL ANY)
-file(GLOB_RECURSE remaining LIST_DIRECTORIES true ${first}/*xmlattr*)
+file(GLOB_RECURSE remaining LIST_DIRECTORIES true ${first}/*)
+list(FILTER remaining INCLUDE REGEX "xmlattr[^/]*$") # folders of others stay, empty or not
 if(remaining)
   message(FATAL_ERROR "the target uninstall leaves ${remaining}")
 endif()
