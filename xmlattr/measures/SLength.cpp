@@ -101,6 +101,7 @@ void AttributeTraits<SNullableLength>::parts(SNullableLength const& value, Parts
 void AttributeTraits<Core::Vector<SLength>>::words(Words& out) {
     out.add(none);
 }
+
 void AttributeTraits<Core::Vector<SLength>>::parts(Core::Vector<SLength> const& value, Parts& out) {
     out.add(u"items") << static_cast<int>(value.size());
     for (SLength const& length : value) AttributeTraits<SLength>::parts(length, out);
@@ -109,8 +110,9 @@ void AttributeTraits<Core::Vector<SLength>>::parts(Core::Vector<SLength> const& 
 Parts& operator<<(Parts& out, SLength const& length) {
     if (length.getUnit() == SLength::Percent)
         return out << Core::Format::toMeasure(double{length.getSize()} * 100, u"%");
-    auto const* const row = findUnit(sLengthUnitRows, length.getUnit());
-    return out << length.getSize() << (row ? row->suffix : std::u16string_view());
+    out << length.getSize();
+    std::size_t const row = rowOfUnit(length.getUnit());
+    return length.getUnit() == SLength::UserUnit || row == Core::noWord ? out : out << Units::word(row);
 }
 
 } // namespace Xml
