@@ -98,8 +98,8 @@ std::size_t TranscodedSource::read(std::span<char> buffer) {
         std::memmove(state->input.data(), in, state->pending);
         // The last character may be cut between two blocks, but not at the end.
         if (problem == EILSEQ || (problem == EINVAL && state->isAtEnd))
-            failed =
-                SourceFailure{"encoding", "the file is not in " + shown(encoding) + ", the encoding that it declares"};
+            failed = SourceFailure{"encoding",
+                                   "the file is not in " + printable(encoding) + ", the encoding that it declares"};
     }
     return static_cast<std::size_t>(out - buffer.data());
 }

@@ -316,7 +316,7 @@ private:
         case XML_ERROR_NO_MEMORY: return failed("limit", "more memory than the size of the file explains");
         case XML_ERROR_UNBOUND_PREFIX:
             if (std::string const prefix = unboundPrefix(); !prefix.empty())
-                return failed("malformed", "the prefix " + shown(prefix) + " is not declared");
+                return failed("malformed", "the prefix " + printable(prefix) + " is not declared");
             return failed("malformed", "a prefix is not declared");
         case XML_ERROR_NO_ELEMENTS:
             return failed("malformed", depth > 0 ? "the file ends inside of an element" : "no element in the file");
