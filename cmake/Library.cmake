@@ -28,6 +28,8 @@ function(xmlattr_add_kind kind target)
     CXX_VISIBILITY_PRESET hidden
     VISIBILITY_INLINES_HIDDEN ON
     POSITION_INDEPENDENT_CODE ON)
+  # A symbol that is unique in the program would keep a library that has it from being freed.
+  target_compile_options(${target}_objects PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
 
   add_library(${target} ${kind} $<TARGET_OBJECTS:${target}_objects>)
   target_compile_features(${target} PUBLIC cxx_std_20)
@@ -42,8 +44,6 @@ function(xmlattr_add_kind kind target)
     SOVERSION ${PROJECT_VERSION_MAJOR})
   if(kind STREQUAL STATIC)
     target_compile_definitions(${target}_objects PUBLIC XMLATTR_STATIC)
-    # A symbol that is unique in the program would keep a plugin that contains the archive from being freed.
-    target_compile_options(${target}_objects PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
     target_compile_definitions(${target} INTERFACE XMLATTR_STATIC)
     set(suffix "")
     if(XMLATTR_SHARED)

@@ -33,9 +33,10 @@ struct XMLATTR_API Words {
     Core::Vector<std::u16string_view> list;
 
     void add(std::u16string_view word);
-    // The words of a table.
+    // The words of a table; what begins a call is none.
     template <class Rows> void addAll(Rows const& rows) {
-        for (auto const& row : rows) add(row.word);
+        for (auto const& row : rows)
+            if (!row.word.ends_with(u'(')) add(row.word);
     }
 };
 
