@@ -6,45 +6,25 @@ namespace Core {
 
 namespace {
 
-std::uint64_t load(char16_t const* from) {
-    std::uint64_t units;
-    std::memcpy(&units, from, sizeof units);
-    return units;
-}
-
-// Four code units with the letters of ASCII in lower case. Others may change, but no word of a table has any.
-std::uint64_t foldUnits(std::uint64_t units) {
-    constexpr std::uint64_t each = 0x0001'0001'0001'0001;
-    std::uint64_t const low = units & each * 0x7F;
-    std::uint64_t const fromA = low + each * (0x80 - u'A'), afterZ = low + each * (0x80 - u'Z' - 1);
-    return units | (fromA & ~afterZ & each * 0x80) >> 2;
-}
-
-// detail::isWord for letters of either case, four at a time; the last four overlap those before.
-bool isWordInAnyCase(char16_t const* word, std::size_t length, std::u16string_view text) {
-    constexpr std::size_t step = sizeof(std::uint64_t) / sizeof(char16_t);
-    if (length < step || length != text.size()) return detail::isWord<Case::Any>(word, length, text);
-    auto const differ = [&](std::size_t at) { return foldUnits(load(word + at)) != foldUnits(load(text.data() + at)); };
-    for (std::size_t at = 0; at < length - step; at += step)
-        if (differ(at)) return false;
-    return !differ(length - step);
+// The rows that the same texts may be, from one on. On its own, since nearly no row has another.
+template <Case rule, class Unit>
+[[gnu::noinline]] std::size_t searchFrom(std::size_t row, PackedWord const* words, Unit const* letters,
+                                         std::basic_string_view<Unit> text) {
+    while (!detail::isWord<rule>(letters + words[row].start, words[row].length(), text)) {
+        row = words[row].next();
+        if (row == 0) return noWord;
+    }
+    return row;
 }
 
 template <Case rule, class Unit>
 std::size_t search(PackedWord const* words, Unit const* letters, std::uint16_t const* firstRows,
                    std::basic_string_view<Unit> text, std::uint64_t factor) {
-    std::size_t row = firstRows[detail::slotOf(detail::markOf<rule>(text), factor)];
-    auto const isWord = [&] {
-        if constexpr (rule == Case::Any)
-            return isWordInAnyCase(letters + words[row].start, words[row].length, text);
-        else
-            return detail::isWord<rule>(letters + words[row].start, words[row].length, text);
-    };
-    while (!isWord()) {
-        row = words[row].next;
-        if (row == 0) return noWord;
-    }
-    return row;
+    std::size_t const row = firstRows[detail::slotOf(detail::markOf<rule>(text), factor)];
+    PackedWord const word = words[row];
+    if (word.lengthAndNext != text.size())
+        return word.next() == 0 ? noWord : searchFrom<rule>(row, words, letters, text);
+    return detail::isWord<rule>(letters + word.start, text.size(), text) ? row : noWord;
 }
 
 } // namespace

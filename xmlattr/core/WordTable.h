@@ -31,7 +31,15 @@ template <class Value = NoValue, class Unit = char16_t> struct WordRow {
 // The place of a word among the letters of all words of its table, and the number of the next row that the same
 // texts may be; 0 when there is none.
 struct PackedWord {
-    std::uint16_t start, length, next;
+    std::uint32_t lengthAndNext; // in one, so that one comparison tells that a length fits and no row is next
+    std::uint16_t start;
+
+    constexpr PackedWord(std::size_t start = 0, std::size_t length = 0)
+        : lengthAndNext(static_cast<std::uint32_t>(length)), start(static_cast<std::uint16_t>(start)) {}
+
+    constexpr std::size_t length() const { return lengthAndNext & 0xFFFF; }
+    constexpr std::size_t next() const { return lengthAndNext >> 16; }
+    constexpr void setNext(std::size_t row) { lengthAndNext |= static_cast<std::uint32_t>(row) << 16; }
 };
 
 inline constexpr std::size_t noWord = SIZE_MAX;
@@ -51,26 +59,22 @@ XMLATTR_API std::size_t findNumber(std::int32_t const* values, std::size_t count
 
 namespace detail {
 
-template <Case rule, class Unit> constexpr char16_t foldCase(Unit unit) {
-    auto const folded = static_cast<char16_t>(unit);
-    return rule == Case::Any ? toLower(folded) : folded;
-}
-
 template <Case rule, class Unit>
 constexpr bool isWord(Unit const* word, std::size_t length, std::basic_string_view<Unit> text) {
     if (length != text.size()) return false;
-    if constexpr (rule == Case::Exact)
-        return std::equal(text.begin(), text.end(), word);
-    else
-        return std::equal(text.begin(), text.end(), word,
-                          [](Unit a, Unit b) { return foldCase<rule>(a) == foldCase<rule>(b); });
+    if (std::equal(text.begin(), text.end(), word)) return true; // first, since most are written as they are listed
+    return rule == Case::Any &&
+           std::equal(text.begin(), text.end(), word, [](char16_t a, char16_t b) { return toLower(a) == toLower(b); });
 }
 
 // The length of a word and five of its letters, which stand where words that are listed together differ.
 template <Case rule, class Unit> constexpr std::uint64_t markOf(std::basic_string_view<Unit> word) {
     std::size_t const size = word.size();
     if (size == 0) return 0;
-    auto const at = [&](std::size_t index) { return std::uint64_t{foldCase<rule>(word[index])} & 0xFF; };
+    constexpr unsigned int lowerCase = rule == Case::Any ? 0x20 : 0;
+    auto const at = [&](std::size_t index) {
+        return std::uint64_t{(static_cast<char16_t>(word[index]) | lowerCase) & 0xFF};
+    };
     return at(size > 1) << 40 | at(size / 3) << 32 | at(size * 9 / 16) << 24 | at(size * 3 / 4) << 16 |
            at(size - 1) << 8 | (size & 0xFF);
 }
@@ -100,14 +104,14 @@ template <class Value, class Unit, std::size_t count, std::size_t letterCount> s
     template <class Rows> consteval explicit PackedWords(Rows const& rows) {
         std::uint16_t start = 0;
         for (std::size_t i = 0; i < count; ++i) {
-            words[i] = {start, static_cast<std::uint16_t>(rows[i].word.size()), 0};
+            words[i] = {start, rows[i].word.size()};
             for (Unit const unit : rows[i].word) letters[start++] = unit;
             values[i] = static_cast<typename Stored<Value>::type>(rows[i].value);
         }
     }
 
     constexpr std::basic_string_view<Unit> word(std::size_t row) const {
-        return {letters.data() + words[row].start, words[row].length};
+        return {letters.data() + words[row].start, words[row].length()};
     }
 };
 
@@ -142,7 +146,7 @@ struct WordIndex : PackedWords<Value, Unit, count, letterCount> {
     }
 
 private:
-    static consteval std::size_t countShared(std::array<std::uint64_t, count> const& marks, std::uint64_t factor) {
+    static constexpr std::size_t countShared(std::array<std::uint64_t, count> const& marks, std::uint64_t factor) {
         std::array<bool, std::size_t{1} << slotBits> taken{};
         std::size_t shared = 0;
         for (std::uint64_t const mark : marks) {
@@ -155,7 +159,7 @@ private:
 
     // An empty slot holds the first row, which no text of that slot is. Nothing links to the first row, since it
     // comes first in its own slot.
-    consteval void fillSlots(std::array<std::uint64_t, count> const& marks) {
+    constexpr void fillSlots(std::array<std::uint64_t, count> const& marks) {
         std::array<bool, std::size_t{1} << slotBits> taken{};
         for (std::size_t i = 0; i < count; ++i) {
             std::size_t const slot = slotOf(marks[i], factor);
@@ -165,11 +169,12 @@ private:
                 continue;
             }
             PackedWord* last = &this->words[firstRows[slot]];
-            for (;; last = &this->words[last->next]) {
-                if (isWord<rule>(this->letters.data() + last->start, last->length, this->word(i))) hasDuplicates = true;
-                if (last->next == 0) break;
+            for (;; last = &this->words[last->next()]) {
+                if (isWord<rule>(this->letters.data() + last->start, last->length(), this->word(i)))
+                    hasDuplicates = true;
+                if (last->next() == 0) break;
             }
-            last->next = static_cast<std::uint16_t>(i);
+            last->setNext(i);
         }
     }
 };
@@ -276,7 +281,7 @@ private:
         auto const& table = WordTable::packed;
         std::size_t row = table.firstRows[detail::slotOf(number, table.factor)];
         while (numbers[row] != number) {
-            row = table.words[row].next;
+            row = table.words[row].next();
             if (row == 0) return noWord;
         }
         return row;

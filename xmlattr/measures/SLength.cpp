@@ -18,7 +18,7 @@ constexpr std::u16string_view none = u"none";
 } // namespace
 
 float SLength::pxSize() const {
-    if (unit == Percent) return size;
+    if (unit == UserUnit || unit == Percent) return size;
     std::size_t const row = rowOfUnit(unit);
     if (row != Core::noWord) return Units::value(row).toPixels.of(size);
     throw Core::UnreacheableCodeException("LengthAttribute", __LINE__);

@@ -53,9 +53,9 @@ using Units = Core::WordTable<unitRows>;
 
 // The number of the row of an enumerator, or noWord.
 template <class E> constexpr std::size_t rowOfUnit(E unit) {
-    std::size_t row = 0;
-    while (row < Units::size && Units::value(row).as<E>() != unit) ++row;
-    return row < Units::size ? row : Core::noWord;
+    for (std::size_t row = 0; row < Units::size; ++row)
+        if (Units::value(row).as<E>() == unit) return row;
+    return Core::noWord;
 }
 
 // The unit of the type whose word is the text, or noUnit.

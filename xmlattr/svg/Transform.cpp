@@ -86,26 +86,28 @@ bool read(Transform& transform, char16_t const*& at, char16_t const* end, bool i
     auto const atEnd = [&] { return at == end || (inList && *at == u')'); };
 
     skipSpace();
-    auto const isLetter = [](char16_t unit) { return Core::toLower(unit) >= u'a' && Core::toLower(unit) <= u'z'; };
+    auto const isLetter = [](char16_t unit) { return (unit | 0x20u) - u'a' < 26; }; // of ASCII
     char16_t const* const wordEnd = std::find_if_not(at, end, isLetter);
-    auto const form = Core::WordTable<transformWords>::find({at, static_cast<std::size_t>(wordEnd - at)});
-    if (!form) return false;
+    using Words = Core::WordTable<transformWords>;
+    std::size_t const row = Words::indexOf({at, static_cast<std::size_t>(wordEnd - at)});
+    if (row == Core::noWord) return false;
+    TransformArguments const form = Words::value(row);
     at = wordEnd;
     skipSpace();
     if (at == end || *at != u'(') return false;
     ++at;
 
-    transform.type = form->type;
+    transform.type = form.type;
     int count = 0;
     while (!atEnd()) {
         skipSpace();
-        if (atEnd() || count == form->most) return false;
+        if (atEnd() || count == form.most) return false;
         Argument const argument(at, end);
         if (!store(transform, count++, argument)) return false;
         at = argument.end;
         if (!atEnd()) ++at;
     }
-    return count >= form->least;
+    return count >= form.least;
 }
 
 void addTransform(Parts& out, Transform const& transform) {
