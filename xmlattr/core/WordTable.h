@@ -95,11 +95,12 @@ constexpr std::size_t slotOf(std::uint64_t mark, std::uint64_t factor) {
 template <class Value, bool = std::is_enum_v<Value>> struct Stored { using type = Value; };
 template <class Value> struct Stored<Value, true> : std::underlying_type<Value> {};
 
-// Words and values without pointers, so that loading the library has nothing to relocate.
+// Words and values without pointers, so that loading the library has nothing to relocate. Plain arrays, since there
+// are many tables to compile.
 template <class Value, class Unit, std::size_t count, std::size_t letterCount> struct PackedWords {
-    std::array<PackedWord, count> words{};
-    std::array<Unit, letterCount + 1> letters{};
-    std::array<typename Stored<Value>::type, count> values{};
+    PackedWord words[count]{};
+    Unit letters[letterCount + 1]{};
+    typename Stored<Value>::type values[count]{};
 
     template <class Rows> consteval explicit PackedWords(Rows const& rows) {
         std::uint16_t start = 0;
@@ -111,7 +112,7 @@ template <class Value, class Unit, std::size_t count, std::size_t letterCount> s
     }
 
     constexpr std::basic_string_view<Unit> word(std::size_t row) const {
-        return {letters.data() + words[row].start, words[row].length()};
+        return {letters + words[row].start, words[row].length()};
     }
 };
 
@@ -121,15 +122,15 @@ template <Case rule, bool areNumbers, class Value, class Unit, std::size_t count
 struct WordIndex : PackedWords<Value, Unit, count, letterCount> {
     // So many slots that, in a list of up to 32 words, one factor in a few gives each word a slot of its own.
     static constexpr int slotBits =
-        std::max(1, static_cast<int>(std::bit_width(std::min(count* count / 4, 8 * count))));
+        (std::max)(1, static_cast<int>(std::bit_width((std::min)(count* count / 4, 8 * count))));
     static constexpr int mostTries = 64;
 
-    std::array<std::uint16_t, std::size_t{1} << slotBits> firstRows{};
+    std::uint16_t firstRows[std::size_t{1} << slotBits]{};
     std::uint64_t factor = 0;
     bool hasDuplicates = false;
 
     template <class Rows> consteval explicit WordIndex(Rows const& rows) : WordIndex::PackedWords(rows) {
-        std::array<std::uint64_t, count> marks{};
+        std::uint64_t marks[count]{};
         for (std::size_t i = 0; i < count; ++i)
             marks[i] = areNumbers ? numberOf(rows[i].word) : markOf<rule>(rows[i].word);
         std::uint64_t random = 0;
@@ -137,8 +138,8 @@ struct WordIndex : PackedWords<Value, Unit, count, letterCount> {
         for (int i = 0; i < mostTries && fewest > 0; ++i) {
             random = random * 6364136223846793005u + 1442695040888963407u;
             std::uint64_t const candidate = (random & ~std::uint64_t{63}) | (64 - slotBits);
-            std::size_t const shared = countShared(marks, candidate);
-            if (shared >= fewest) continue;
+            std::size_t const shared = countShared(marks, candidate, fewest);
+            if (shared == fewest) continue;
             fewest = shared;
             factor = candidate;
         }
@@ -146,11 +147,13 @@ struct WordIndex : PackedWords<Value, Unit, count, letterCount> {
     }
 
 private:
-    static constexpr std::size_t countShared(std::array<std::uint64_t, count> const& marks, std::uint64_t factor) {
-        std::array<bool, std::size_t{1} << slotBits> taken{};
+    // How many words are not the first of their slot, or the limit when there are as many.
+    static constexpr std::size_t countShared(std::uint64_t const (&marks)[count], std::uint64_t factor,
+                                             std::size_t limit) {
+        bool taken[std::size_t{1} << slotBits]{};
         std::size_t shared = 0;
-        for (std::uint64_t const mark : marks) {
-            bool& slot = taken[slotOf(mark, factor)];
+        for (std::size_t i = 0; i < count && shared < limit; ++i) {
+            bool& slot = taken[slotOf(marks[i], factor)];
             shared += slot;
             slot = true;
         }
@@ -159,8 +162,8 @@ private:
 
     // An empty slot holds the first row, which no text of that slot is. Nothing links to the first row, since it
     // comes first in its own slot.
-    constexpr void fillSlots(std::array<std::uint64_t, count> const& marks) {
-        std::array<bool, std::size_t{1} << slotBits> taken{};
+    constexpr void fillSlots(std::uint64_t const (&marks)[count]) {
+        bool taken[std::size_t{1} << slotBits]{};
         for (std::size_t i = 0; i < count; ++i) {
             std::size_t const slot = slotOf(marks[i], factor);
             if (!taken[slot]) {
@@ -170,8 +173,7 @@ private:
             }
             PackedWord* last = &this->words[firstRows[slot]];
             for (;; last = &this->words[last->next()]) {
-                if (isWord<rule>(this->letters.data() + last->start, last->length(), this->word(i)))
-                    hasDuplicates = true;
+                if (isWord<rule>(this->letters + last->start, last->length(), this->word(i))) hasDuplicates = true;
                 if (last->next() == 0) break;
             }
             last->setNext(i);
@@ -214,9 +216,10 @@ public:
     static constexpr std::size_t findValue(Value const& value) {
         auto const stored = static_cast<typename Stored<Value>::type>(value);
         if constexpr (std::is_same_v<decltype(stored), std::int32_t const>)
-            return findNumber(packed.values.data(), size, stored);
-        auto const found = std::find(packed.values.begin(), packed.values.end(), stored);
-        return found == packed.values.end() ? noWord : static_cast<std::size_t>(found - packed.values.begin());
+            return findNumber(packed.values, size, stored);
+        for (std::size_t row = 0; row < size; ++row)
+            if (packed.values[row] == stored) return row;
+        return noWord;
     }
 
 protected:
@@ -256,10 +259,9 @@ public:
     static std::size_t indexOf(Text text) {
         auto const& table = WordTable::packed;
         if constexpr (rule == Case::Any)
-            return findWordInAnyCase(table.words.data(), table.letters.data(), table.firstRows.data(), text,
-                                     table.factor);
+            return findWordInAnyCase(table.words, table.letters, table.firstRows, text, table.factor);
         else if constexpr (!detail::areNumbers<rows, rule>)
-            return findWord(table.words.data(), table.letters.data(), table.firstRows.data(), text, table.factor);
+            return findWord(table.words, table.letters, table.firstRows, text, table.factor);
         else
             return indexOfNumber(text.size() > longest ? 0 : detail::numberOf(text));
     }
@@ -271,7 +273,7 @@ public:
 
     // The value of the longest word that the text begins with.
     static std::optional<Value> findStart(Text text) {
-        for (std::size_t length = std::min(longest, text.size()); length > 0; --length)
+        for (std::size_t length = (std::min)(longest, text.size()); length > 0; --length)
             if (auto const value = find(text.substr(0, length))) return value;
         return std::nullopt;
     }

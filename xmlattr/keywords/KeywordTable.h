@@ -51,7 +51,9 @@ namespace detail {
 [[noreturn]] void throwUnknownKeyword();
 
 template <class E> consteval bool hasEmptyWord() {
-    return std::ranges::any_of(Keywords<E>::rows, [](KeywordRow<E> const& row) { return row.word.empty(); });
+    for (KeywordRow<E> const& row : Keywords<E>::rows)
+        if (row.word.empty()) return true;
+    return false;
 }
 
 template <class E> consteval bool hasDuplicatePrints() {
@@ -65,8 +67,13 @@ template <class E> using ReadTable = Core::WordTable<Keywords<E>::rows, Keywords
 
 // The words that a value prints.
 template <class E> struct PrintTable { using type = ReadTable<E>; };
-template <class E> requires requires { Keywords<E>::printRows; }
-struct PrintTable<E> { using type = Core::WordList<Keywords<E>::printRows>; };
+template <class E>
+requires requires {
+    Keywords<E>::printRows;
+}
+struct PrintTable<E> {
+    using type = Core::WordList<Keywords<E>::printRows>;
+};
 
 } // namespace detail
 
