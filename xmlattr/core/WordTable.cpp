@@ -1,7 +1,5 @@
 #include "xmlattr/core/WordTable.h"
 
-#include <cstring>
-
 namespace Core {
 
 namespace {

@@ -34,8 +34,8 @@ struct PackedWord {
     std::uint32_t lengthAndNext; // in one, so that one comparison tells that a length fits and no row is next
     std::uint16_t start;
 
-    constexpr PackedWord(std::size_t start = 0, std::size_t length = 0)
-        : lengthAndNext(static_cast<std::uint32_t>(length)), start(static_cast<std::uint16_t>(start)) {}
+    constexpr PackedWord(std::size_t newStart = 0, std::size_t newLength = 0)
+        : lengthAndNext(static_cast<std::uint32_t>(newLength)), start(static_cast<std::uint16_t>(newStart)) {}
 
     constexpr std::size_t length() const { return lengthAndNext & 0xFFFF; }
     constexpr std::size_t next() const { return lengthAndNext >> 16; }
