@@ -1,4 +1,4 @@
-#include "checking/Hints.h"
+#include "cli/Hints.h"
 #include "text/Text.h"
 
 #include <gtest/gtest.h>

@@ -2,6 +2,7 @@
 
 #include "xmlattr/catalogue/AttributeType.h"
 #include "xmlattr/catalogue/TypeNumber.h"
+#include "xmlattr/catalogue/grammar/GrammarCompiler.h"
 #include "xmlattr/catalogue/text/TableText.h"
 #include "xmlattr/core/WordTable.h"
 #include "xmlattr/defaults/DefaultAttributes.h"
@@ -79,17 +80,6 @@ constexpr Parts UpTo(std::uint8_t count) {
     return {count};
 }
 
-template <TableText text>
-constexpr auto tokensOf = [] {
-    std::array<LegalToken, wordsOf<text>.size()> tokens{};
-    for (std::size_t i = 0; i < tokens.size(); ++i) {
-        auto const token = LegalToken::parse(wordsOf<text>[i]);
-        requireOf(wordsOf<text>[i], token.has_value(), "LegalToken.h has no such token");
-        tokens[i] = *token;
-    }
-    return tokens;
-}();
-
 constexpr CatalogueEntry const* rowOfLonghand(Vocabulary vocabulary, std::string_view attribute) {
     std::size_t i = 0;
     while (i < rowCount && !(isSameAttribute(rowNames[i], vocabulary, attribute) && rowNames[i].elements[0] == "*"))
@@ -106,7 +96,7 @@ constexpr auto longhandsOf = [] {
 }();
 
 template <class T, class Constant>
-consteval CatalogueEntry typed(CatalogueEntry row, std::string_view constant, std::span<LegalToken const> alsoLegal) {
+consteval CatalogueEntry typed(CatalogueEntry row, std::string_view constant) {
     constexpr bool hasDefault = !std::is_same_v<Constant, None const>;
     static_assert(typeNumber<T> < typeNames.size(), "the value type of this row is not in ValueTypes.inc");
     static_assert(!hasDefault || std::is_same_v<Constant, TXmlAttribute<T> const>,
@@ -114,7 +104,6 @@ consteval CatalogueEntry typed(CatalogueEntry row, std::string_view constant, st
     row.valueType = typeNames[typeNumber<T>];
     row.typeNumber = static_cast<std::int16_t>(typeNumber<T>);
     if (hasDefault) row.defaultConstant = constant;
-    row.alsoLegal = alsoLegal;
     return row;
 }
 
@@ -132,11 +121,10 @@ consteval CatalogueEntry shorthand(CatalogueEntry row, Parts parts, std::span<Ca
 #define XMLATTR_ROW(kind, elements, attribute, scope, grammar, initial, note)                                          \
     CatalogueEntry {                                                                                                   \
         XMLATTR_VOCABULARY, AttributeKind::kind, (scope).isInherited, (scope).isPresentation, wordsOf<elements>,       \
-            attribute, grammar, initial, note                                                                          \
+            attribute, grammarOf<grammar>, initial, note                                                                        \
     }
-#define XMLATTR_TYPED(elements, attribute, scope, type, constant, alsoLegal, grammar, initial, note)                   \
-    typed<type, decltype(constant)>(XMLATTR_ROW(Typed, elements, attribute, scope, grammar, initial, note), #constant, \
-                                    tokensOf<alsoLegal>),
+#define XMLATTR_TYPED(elements, attribute, scope, type, constant, grammar, initial, note)                   \
+    typed<type, decltype(constant)>(XMLATTR_ROW(Typed, elements, attribute, scope, grammar, initial, note), #constant),
 #define XMLATTR_SHORTHAND(elements, attribute, scope, parts, longhands, words, grammar, initial, note)                 \
     shorthand(XMLATTR_ROW(Shorthand, elements, attribute, scope, grammar, initial, note), parts,                       \
               longhandsOf<XMLATTR_VOCABULARY, longhands>, wordsOf<words>),

@@ -2,7 +2,7 @@
 // Whether a text is legal on an attribute is told by legality/Judge.h.
 #pragma once
 
-#include "xmlattr/catalogue/LegalToken.h"
+#include "xmlattr/catalogue/grammar/Grammar.h"
 #include "xmlattr/core/Export.h"
 
 #include <cstdint>
@@ -38,9 +38,10 @@ struct CatalogueEntry {
     // The local name; those of the XML and XLink namespaces have their usual prefix: "xml:lang".
     std::string_view attribute;
 
-    // The values that the recommendation allows, in the value definition syntax of CSS, and the one that an absent
-    // attribute has; both may be empty.
-    std::string_view grammar, initial;
+    // The values that the recommendation allows, and the one that an absent attribute has, in UTF-8: empty when it
+    // is inherited from elsewhere, depends on other attributes or is worked out by the formatter.
+    Grammar grammar;
+    std::string_view initial;
     // For people: what to know of the attribute and its type.
     std::string_view note;
 
@@ -49,8 +50,6 @@ struct CatalogueEntry {
     std::int16_t typeNumber = -1;
     // The name of the constant that holds the default; may be empty.
     std::string_view defaultConstant{};
-    // What the recommendation allows and the value type does not read.
-    std::span<LegalToken const> alsoLegal{};
 
     // Of a shorthand: the attributes that its parts are values of, the words that are no value of theirs, and how many
     // parts there are at most. Without the first two, nothing is known of its parts. A font has its parts in an order

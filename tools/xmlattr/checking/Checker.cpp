@@ -1,8 +1,13 @@
 #include "checking/Checker.h"
 
-#include "checking/Stylesheet.h"
 #include "text/Text.h"
+#include "xmlattr/catalogue/AttributeType.h"
+#include "xmlattr/catalogue/Elements.h"
+#include "xmlattr/catalogue/Names.h"
+#include "xmlattr/catalogue/legality/Advice.h"
 #include "xmlattr/catalogue/legality/StyleAttribute.h"
+
+#include <utility>
 
 namespace Command {
 
@@ -11,37 +16,69 @@ namespace {
 // The values of a list take up to twenty times the memory of its text.
 constexpr std::size_t longestList = 4 << 20;
 
+Fault faultOf(Xml::CatalogueEntry const& entry, Xml::Judgement const& judgement) {
+    if (judgement.verdict == Xml::Verdict::Misread) return Fault::Misread;
+    if (!judgement.newer.empty()) return Fault::NewerValue;
+    if (judgement.verdict == Xml::Verdict::Lenient) return judgement.isNegative ? Fault::Negative : Fault::Lenient;
+    bool const isTyped = entry.type() || !entry.longhands.empty();
+    return isTyped ? Fault::BadValue : judgement.isNegative ? Fault::Negative : Fault::BadWord;
+}
+
 } // namespace
 
+// An attribute of a tag, a declaration in one, or what an xsl:attribute holds.
 struct Checker::Occurrence {
-    Tag& tag;
+    Tag* tag; // null for an xsl:attribute
     Xml::Vocabulary vocabulary;
-    std::string_view element;
-    std::size_t number; // of the attribute in its tag
+    std::string_view element; // empty when it is not known
+    std::size_t number;       // of the attribute in its tag
     std::string_view name, value;
     std::size_t offset = 0; // in the attribute's value
     Xml::Notation notation = Xml::Notation::Attribute;
+    Place place{}; // without a tag
 
     bool isDeclaration() const { return notation == Xml::Notation::Declaration; }
+    bool isWhole() const { return !tag || tag->isWhole(number); }
 };
 
 void Checker::startElement(XmlElement const& element, Tag& tag) {
     if (element.depth == 0) isPlainSvg = element.space.empty() && element.name == "svg";
+    stylesheet.startElement(element);
+    made = stylesheet.made(element);
+    if (made) madeElement = made->element.empty() ? std::string(element.name) : made->element;
     counts.attributes += element.attributes.size();
     auto vocabulary = Xml::Catalogue::vocabularyOf(element.space);
     if (!vocabulary && isPlainSvg && element.space.empty()) vocabulary = Xml::Vocabulary::Svg;
+    references.startElement(element, vocabulary, tag, [this](ReferenceFault const& fault) { find(fault); });
     if (!vocabulary) {
         counts.foreign += element.attributes.size();
         return;
+    }
+    if (!Xml::Elements::isKnown(*vocabulary, element.name)) {
+        Xml::NameFact const fact = Xml::Names::ofElement(*vocabulary, element.name);
+        if (fact.standing == Xml::NameStanding::Unknown && isReported(Fault::UnknownElement)) {
+            Finding finding;
+            finding.fault = Fault::UnknownElement;
+            finding.place = tag.raw().place();
+            finding.element = tag.raw().elementName();
+            if (finding.element.empty()) finding.element = element.name;
+            finding.replacement = fact.text;
+            report(finding);
+        }
     }
     bool const isInStylesheet = element.namespaces.has(xsltNamespace);
     for (std::size_t i = 0; i < element.attributes.size(); ++i) {
         XmlAttributeText const& attribute = element.attributes[i];
         if (isInStylesheet && isTemplate(attribute.value)) {
-            ++counts.passedOver;
+            ++counts.templates;
             continue;
         }
-        Occurrence occurrence{tag, *vocabulary, element.name, i, attribute.name, attribute.value};
+        Occurrence occurrence{&tag, *vocabulary, element.name, i, attribute.name, attribute.value};
+        std::string plain; // a template without expressions
+        if (isInStylesheet && attribute.value.find_first_of("{}") != std::string_view::npos) {
+            plain = templateText(attribute.value);
+            occurrence.value = plain;
+        }
         if (attribute.space == xmlNamespace || attribute.space == xlinkNamespace) {
             prefixed.assign(attribute.space == xmlNamespace ? "xml:" : "xlink:").append(attribute.name);
             occurrence.name = prefixed;
@@ -53,23 +90,62 @@ void Checker::startElement(XmlElement const& element, Tag& tag) {
     }
 }
 
+bool Checker::wantsText(XmlElement const& /*element*/) {
+    return made.has_value();
+}
+
+void Checker::text(XmlText const& text) {
+    if (!made || !text.isWhole) return;
+    ++counts.attributes;
+    check({nullptr, made->vocabulary, made->element, 0, made->attribute, text.text, 0, Xml::Notation::Attribute,
+           text.place});
+}
+
+void Checker::finish() {
+    references.finish([this](ReferenceFault const& fault) { find(fault); });
+}
+
 void Checker::check(Occurrence const& occurrence) {
-    auto const find = occurrence.isDeclaration() ? Xml::findProperty : Xml::Catalogue::find;
-    Xml::CatalogueEntry const* const entry = find(occurrence.vocabulary, occurrence.element, occurrence.name);
+    auto const lookUp = occurrence.isDeclaration() ? Xml::findProperty : Xml::Catalogue::find;
+    Xml::CatalogueEntry const* const entry = lookUp(occurrence.vocabulary, occurrence.element, occurrence.name);
     if (!entry) {
         ++counts.unknown;
-        return;
+        return checkName(occurrence);
     }
-    switch (entry->kind) {
-    case Xml::AttributeKind::Typed:
-    case Xml::AttributeKind::Shorthand: return checkValue(occurrence, *entry);
-    case Xml::AttributeKind::Identifier: ++counts.identifiers; return;
-    case Xml::AttributeKind::Untyped: ++counts.untyped; return;
-    case Xml::AttributeKind::Text:
-        ++counts.texts;
-        if (occurrence.vocabulary == Xml::Vocabulary::Svg && occurrence.name == "style") checkStyle(occurrence);
-        return;
+    bool const isMisplaced = options.isStrict && !occurrence.isDeclaration() && !occurrence.element.empty() &&
+                             Xml::Elements::isKnown(occurrence.vocabulary, occurrence.element) &&
+                             !Xml::Elements::has(occurrence.vocabulary, occurrence.element, occurrence.name) &&
+                             (occurrence.vocabulary == Xml::Vocabulary::Fo ||
+                              !Xml::Names::isNewerOn(occurrence.element, occurrence.name));
+    if (isMisplaced && isReported(Fault::MisplacedAttribute)) {
+        Finding finding;
+        finding.fault = Fault::MisplacedAttribute;
+        finding.attribute = entry->attribute;
+        find(occurrence, std::move(finding));
     }
+    if (occurrence.vocabulary == Xml::Vocabulary::Svg && occurrence.name == "style") checkStyle(occurrence);
+    checkValue(occurrence, *entry);
+}
+
+void Checker::checkName(Occurrence const& occurrence) {
+    Xml::NameFact const fact = occurrence.isDeclaration()
+                                   ? Xml::Names::ofProperty(occurrence.name)
+                                   : Xml::Names::ofAttribute(occurrence.vocabulary, occurrence.name);
+    if (occurrence.vocabulary == Xml::Vocabulary::Svg && !occurrence.isDeclaration() &&
+        fact.standing == Xml::NameStanding::Known && options.isStrict &&
+        Xml::Elements::isKnown(occurrence.vocabulary, occurrence.element) &&
+        !Xml::Names::isNewerOn(occurrence.element, occurrence.name) && isReported(Fault::MisplacedAttribute)) {
+        Finding finding;
+        finding.fault = Fault::MisplacedAttribute;
+        finding.attribute = occurrence.name;
+        return find(occurrence, std::move(finding));
+    }
+    if (fact.standing != Xml::NameStanding::Unknown || !isReported(Fault::UnknownAttribute)) return;
+    Finding finding;
+    finding.fault = Fault::UnknownAttribute;
+    finding.attribute = occurrence.name;
+    finding.replacement = fact.text;
+    find(occurrence, std::move(finding));
 }
 
 void Checker::checkValue(Occurrence const& occurrence, Xml::CatalogueEntry const& entry) {
@@ -77,35 +153,42 @@ void Checker::checkValue(Occurrence const& occurrence, Xml::CatalogueEntry const
         ++counts.tooLong;
         return;
     }
-    Xml::Judgement judgement;
+    std::optional<Xml::Judgement> judgement;
     Xml::Verdict const verdict = cache.find(entry, occurrence.notation, occurrence.value, [&] {
-        toUtf16(occurrence.value, text);
-        judgement = Xml::judge(entry, text, occurrence.notation);
-        return judgement.verdict;
+        toUtf16(occurrence.value, utf16);
+        judgement = Xml::judge(entry, utf16, occurrence.notation);
+        return judgement->verdict;
     });
-    switch (verdict) {
-    case Xml::Verdict::Read: ++counts.checked; return;
-    case Xml::Verdict::PassedOver: ++counts.passedOver; return;
-    case Xml::Verdict::FreeText: ++counts.texts; return;
-    case Xml::Verdict::NotCovered: ++counts.untyped; return;
-    case Xml::Verdict::Refused: break;
-    }
-    if (!occurrence.tag.isWhole(occurrence.number)) {
+    if (Xml::isFault(verdict) && !occurrence.isWhole()) {
         ++counts.unread;
         return;
     }
-    if (counts.refused++ >= maxFindings) return;
-    Finding finding;
-    finding.attribute = entry.attribute;
-    finding.part = toUtf8(judgement.part);
-    finding.problem = judgement.problem;
-    for (Xml::AttributeType const* const type : judgement.tried) {
-        finding.types.emplace_back(type->name());
-        if (finding.hints.variant.empty() && finding.hints.nearest.empty())
-            finding.hints = hintsFor(*type, judgement.part.empty() ? text : judgement.part);
+    switch (verdict) {
+    case Xml::Verdict::Read: ++counts.read; return;
+    case Xml::Verdict::PassedOver: ++counts.passedOver; return;
+    case Xml::Verdict::FreeText: ++counts.freeText; return;
+    case Xml::Verdict::NotCovered: ++counts.unknown; return;
+    case Xml::Verdict::Misread: ++counts.misread; break;
+    case Xml::Verdict::Lenient: ++counts.lenient; break;
+    case Xml::Verdict::Refused: ++counts.refused; break;
     }
-    if (judgement.tried.size() > 1) finding.hints.accepted.clear(); // those of one type are not all
-    refuse(occurrence, std::move(finding));
+    Fault const fault = faultOf(entry, *judgement);
+    if (!isReported(fault)) return;
+    Xml::Advice const advice = Xml::advise(entry, utf16, occurrence.notation, *judgement);
+    Finding finding;
+    finding.fault = fault;
+    finding.attribute = entry.attribute;
+    finding.part = toUtf8(judgement->part);
+    finding.problem = judgement->problem;
+    finding.newer = judgement->newer;
+    finding.held = toUtf8(advice.held);
+    finding.expected = advice.expected;
+    finding.replacement = toUtf8(advice.replacement);
+    finding.isExact = advice.isExact;
+    finding.offset = advice.offset;
+    finding.length = advice.length;
+    finding.inserted = toUtf8(advice.inserted());
+    find(occurrence, std::move(finding));
 }
 
 void Checker::checkStyle(Occurrence const& occurrence) {
@@ -114,29 +197,39 @@ void Checker::checkStyle(Occurrence const& occurrence) {
     for (Xml::Declaration const& declaration : Xml::splitStyle(style)) {
         ++counts.declarations;
         check({occurrence.tag, occurrence.vocabulary, occurrence.element, occurrence.number, declaration.property,
-               declaration.value, declaration.offset, Xml::Notation::Declaration});
+               declaration.value, declaration.offset, Xml::Notation::Declaration, occurrence.place});
     }
 }
 
-void Checker::refuse(Occurrence const& occurrence, Finding finding) {
-    RawTag& tag = occurrence.tag.raw();
-    finding.place = occurrence.isDeclaration() ? tag.inValue(occurrence.number, occurrence.offset)
-                                               : tag.attribute(occurrence.number);
-    finding.element = tag.elementName();
-    if (finding.element.empty()) finding.element = occurrence.element;
+bool Checker::isReported(Fault fault) {
+    bool const isReported = counts.findings() < options.maxFindings;
+    ++(kindOf(fault).isError ? counts.errors : counts.warnings);
+    return isReported;
+}
+
+void Checker::find(Occurrence const& occurrence, Finding finding) {
+    finding.place = occurrence.place;
+    finding.element = madeElement;
+    if (occurrence.tag) {
+        RawTag& tag = occurrence.tag->raw();
+        finding.place = occurrence.isDeclaration() ? tag.inValue(occurrence.number, occurrence.offset)
+                                                   : tag.attribute(occurrence.number);
+        finding.element = tag.elementName();
+        if (finding.element.empty()) finding.element = occurrence.element;
+    }
     finding.text = occurrence.value;
     report(finding);
 }
 
-std::string Finding::message() const {
-    std::string line = attribute + "=" + inQuotes(printable(text)) + " on " + printable(element);
-    if (!problem.empty()) return line + " " + problem;
-    line += part.empty() ? " is no " : ": " + inQuotes(printable(part)) + " is no ";
-    line += joinWith(types, "or");
-    if (!hints.variant.empty()) line += "; " + inQuotes(hints.variant) + " is";
-    if (!hints.accepted.empty()) line += "; accepted: " + joinWith(hints.accepted, "and");
-    if (!hints.nearest.empty()) line += "; did you mean " + inQuotes(hints.nearest) + "?";
-    return line;
+void Checker::find(ReferenceFault const& fault) {
+    Finding finding;
+    finding.fault = fault.kind == ReferenceFault::DuplicateId ? Fault::DuplicateId : Fault::DanglingReference;
+    if (!isReported(finding.fault)) return;
+    finding.place = fault.place;
+    finding.element = fault.element;
+    finding.attribute = fault.attribute;
+    finding.text = fault.text;
+    report(finding);
 }
 
 } // namespace Command

@@ -1,68 +1,79 @@
-// Looks every attribute of a document up in the catalogue, and has its text judged.
+// Looks every element and attribute of a document up in the catalogue, and has their texts judged.
 #pragma once
 
-#include "checking/Hints.h"
+#include "checking/Finding.h"
+#include "checking/References.h"
+#include "checking/Stylesheet.h"
 #include "checking/VerdictCache.h"
 #include "xml/XmlReader.h"
 #include "xmlattr/catalogue/legality/Judge.h"
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
-#include <vector>
 
 namespace Command {
 
-// A text that the value type of its attribute refuses.
-struct Finding {
-    Place place;
-    std::string element;   // as the document names it
-    std::string attribute; // the same; in a style attribute the property
-    std::string text;
-    std::string part; // of a shorthand: what is wrong in the text
-    std::vector<std::string> types;
-    std::string problem; // what is wrong when no type says it
-    Hints hints;
-
-    // In one line, without the place.
-    std::string message() const;
-};
-
-// Each attribute, and each declaration of a style attribute, is counted in one class.
+// Each attribute, each declaration of a style attribute and each literal xsl:attribute is counted in one class: a
+// verdict, or a reason why it has none.
 struct Counts {
     std::uint64_t files = 0, failedFiles = 0;
     std::uint64_t attributes = 0, declarations = 0;
-    std::uint64_t checked = 0, passedOver = 0, refused = 0, identifiers = 0, texts = 0;
+    std::uint64_t read = 0, passedOver = 0, freeText = 0, misread = 0, lenient = 0, refused = 0;
     // Not covered, by reason.
-    std::uint64_t untyped = 0, foreign = 0, tooLong = 0, unread = 0, unknown = 0;
+    std::uint64_t foreign = 0, templates = 0, tooLong = 0, unread = 0, unknown = 0;
+    // Findings.
+    std::uint64_t errors = 0, warnings = 0;
 
-    std::uint64_t notCovered() const { return untyped + foreign + tooLong + unread + unknown; }
+    std::uint64_t notCovered() const { return foreign + templates + tooLong + unread + unknown; }
+    std::uint64_t findings() const { return errors + warnings; }
 };
 
 class Checker final : public XmlHandler {
 public:
     using Report = std::function<void(Finding const& finding)>;
 
-    // Refusals are counted on when `maxFindings` of them have been reported.
-    Checker(Counts& counts, Report report, std::uint64_t maxFindings = UINT64_MAX)
-        : counts(counts), report(std::move(report)), maxFindings(maxFindings) {}
+    struct Options {
+        // Findings are counted on when so many of them have been reported.
+        std::uint64_t maxFindings = UINT64_MAX;
+        // Also reports attributes on elements that do not have them.
+        bool isStrict = false;
+    };
+
+    Checker(Counts& counts, Report report, Options const& options)
+        : counts(counts), report(std::move(report)), options(options) {}
+    Checker(Counts& counts, Report report) : Checker(counts, std::move(report), Options()) {}
 
     void startElement(XmlElement const& element, Tag& tag) override;
+    bool wantsText(XmlElement const& element) override;
+    void text(XmlText const& text) override;
+    void missingContent() override { references.missingContent(); }
+    // Reports what only the end of the document tells. To be called when it has been read to its end.
+    void finish();
 
 private:
     struct Occurrence;
 
     void check(Occurrence const& occurrence);
+    void checkName(Occurrence const& occurrence);
     void checkValue(Occurrence const& occurrence, Xml::CatalogueEntry const& entry);
     void checkStyle(Occurrence const& occurrence);
-    void refuse(Occurrence const& occurrence, Finding finding);
+    void find(Occurrence const& occurrence, Finding finding);
+    void find(ReferenceFault const& fault);
+    // Counts a finding; whether it is to be reported.
+    bool isReported(Fault fault);
 
     Counts& counts;
     Report report;
-    std::uint64_t maxFindings;
+    Options options;
     VerdictCache cache;
-    std::u16string text; // of the attribute at hand, kept for its memory
-    std::string style;   // the style attribute at hand, likewise
+    References references;
+    Stylesheet stylesheet;
+    std::optional<MadeAttribute> made; // by the xsl:attribute at hand
+    std::string madeElement;           // as the document names it
+    std::u16string utf16;              // of the attribute at hand, kept for its memory
+    std::string style;                 // the style attribute at hand, likewise
     std::string prefixed;
     bool isPlainSvg = false; // an SVG document that declares no namespace
 };

@@ -25,7 +25,7 @@ class VerdictCache {
 
 public:
     // What `judge()` gives for the entry and the text; it is not asked again for a text of up to
-    // 24 bytes that it did not refuse a short while ago.
+    // 24 bytes that was no fault a short while ago.
     template <class Judge>
     Xml::Verdict find(Xml::CatalogueEntry const& entry, Xml::Notation notation, std::string_view text, Judge judge) {
         Key key{&entry, notation, {}};
@@ -37,7 +37,7 @@ public:
         Row& row = rows[static_cast<std::size_t>(hash >> 53)];
         if (row.key == key) return row.verdict;
         Xml::Verdict const verdict = judge();
-        if (verdict != Xml::Verdict::Refused) row = {key, verdict};
+        if (!Xml::isFault(verdict)) row = {key, verdict};
         return verdict;
     }
 

@@ -71,21 +71,25 @@ int check(CheckOptions const& options) {
             progress.clear();
             reporter->finding(name, finding);
         };
-        Checker checker(counts, report, options.maxFindings);
+        Checker checker(counts, report, {options.maxFindings, options.isStrict});
         ++counts.files;
         OpenFile const opened(file == "-" ? stdin : std::fopen(file.c_str(), "rb"));
         std::optional<XmlFailure> const failure =
             opened ? readXml(opened.get(), checker)
                    : XmlFailure{"unreadable", std::string("cannot be read: ") + std::strerror(errno), std::nullopt};
-        if (!failure) continue;
+        if (!failure) {
+            checker.finish();
+            continue;
+        }
         ++counts.failedFiles;
         progress.clear();
         reporter->failure(name, *failure);
     }
     progress.clear();
-    if (!options.isQuiet) reporter->summary(counts, std::min(counts.refused, options.maxFindings));
+    if (!options.isQuiet) reporter->summary(counts, std::min(counts.findings(), options.maxFindings));
     flushOutput();
-    return counts.failedFiles > 0 || !list.problems.empty() ? 2 : counts.refused > 0 ? 1 : 0;
+    if (counts.failedFiles > 0 || !list.problems.empty()) return 2;
+    return counts.errors > 0 || (options.isStrict && counts.warnings > 0) ? 1 : 0;
 }
 
 } // namespace Command

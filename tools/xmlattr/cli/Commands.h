@@ -1,4 +1,4 @@
-// What the command can do; each call gives the exit code: 0 fine, 1 something was refused, 2 the
+// What the command can do; each call gives the exit code: 0 fine, 1 something was found, 2 the
 // call could not be carried out.
 #pragma once
 
@@ -21,7 +21,7 @@ struct CheckOptions {
     std::string stdinName = "<stdin>";
     OutputFormat format = OutputFormat::Text;
     ColorMode color = ColorMode::Auto;
-    bool isQuiet = false;
+    bool isQuiet = false, isStrict = false;
     std::uint64_t maxFindings = UINT64_MAX;
 };
 

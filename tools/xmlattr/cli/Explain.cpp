@@ -1,6 +1,9 @@
+#include "checking/Finding.h"
 #include "cli/Commands.h"
 
+#include <iterator>
 #include <string_view>
+#include <vector>
 
 namespace Command {
 
@@ -10,11 +13,8 @@ struct Explanation {
     std::string_view id, text;
 };
 
+// Of what keeps a file from being read to its end.
 constexpr Explanation explanations[] = {
-    {"bad-value", "The value type of the attribute does not read the text, and it is none of what the formatter\n"
-                  "works out by itself: \"inherit\", words and calls that the recommendation allows, expressions of\n"
-                  "XSL-FO. The message names the type, and a text that is nearly the same and accepted where there\n"
-                  "is one. `xmlattr show TYPE TEXT` tries a text; `xmlattr types TYPE` tells what the type reads.\n"},
     {"malformed", "The file is no well-formed XML at the place that the message names. What stands before it\n"
                   "was checked; nothing behind it was.\n"},
     {"encoding", "The file declares an encoding that is not read, or is not in the one that it declares. UTF-8,\n"
@@ -30,14 +30,17 @@ constexpr Explanation explanations[] = {
 } // namespace
 
 int explain(std::string const& id) {
-    for (Explanation const& explanation : explanations) {
+    std::vector<Explanation> all;
+    for (FaultKind const& kind : faultKinds()) all.push_back({kind.id, kind.explanation});
+    all.insert(all.end(), std::begin(explanations), std::end(explanations));
+    for (Explanation const& explanation : all) {
         if (explanation.id != id) continue;
-        print(std::string(id) + "\n\n" + std::string(explanation.text));
+        print(id + "\n\n" + std::string(explanation.text));
         flushOutput();
         return 0;
     }
     std::string ids;
-    for (Explanation const& explanation : explanations) ids.append(" ").append(explanation.id);
+    for (Explanation const& explanation : all) ids.append(" ").append(explanation.id);
     printError("xmlattr: no message has the id \"" + id + "\"; there are:" + ids + "\n");
     return 2;
 }

@@ -54,24 +54,17 @@ std::vector<ElementRow> rowsByElement() {
     return rows;
 }
 
-std::string tokensOf(Xml::CatalogueEntry const& entry) {
-    std::string text;
-    for (Xml::LegalToken const& token : entry.alsoLegal) text.append(text.empty() ? "" : " ").append(token.text);
-    return text;
-}
-
 std::string jsonLine(std::string_view element, Xml::CatalogueEntry const& entry) {
     Json line = {{"vocabulary", Xml::Catalogue::name(entry.vocabulary)},
                  {"element", element},
                  {"attribute", entry.attribute},
                  {"kind", Xml::Catalogue::name(entry.kind)},
                  {"valueType", entry.valueType},
-                 {"alsoLegal", tokensOf(entry)},
                  {"defaultConstant", entry.defaultConstant},
                  {"inherited", entry.isInherited},
                  {"note", entry.note},
                  {"presentation", entry.isPresentation},
-                 {"grammar", entry.grammar},
+                 {"grammar", entry.grammar.text()},
                  {"initial", entry.initial}};
     for (Xml::CatalogueEntry const* const longhand : entry.longhands) line["longhands"].push_back(longhand->attribute);
     return line.dump() + "\n";
@@ -79,11 +72,10 @@ std::string jsonLine(std::string_view element, Xml::CatalogueEntry const& entry)
 
 std::string textLine(std::string_view element, Xml::CatalogueEntry const& entry) {
     std::string_view const type = entry.valueType.empty() ? Xml::Catalogue::name(entry.kind) : entry.valueType;
-    std::string const also = tokensOf(entry);
     return trimmedLine(padded(Xml::Catalogue::name(entry.vocabulary), 3) + padded(element, 6) +
                        padded(entry.attribute, 28) + padded(type, 24) +
                        padded(entry.isInherited ? "inherited" : "", 9) + padded(entry.defaultConstant, 24) +
-                       (also.empty() ? "" : "also: " + also));
+                       std::string(entry.grammar.text()));
 }
 
 } // namespace

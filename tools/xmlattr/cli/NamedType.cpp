@@ -1,8 +1,8 @@
 #include "cli/NamedType.h"
 
-#include "checking/Hints.h"
 #include "output/Output.h"
 #include "text/Text.h"
+#include "xmlattr/catalogue/legality/Advice.h"
 
 #include "xmlattr/catalogue/text/Words.h"
 
@@ -25,7 +25,9 @@ Xml::AttributeType const* findNamedType(std::string_view name) {
         if (isCalled(type, name)) return &type;
     std::vector<std::u16string> names;
     for (Xml::AttributeType const& type : Xml::AttributeType::all()) names.push_back(toUtf16(type.name()));
-    std::u16string_view const nearest = nearestWord(toUtf16(name), {names.begin(), names.end()});
+    std::vector<std::u16string_view> const views(names.begin(), names.end());
+    std::u16string const wanted = toUtf16(name);
+    std::u16string_view const nearest = Xml::nearestWord(wanted, views);
     printError("xmlattr: no value type is called " + inQuotes(printable(name)) +
                (nearest.empty() ? "" : "; did you mean " + inQuotes(toUtf8(nearest)) + "?") + "\n");
     return nullptr;

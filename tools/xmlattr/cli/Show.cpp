@@ -1,4 +1,4 @@
-#include "checking/Hints.h"
+#include "cli/Hints.h"
 #include "cli/Commands.h"
 #include "cli/NamedType.h"
 #include "text/Text.h"
@@ -69,7 +69,6 @@ void printJson(ShowOptions const& options, Xml::AttributeType const& type, Readi
     Json line = {{"type", type.name()}, {"text", options.text}, {"accepted", reading.accepted}};
     if (reading.accepted) line["prints"] = reading.printed;
     if (!hints.variant.empty()) line["acceptedVariant"] = hints.variant;
-    if (!hints.accepted.empty()) line["keywords"] = hints.accepted;
     if (!hints.nearest.empty()) line["nearest"] = hints.nearest;
     for (Xml::Part const& part : reading.parts.list)
         line["parts"].push_back({{"name", toUtf8(part.name)}, {"value", toUtf8(part.value)}});

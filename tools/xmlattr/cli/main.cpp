@@ -62,7 +62,7 @@ int run(int argc, char** argv) {
     app.add_option("--explain", explained, "What messages with this id mean")->type_name("ID");
 
     CheckOptions checking;
-    CLI::App* const checkCommand = app.add_subcommand("check", "Report each attribute that its value type refuses");
+    CLI::App* const checkCommand = app.add_subcommand("check", "Report each attribute that is not read as it is written");
     checkCommand
         ->add_option("FILE", checking.paths,
                      "Documents; directories, for their documents and stylesheets; - for standard input")
@@ -73,6 +73,8 @@ int run(int argc, char** argv) {
     addFormat(*checkCommand, checking.format);
     addColor(*checkCommand, checking.color);
     checkCommand->add_flag("-q,--quiet", checking.isQuiet, "No summary and no progress");
+    checkCommand->add_flag("--strict", checking.isStrict,
+                           "Report attributes on elements that do not have them, and fail for warnings too");
     checkCommand->add_option("--max-findings", checking.maxFindings, "Show no more findings than this")
         ->check(checkCount)
         ->type_name("N");

@@ -27,8 +27,10 @@ public:
     explicit TextReporter(bool isColored) : isColored(isColored) {}
 
     void finding(std::string const& file, Finding const& finding) override {
-        print(colored(location(file, finding.place), "1", isColored) + " " + colored("error:", "1;31", isColored) +
-              " " + finding.message() + " [bad-value]\n");
+        FaultKind const& kind = kindOf(finding.fault);
+        print(colored(location(file, finding.place), "1", isColored) + " " +
+              colored(kind.isError ? "error:" : "warning:", kind.isError ? "1;31" : "1;35", isColored) + " " +
+              finding.message() + " [" + std::string(kind.id) + "]\n");
     }
 
     void failure(std::string const& file, XmlFailure const& failure) override {
@@ -40,22 +42,23 @@ public:
         if (counts.failedFiles > 0) line += " (" + std::to_string(counts.failedFiles) + " not read to the end)";
         line += ": " + count(counts.attributes, "attribute");
         if (counts.declarations > 0) line += " and " + count(counts.declarations, "style declaration");
-        line += "; " + std::to_string(counts.checked) + " checked, " + std::to_string(counts.passedOver) +
-                " passed over, " + count(counts.identifiers, "identifier") + ", " + count(counts.texts, "text") + ", " +
-                std::to_string(counts.notCovered()) + " not covered";
+        line += "; " + std::to_string(counts.read) + " read as written, " + std::to_string(counts.passedOver) +
+                " passed over, " + std::to_string(counts.freeText) + " free text, " + std::to_string(counts.misread) +
+                " misread, " + std::to_string(counts.lenient) + " lenient, " + std::to_string(counts.refused) +
+                " refused, " + std::to_string(counts.notCovered()) + " not covered";
         std::string reasons;
         auto const reason = [&](std::uint64_t number, std::string_view why) {
             if (number == 0) return;
             reasons += (reasons.empty() ? " (" : ", ") + std::to_string(number).append(" ").append(why);
         };
-        reason(counts.untyped, "untyped");
         reason(counts.foreign, "of other vocabularies");
+        reason(counts.templates, "templates");
         reason(counts.tooLong, "too long");
         reason(counts.unread, "with an entity that is not read");
         reason(counts.unknown, "unknown");
         if (!reasons.empty()) line += reasons + ")";
-        line += ", " + std::to_string(counts.refused) + " refused";
-        if (shown < counts.refused) line += " (" + std::to_string(shown) + " shown)";
+        line += "; " + count(counts.errors, "error") + ", " + count(counts.warnings, "warning");
+        if (shown < counts.findings()) line += " (" + std::to_string(shown) + " shown)";
         printError(line + "\n");
     }
 
@@ -69,17 +72,24 @@ public:
         Json line = {{"file", file},
                      {"line", finding.place.line},
                      {"column", finding.place.column},
-                     {"severity", "error"},
-                     {"id", "bad-value"},
+                     {"severity", kindOf(finding.fault).isError ? "error" : "warning"},
+                     {"id", kindOf(finding.fault).id},
                      {"element", finding.element},
                      {"attribute", finding.attribute},
                      {"text", finding.text},
-                     {"types", finding.types},
                      {"message", finding.message()}};
-        if (!finding.part.empty()) line["part"] = finding.part;
-        if (!finding.hints.variant.empty()) line["acceptedVariant"] = finding.hints.variant;
-        if (!finding.hints.accepted.empty()) line["accepted"] = finding.hints.accepted;
-        if (!finding.hints.nearest.empty()) line["nearest"] = finding.hints.nearest;
+        auto const add = [&](char const* name, std::string const& text) {
+            if (!text.empty()) line[name] = text;
+        };
+        add("part", finding.part);
+        add("problem", finding.problem);
+        add("held", finding.held);
+        add("expected", finding.expected);
+        add("newer", finding.newer);
+        if (!finding.replacement.empty()) {
+            line["replacement"] = finding.replacement;
+            line["exact"] = finding.isExact;
+        }
         print(write(line));
     }
 
@@ -101,17 +111,20 @@ public:
                           {"failedFiles", counts.failedFiles},
                           {"attributes", counts.attributes},
                           {"declarations", counts.declarations},
-                          {"checked", counts.checked},
+                          {"read", counts.read},
                           {"passedOver", counts.passedOver},
-                          {"identifiers", counts.identifiers},
-                          {"texts", counts.texts},
+                          {"freeText", counts.freeText},
+                          {"misread", counts.misread},
+                          {"lenient", counts.lenient},
+                          {"refused", counts.refused},
                           {"notCovered",
-                           {{"untyped", counts.untyped},
-                            {"foreign", counts.foreign},
+                           {{"foreign", counts.foreign},
+                            {"templates", counts.templates},
                             {"tooLong", counts.tooLong},
                             {"unread", counts.unread},
                             {"unknown", counts.unknown}}},
-                          {"refused", counts.refused},
+                          {"errors", counts.errors},
+                          {"warnings", counts.warnings},
                           {"shown", shown}}));
     }
 

@@ -16,10 +16,11 @@ public:
     virtual ~Reporter() = default;
     virtual void finding(std::string const& file, Finding const& finding) = 0;
     virtual void failure(std::string const& file, XmlFailure const& failure) = 0;
+    // The first `shown` findings have been reported.
     virtual void summary(Counts const& counts, std::uint64_t shown) = 0;
 };
 
-// GCC style: "file:line:column: error: ... [id]".
+// GCC style: "file:line:column: warning: ... [id]".
 std::unique_ptr<Reporter> makeTextReporter(bool isColored);
 // An object a line.
 std::unique_ptr<Reporter> makeJsonReporter();

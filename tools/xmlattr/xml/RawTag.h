@@ -25,6 +25,7 @@ public:
 
     // As the tag has it, prefix included; empty for an empty text.
     std::string elementName() const;
+    Place place() const { return start; }
     // The prefixes of the names in the tag, the element's first; declarations of namespaces left out.
     std::vector<std::string> prefixes() const;
     // Where the name of the attribute begins.

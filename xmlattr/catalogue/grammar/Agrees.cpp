@@ -183,10 +183,6 @@ bool agrees(Meaning const& meaning, Drawing::RectF const& rectangle) {
     });
 }
 
-bool agrees(Meaning const& meaning, ViewBox const& box) {
-    return agrees(meaning, {heldOf(box.x), heldOf(box.y), heldOf(box.width), heldOf(box.height)});
-}
-
 bool agrees(Meaning const& meaning, SmartPtr<Drawing::Color> const& color) {
     return std::ranges::all_of(meaning.values(), [&](Item const& item) { return agreesWith(item, color); });
 }

@@ -93,7 +93,6 @@ bool agrees(Meaning const& meaning, ThreeState state);
 
 bool agrees(Meaning const& meaning, DLength const& lengths);
 bool agrees(Meaning const& meaning, Drawing::RectF const& rectangle);
-bool agrees(Meaning const& meaning, ViewBox const& box);
 bool agrees(Meaning const& meaning, SmartPtr<Drawing::Color> const& color);
 bool agrees(Meaning const& meaning, SColor const& paint);
 bool agrees(Meaning const& meaning, STextShadow const& shadow);

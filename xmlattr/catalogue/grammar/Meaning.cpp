@@ -33,8 +33,9 @@ struct StateHash {
 // Follows the steps of a grammar; where there is a choice it takes the first way, and comes back for the others.
 class MeaningReader {
 public:
-    MeaningReader(Meaning& meaning, std::span<GrammarStep const> steps, Dialect dialect, std::u16string_view text)
-        : meaning(meaning), steps(steps), cursor{text, dialect} {}
+    MeaningReader(Meaning& meaning, std::span<GrammarStep const> steps, Dialect dialect, std::u16string_view text,
+                  Ranges ranges)
+        : meaning(meaning), steps(steps), cursor{text, dialect, ranges} {}
 
     bool read() {
         state.step = static_cast<std::uint16_t>(steps.size() - 1);
@@ -153,9 +154,9 @@ private:
 
 } // namespace
 
-bool readMeaning(Meaning& meaning, Grammar const& grammar, Dialect dialect, std::u16string_view text) {
+bool readMeaning(Meaning& meaning, Grammar const& grammar, Dialect dialect, std::u16string_view text, Ranges ranges) {
     meaning.shrink(0);
-    return grammar && MeaningReader(meaning, grammar.steps(), dialect, text).read();
+    return grammar && MeaningReader(meaning, grammar.steps(), dialect, text, ranges).read();
 }
 
 } // namespace Xml

@@ -6,7 +6,6 @@
 // Numbers are rounded once to single precision; one that is too large for it is never what a value type holds.
 #pragma once
 
-#include "xmlattr/catalogue/grammar/GeometryReaders.h"
 #include "xmlattr/svg/PathData.h"
 #include "xmlattr/svg/Point.h"
 #include "xmlattr/svg/Transform.h"
@@ -57,7 +56,10 @@ struct SvgListRule {
     static constexpr SvgListRule numberPair() { return {.most = 2}; }
 };
 
-// Whether a text is legal; for the other lists GeometryReaders.h has the same.
+// Whether a text is legal.
+bool readPathData(std::u16string_view text);
+bool readPoints(std::u16string_view text);
+bool readTransformList(std::u16string_view text);
 bool readViewBox(std::u16string_view text);
 bool readSvgList(std::u16string_view text, SvgListRule const& rule);
 

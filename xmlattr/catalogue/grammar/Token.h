@@ -32,9 +32,11 @@ enum class Token : std::uint8_t {
     FamilyName, // a string, or anything up to a comma
     Text,       // all the rest, also nothing
     Empty,      // nothing
-    PathData,   // the rest, as GeometryReaders.h has it; likewise the next two
+    PathData,   // the rest, as SvgLists.h has it; likewise the next two
     Points,
     TransformList,
+    TimingList,   // the rest, as SvgTexts.h has it; likewise the next one
+    UnicodeRange,
 };
 
 namespace TokenTables {
@@ -70,6 +72,8 @@ inline constexpr Name names[] = {
     {"path-data", Token::PathData},
     {"points", Token::Points},
     {"transform-list", Token::TransformList},
+    {"timing-list", Token::TimingList},
+    {"unicode-range", Token::UnicodeRange},
 };
 
 struct Production {

@@ -1,6 +1,7 @@
 #include "xmlattr/catalogue/grammar/TokenReader.h"
 
-#include "xmlattr/catalogue/grammar/GeometryReaders.h"
+#include "xmlattr/catalogue/grammar/SvgLists.h"
+#include "xmlattr/catalogue/grammar/SvgTexts.h"
 #include "xmlattr/core/NumberReader.h"
 
 #include <algorithm>
@@ -85,7 +86,7 @@ bool readMeasure(Item& item, ItemKind kind, GrammarStep const& step, ValueCursor
         cursor.atBoundary() || (step.separated && item.unit.empty() &&
                                 std::u16string_view(u"+-.").find(cursor.peek()) != std::u16string_view::npos);
     return ends && takesUnit(kind, item, cursor.dialect) && (step.token != Token::Integer || isInteger) &&
-           step.isInRange(item.number);
+           cursor.allows(step, item.number);
 }
 
 // Two or three numbers with colons between them, or one with its unit; always held in seconds.
@@ -239,7 +240,7 @@ bool readValue(Item& item, GrammarStep const& step, ValueCursor& cursor) {
     case Token::Angle: return readMeasure(item, ItemKind::Angle, step, cursor);
     case Token::Time: return readMeasure(item, ItemKind::Time, step, cursor);
     case Token::Frequency: return readMeasure(item, ItemKind::Frequency, step, cursor);
-    case Token::ClockValue: return readClockValue(item, cursor) && step.isInRange(item.number);
+    case Token::ClockValue: return readClockValue(item, cursor) && cursor.allows(step, item.number);
     case Token::Color: return readColor(item, cursor) && cursor.atBoundary();
     case Token::Uri: return readUri(item, cursor);
     case Token::Reference: return readReference(item, cursor);
@@ -258,6 +259,8 @@ bool readValue(Item& item, GrammarStep const& step, ValueCursor& cursor) {
     case Token::PathData: return readPathData(cursor.rest()) && readRest(item, cursor);
     case Token::Points: return readPoints(cursor.rest()) && readRest(item, cursor);
     case Token::TransformList: return readTransformList(cursor.rest()) && readRest(item, cursor);
+    case Token::TimingList: return readTimingList(cursor.rest()) && readRest(item, cursor);
+    case Token::UnicodeRange: return readUnicodeRanges(cursor.rest()) && readRest(item, cursor);
     }
     return false;
 }

@@ -11,6 +11,7 @@ namespace Xml {
 struct ValueCursor {
     std::u16string_view text;
     Dialect dialect;
+    Ranges ranges = Ranges::Kept;
     std::size_t index = 0;
 
     bool atEnd() const { return index == text.size(); }
@@ -37,6 +38,9 @@ struct ValueCursor {
         }
         index += word.size();
         return true;
+    }
+    bool allows(GrammarStep const& step, float number) const {
+        return ranges == Ranges::Ignored || step.isInRange(number);
     }
     // Whether a value may end here.
     bool atBoundary() const {

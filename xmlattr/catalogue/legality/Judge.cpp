@@ -1,8 +1,10 @@
 #include "xmlattr/catalogue/legality/Judge.h"
 
+#include "xmlattr/catalogue/grammar/NewerRecommendation.h"
 #include "xmlattr/catalogue/legality/Shorthand.h"
 #include "xmlattr/catalogue/legality/StyleAttribute.h"
 #include "xmlattr/catalogue/legality/ValueOfRow.h"
+#include "xmlattr/catalogue/text/Words.h"
 
 #include "xmlattr/core/Text.h"
 
@@ -12,31 +14,44 @@ namespace Xml {
 
 namespace {
 
-Judgement judgeAttribute(CatalogueEntry const& entry, std::u16string_view text) {
+Judgement judgeIn(Dialect dialect, CatalogueEntry const& entry, std::u16string_view text) {
     switch (entry.kind) {
-    case AttributeKind::Typed: {
-        Judgement judgement{judgeValue(entry, text)};
-        if (judgement.verdict == Verdict::Refused) judgement.tried.push_back(entry.type());
-        return judgement;
-    }
-    case AttributeKind::Shorthand: return judgeShorthand(entry, text);
+    case AttributeKind::Typed: return judgeValue(entry, dialect, text);
+    case AttributeKind::Shorthand: return judgeShorthand(entry, dialect, text);
     case AttributeKind::Identifier:
-    case AttributeKind::Text: return {Verdict::FreeText};
+    case AttributeKind::Text:
     case AttributeKind::Untyped: break;
     }
-    return {Verdict::NotCovered};
+    return judgeByGrammar(entry, dialect, text);
+}
+
+bool isIllegal(Judgement const& judgement) {
+    return judgement.verdict == Verdict::Lenient || judgement.verdict == Verdict::Refused;
+}
+
+bool isNegative(CatalogueEntry const& entry, Dialect dialect, std::u16string_view text) {
+    Meaning meaning;
+    return text.find(u'-') != std::u16string_view::npos &&
+           readMeaning(meaning, entry.grammar, dialect, text, Ranges::Ignored) &&
+           std::ranges::any_of(meaning.values(), [](Item const& item) { return item.number < 0; });
 }
 
 } // namespace
 
 Judgement judge(CatalogueEntry const& entry, std::u16string_view text, Notation notation) {
-    Judgement judgement = judgeAttribute(entry, text);
-    if (judgement.verdict != Verdict::Refused || notation == Notation::Attribute) return judgement;
-    // CSS has no case; the value types read attributes, which have one.
-    std::u16string lower(text);
-    std::ranges::transform(lower, lower.begin(), Core::toLower);
-    if (judgeAttribute(entry, lower).verdict == Verdict::Refused) return judgement;
-    return {Verdict::PassedOver};
+    Dialect const dialect = dialectOf(entry, notation);
+    Judgement judgement = judgeIn(dialect, entry, text);
+    if (!isIllegal(judgement)) return judgement;
+    if (notation == Notation::Declaration) {
+        // CSS has no case; the value types read attributes, which have one.
+        std::u16string lower(text);
+        std::ranges::transform(lower, lower.begin(), Core::toLower);
+        Verdict const verdict = judgeIn(dialect, entry, lower).verdict;
+        if (!isFault(verdict)) return {verdict == Verdict::Read ? Verdict::PassedOver : verdict};
+    }
+    judgement.isNegative = isNegative(entry, dialect, text);
+    if (!judgement.isNegative) judgement.newer = newerRecommendation(dialect, trimXmlSpace(text));
+    return judgement;
 }
 
 Judgement judge(Vocabulary vocabulary, std::string_view element, std::string_view attribute, std::u16string_view text,

@@ -1,5 +1,5 @@
-// Whether a text is legal on an attribute, and what is wrong where it is not: by the value type that reads the attribute
-// and by what the recommendation allows beside it.
+// Whether a text is legal on an attribute and read as it is written: by the recommendation's grammar of the attribute
+// and by the value type that reads it. What to say of a text that is not, and what to write instead, is in Advice.h.
 #pragma once
 
 #include "xmlattr/catalogue/Catalogue.h"
@@ -13,28 +13,44 @@
 namespace Xml {
 
 enum class Verdict : std::uint8_t {
-    Read,       // the value type reads the text, or a part of it in a shorthand
-    PassedOver, // legal, but the formatter's business and not the value type's: "inherit", an expression of XSL-FO
-    FreeText,   // a name, a reference or free text: no text is refused
-    NotCovered, // nothing is known to judge by
-    Refused
+    Read,       // legal, and the value type holds what it means; in a shorthand, of one part at least
+    PassedOver, // legal, but the formatter's business and no value type's: "inherit", an expression of XSL-FO
+    FreeText,   // a name, a reference or free text, as the recommendation allows it
+    Misread,    // legal, but the value type holds something else
+    Lenient,    // not legal, but the value type takes it
+    Refused,    // not legal, and no value type takes it
+    NotCovered  // nothing is known to judge by
 };
+
+// Whether the verdict is one to report.
+constexpr bool isFault(Verdict verdict) {
+    return verdict == Verdict::Misread || verdict == Verdict::Lenient || verdict == Verdict::Refused;
+}
 
 // A verdict and its reason.
 struct Judgement {
     Verdict verdict = Verdict::NotCovered;
-    // Of a refused shorthand: the part that is wrong, a slice of the judged text. Empty: the whole is.
+    // Of a fault: the part of a shorthand or a list that is wrong or read otherwise, a slice of the judged text. Where
+    // something is missing it has no length. A null one is the whole.
     std::u16string_view part{};
-    // Of a refusal: the value types that were asked, none of which reads the part or the whole.
+    // Of a fault: the value types that were asked for the part or the whole; of a misread or lenient one, the type
+    // that reads it.
     std::vector<AttributeType const*> tried{};
-    // Of a refusal where no value type was asked: what is wrong with the text, "is empty".
+    // Of a fault that is not just another value: what is wrong, "is empty" or "expected a number".
     std::string problem{};
+    // Of a misread list: what is held for the part.
+    std::string held{};
+    // Of a lenient or refused text: the newer recommendation that has it, "SVG 2" or "CSS 3"; empty when none has.
+    std::string_view newer{};
+    // Of a lenient or refused text: legal but for its negative number.
+    bool isNegative = false;
 };
 
 // What the text is the value of: an attribute, or a property in a style attribute, where words have any case.
 enum class Notation : std::uint8_t { Attribute, Declaration };
 
-// Takes time linear in the text; allocates for lists, shorthands and refusals only; throws nothing but bad_alloc.
+// White space of XML around the text is no fault where the value type refuses it and reads the rest.
+// Takes time linear in the text; allocates for lists, shorthands and faults only; throws nothing but bad_alloc.
 [[nodiscard]] XMLATTR_API Judgement judge(CatalogueEntry const& entry, std::u16string_view text,
                                           Notation notation = Notation::Attribute);
 

@@ -8,6 +8,7 @@
 #include "xmlattr/core/Text.h"
 
 #include <algorithm>
+#include <optional>
 #include <span>
 #include <string>
 #include <utility>
@@ -24,7 +25,7 @@ bool mayBeStyle(std::u16string_view part) {
 // The parts of one text, judged one after the other.
 class PartsJudge {
 public:
-    explicit PartsJudge(CatalogueEntry const& entry) : entry(entry) {}
+    PartsJudge(CatalogueEntry const& entry, Dialect dialect) : entry(entry), dialect(dialect) {}
 
     // Each part is a value of a longhand, or one of the shorthand's own words.
     Judgement inAnyOrder(std::vector<std::u16string_view> const& parts) {
@@ -52,36 +53,56 @@ public:
         return accepted();
     }
 
+    // Whether the formatter has to work out a part, so that the grammar of the whole does not apply.
+    bool hasComputed() const { return isPartComputed; }
+
 private:
     bool isWord(std::u16string_view part) const {
-        bool const ignoresCase = entry.vocabulary == Vocabulary::Svg;
+        bool const ignoresCase = dialect == Dialect::SvgStyle;
         return std::ranges::any_of(entry.ownWords,
                                    [&](std::string_view word) { return equalsWord(part, word, ignoresCase); });
     }
 
-    // What a type reads is its value, though another property could take it for an expression.
+    // What a type reads is its value, though another property could take it for an expression. A part that types read
+    // otherwise or should not is kept, the first of them.
     bool isOneOf(std::span<CatalogueEntry const* const> longhands, std::u16string_view part) {
         bool hasPassed = false;
+        std::optional<Judgement> taken;
         tried.clear();
         for (CatalogueEntry const* const longhand : longhands) {
             // Of what may be any text, only these two forms are a value among others.
             bool const isOther = !part.starts_with(u"url(") && part != u"none";
             if (longhand->type()->readsAnyText() && longhands.size() > 1 && isOther) continue;
-            Verdict const verdict = judgeValue(*longhand, part);
-            if (verdict == Verdict::Read) return hasRead = true;
-            hasPassed |= verdict == Verdict::PassedOver;
+            Judgement judgement = judgeValue(*longhand, dialect, part);
+            if (judgement.verdict == Verdict::Read) return hasRead = true;
+            if (judgement.verdict == Verdict::PassedOver) {
+                hasPassed = true;
+                isPartComputed = isPartComputed || isComputed(*longhand, part);
+            } else if (judgement.verdict != Verdict::Refused && !taken) {
+                taken = std::move(judgement);
+            }
             tried.push_back(longhand->type());
         }
-        return hasPassed;
+        if (hasPassed || !taken) return hasPassed;
+        if (!fault) {
+            fault = std::move(taken);
+            fault->part = part;
+        }
+        return true;
     }
 
     Judgement refusal(std::u16string_view part) const { return {Verdict::Refused, part, tried}; }
     static Judgement refusal(std::string problem) { return {Verdict::Refused, {}, {}, std::move(problem)}; }
-    Judgement accepted() const { return {hasRead ? Verdict::Read : Verdict::PassedOver}; }
+    Judgement accepted() {
+        if (fault) return std::move(*fault);
+        return {hasRead ? Verdict::Read : Verdict::PassedOver};
+    }
 
     CatalogueEntry const& entry;
+    Dialect dialect;
     std::vector<AttributeType const*> tried;
-    bool hasRead = false;
+    std::optional<Judgement> fault;
+    bool hasRead = false, isPartComputed = false;
 };
 
 bool isOperator(std::u16string_view part) {
@@ -103,12 +124,20 @@ std::vector<std::u16string_view> splitParts(std::u16string_view text, std::u16st
     return parts;
 }
 
-Judgement judgeShorthand(CatalogueEntry const& entry, std::u16string_view text) {
-    if (equalsWord(trimXmlSpace(text), "inherit", entry.vocabulary == Vocabulary::Svg)) return {Verdict::PassedOver};
-    if (entry.longhands.empty() && entry.ownWords.empty()) return {Verdict::NotCovered};
+Judgement judgeShorthand(CatalogueEntry const& entry, Dialect dialect, std::u16string_view text) {
+    if (entry.longhands.empty() && entry.ownWords.empty()) return judgeByGrammar(entry, dialect, text);
+    if (isComputed(entry, text)) return {Verdict::PassedOver};
     auto const parts = splitParts(text, entry.isFont ? u"/" : u"");
     if (parts.empty()) return {Verdict::Refused, {}, {}, "is empty"};
-    return entry.isFont ? PartsJudge(entry).asFont(parts) : PartsJudge(entry).inAnyOrder(parts);
+    PartsJudge judge(entry, dialect);
+    Judgement judgement = entry.isFont ? judge.asFont(parts) : judge.inAnyOrder(parts);
+    Meaning meaning;
+    bool const isLegal = readMeaning(meaning, entry.grammar, dialect, text);
+    // A part may be the value of an attribute that is no row here.
+    if (isLegal && (judgement.verdict == Verdict::Refused || judgement.verdict == Verdict::Lenient))
+        return {Verdict::PassedOver};
+    if (isLegal || isFault(judgement.verdict) || judge.hasComputed()) return judgement;
+    return {Verdict::Refused, {}, {}, "has parts that do not go together"};
 }
 
 } // namespace Xml

@@ -1,6 +1,7 @@
 // Attributes that set several others at once, taken apart.
 #pragma once
 
+#include "xmlattr/catalogue/grammar/Meaning.h"
 #include "xmlattr/catalogue/legality/Judge.h"
 
 #include <string_view>
@@ -12,7 +13,7 @@ namespace Xml {
 // is a part of its own.
 std::vector<std::u16string_view> splitParts(std::u16string_view text, std::u16string_view marks = {});
 
-// Read when a value type reads one part at least, NotCovered when nothing is known of any part.
-Judgement judgeShorthand(CatalogueEntry const& entry, std::u16string_view text);
+// By the grammar of the whole, and by the value types that read the parts.
+Judgement judgeShorthand(CatalogueEntry const& entry, Dialect dialect, std::u16string_view text);
 
 } // namespace Xml

@@ -1,34 +1,69 @@
 #include "xmlattr/catalogue/legality/ValueOfRow.h"
 
 #include "xmlattr/catalogue/AttributeType.h"
-#include "xmlattr/catalogue/legality/AlsoLegal.h"
 #include "xmlattr/catalogue/legality/Expression.h"
+#include "xmlattr/catalogue/legality/TypeReading.h"
 #include "xmlattr/catalogue/text/Words.h"
+
+#include <algorithm>
+#include <utility>
 
 namespace Xml {
 
 namespace {
 
-// "0.0", say: of the zeros without a unit, which XSL-FO allows, its lengths read "0" alone.
-bool isZero(std::u16string_view text) {
-    return text.find(u'0') != std::u16string_view::npos &&
-           text.find_first_not_of(u"0.", text.starts_with(u'-') ? 1 : 0) == std::u16string_view::npos;
+Judgement faultOf(Verdict verdict, CatalogueEntry const& entry, std::u16string_view text, SvgReading&& reading) {
+    Judgement judgement{verdict};
+    judgement.tried.push_back(entry.type());
+    if (reading.length > 0 || reading.offset > 0) judgement.part = text.substr(reading.offset, reading.length);
+    judgement.problem = reading.problem;
+    judgement.held = std::move(reading.held);
+    return judgement;
 }
 
 } // namespace
 
-Verdict judgeValue(CatalogueEntry const& entry, std::u16string_view text) {
-    AttributeType const& type = *entry.type();
-    if (type.accepts(text)) return Verdict::Read;
+Dialect dialectOf(CatalogueEntry const& entry, Notation notation) {
+    if (entry.vocabulary == Vocabulary::Fo) return Dialect::Fo;
+    return notation == Notation::Declaration ? Dialect::SvgStyle : Dialect::SvgAttribute;
+}
+
+bool isComputed(CatalogueEntry const& entry, std::u16string_view text) {
     text = trimXmlSpace(text);
     bool const isFo = entry.vocabulary == Vocabulary::Fo;
-    if (equalsWord(text, "inherit", !isFo)) return Verdict::PassedOver;
-    auto const accepts = [&](std::u16string_view item) { return type.accepts(item); };
-    if (isAlsoLegal(entry.alsoLegal, entry.vocabulary, text, accepts)) return Verdict::PassedOver;
-    if (isFo && isZero(text) && type.accepts(u"0pt")) return Verdict::PassedOver;
-    if (isFo && (type.isEnumeration() ? isCopy(text) : isExpression(text))) return Verdict::PassedOver;
-    // White space around a list is part of its grammar in SVG 1.1.
-    return type.readsList() && type.accepts(text) ? Verdict::PassedOver : Verdict::Refused;
+    if (equalsWord(text, "inherit", !isFo)) return isFo || entry.isPresentation;
+    if (!isFo) return false;
+    AttributeType const* const type = entry.type();
+    return type && type->isEnumeration() ? isCopy(text) : isExpression(text);
+}
+
+Judgement judgeValue(CatalogueEntry const& entry, Dialect dialect, std::u16string_view text) {
+    TypeReading found = readTyped(entry, dialect, text);
+    if (found.isReadAsWritten()) return {Verdict::Read};
+    if (found.isLegal() && !found.isAccepted) {
+        std::u16string_view const trimmed = trimXmlSpace(text);
+        if (trimmed.size() == text.size()) return {Verdict::PassedOver};
+        text = trimmed;
+        found = readTyped(entry, dialect, text);
+        if (found.isReadAsWritten()) return {Verdict::Read};
+        if (!found.isAccepted) return {Verdict::PassedOver};
+    }
+    if (found.isLegal()) return faultOf(Verdict::Misread, entry, text, std::move(found.reading));
+    if (isComputed(entry, text)) return {Verdict::PassedOver};
+    return faultOf(found.isAccepted ? Verdict::Lenient : Verdict::Refused, entry, text, std::move(found.reading));
+}
+
+Judgement judgeByGrammar(CatalogueEntry const& entry, Dialect dialect, std::u16string_view text) {
+    if (!entry.grammar) return {Verdict::NotCovered};
+    Meaning meaning;
+    if (readMeaning(meaning, entry.grammar, dialect, text)) {
+        bool const isFree = entry.kind == AttributeKind::Identifier || entry.kind == AttributeKind::Text ||
+                            std::ranges::any_of(meaning.values(), [](Item const& item) {
+                                return item.kind == ItemKind::Text || item.kind == ItemKind::Uri;
+                            });
+        return {isFree ? Verdict::FreeText : Verdict::PassedOver};
+    }
+    return {isComputed(entry, text) ? Verdict::PassedOver : Verdict::Refused};
 }
 
 } // namespace Xml

@@ -1,0 +1,108 @@
+#include "checking/Finding.h"
+
+#include "text/Text.h"
+
+namespace Command {
+
+namespace {
+
+constexpr FaultKind kinds[] = {
+    {Fault::BadValue, "bad-value", true,
+     "The text is not legal on the attribute, and the value type that reads it refuses it. It is none of what the\n"
+     "formatter works out by itself either: \"inherit\" or an expression of XSL-FO. The message tells what is legal,\n"
+     "and what to write where that can be guessed. `xmlattr show TYPE TEXT` tries a text on a value type.\n"},
+    {Fault::BadWord, "bad-word", false,
+     "The text is not legal on the attribute by its recommendation. No value type reads the attribute, so that it\n"
+     "depends on the formatter what becomes of it.\n"},
+    {Fault::Misread, "misread", false,
+     "The text is legal, but the value type holds something else than it means: \"M0 0a.5.5 0 0 1 1 1\", say, where it\n"
+     "takes \".5.5\" for one number. The message tells what is held, and a text with the same meaning that is read\n"
+     "as it is written.\n"},
+    {Fault::Lenient, "lenient", false,
+     "The text is not legal on the attribute, but the value type takes it nevertheless: margin=\"10\" is 1000%, say.\n"
+     "The message tells what is held; other formatters may refuse the text or read it otherwise.\n"},
+    {Fault::Negative, "negative", false,
+     "The recommendation forbids negative values of the attribute, and the text has one that the value type takes.\n"},
+    {Fault::NewerValue, "newer-value", false,
+     "The text is a value of a recommendation that came after XSL-FO 1.1 and SVG 1.1, such as SVG 2 or CSS 3. It is\n"
+     "no typing error, but the formatter does not read it.\n"},
+    {Fault::UnknownAttribute, "unknown-attribute", false,
+     "The vocabulary has no attribute, or no property, of this name, and no newer recommendation that is known has\n"
+     "one. Attributes of other namespaces, data-*, aria-* and event handlers are never reported.\n"},
+    {Fault::UnknownElement, "unknown-element", false, "The vocabulary has no element of this name.\n"},
+    {Fault::MisplacedAttribute, "misplaced-attribute", false,
+     "The vocabulary has the attribute, but not on this element, where it has no effect. In XSL-FO inherited\n"
+     "properties may stand on every element. Reported with --strict only.\n"},
+    {Fault::DuplicateId, "duplicate-id", false, "Another element of the document has the same id.\n"},
+    {Fault::DanglingReference, "dangling-reference", false,
+     "The attribute refers to an id of the same document that no element has.\n"},
+};
+
+// What a message shows of a long text: about the range that matters.
+std::string around(std::string const& text, std::size_t offset, std::size_t length) {
+    constexpr std::size_t longest = 60, context = 12;
+    if (text.size() <= longest) return printable(text);
+    auto const isInside = [&](std::size_t at) { return (static_cast<unsigned char>(text[at]) & 0xC0) == 0x80; };
+    std::size_t first = offset > context ? offset - context : 0;
+    while (first > 0 && isInside(first)) --first;
+    std::size_t last = std::min(text.size(), offset + std::min(length, longest - context) + context);
+    while (last < text.size() && isInside(last)) ++last;
+    return (first > 0 ? "..." : "") + printable(std::string_view(text).substr(first, last - first)) +
+           (last < text.size() ? "..." : "");
+}
+
+} // namespace
+
+std::span<FaultKind const> faultKinds() {
+    return kinds;
+}
+
+FaultKind const& kindOf(Fault fault) {
+    return kinds[static_cast<std::size_t>(fault)];
+}
+
+std::string Finding::message() const {
+    std::string const where = " on " + printable(element);
+    switch (fault) {
+    case Fault::UnknownElement:
+        return printable(element) + " is no element of its vocabulary" +
+               (replacement.empty() ? "" : "; did you mean " + inQuotes(replacement) + "?");
+    case Fault::UnknownAttribute:
+        return printable(attribute) + where + " is no known attribute" +
+               (replacement.empty() ? "" : "; did you mean " + inQuotes(replacement) + "?");
+    case Fault::MisplacedAttribute: return printable(attribute) + where + " has no effect: the element does not have it";
+    case Fault::DuplicateId: return attribute + "=" + inQuotes(printable(text)) + where + " is the id of another element";
+    case Fault::DanglingReference:
+        return attribute + where + " refers to " + inQuotes(printable(text)) + ", which no element has as its id";
+    case Fault::BadValue:
+    case Fault::BadWord:
+    case Fault::Misread:
+    case Fault::Lenient:
+    case Fault::Negative:
+    case Fault::NewerValue: break;
+    }
+    std::string line = attribute + "=" + inQuotes(around(text, offset, length)) + where;
+    if (!part.empty() && part != text) line += ": " + inQuotes(printable(part));
+    bool const needsExpected = problem.empty() && fault != Fault::Misread;
+    if (!problem.empty())
+        line += (part.empty() || fault == Fault::BadValue ? " " : ": ") + problem;
+    else if (fault == Fault::NewerValue)
+        line += " is " + newer + ", which the formatter does not read";
+    else if (fault == Fault::Negative)
+        line += " is negative";
+    else if (fault != Fault::Misread && (fault != Fault::Lenient || held.empty()))
+        line += " is not legal";
+    if (!held.empty()) {
+        bool const isFirst = line.ends_with('"') || line.ends_with(element);
+        line += std::string(isFirst ? " is read as " : ", and is read as ") + printable(held);
+    } else if (fault == Fault::Misread) {
+        line += " is read otherwise";
+    }
+    if (!replacement.empty())
+        line += "; write " + inQuotes(around(replacement, offset, inserted.size()));
+    else if (needsExpected && fault != Fault::NewerValue && !expected.empty())
+        line += "; expected " + expected;
+    return line;
+}
+
+} // namespace Command

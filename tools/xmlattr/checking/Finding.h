@@ -1,0 +1,61 @@
+// What is wrong with an attribute of a document.
+#pragma once
+
+#include "xml/RawTag.h"
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace Command {
+
+enum class Fault : std::uint8_t {
+    BadValue,         // neither legal nor taken by the value type
+    BadWord,          // not legal, on an attribute without a value type
+    Misread,          // legal, but the value type holds something else
+    Lenient,          // not legal, but the value type takes it
+    Negative,         // a negative number where the recommendation forbids it
+    NewerValue,       // a value of a newer recommendation
+    UnknownAttribute, // or property
+    UnknownElement,
+    MisplacedAttribute, // on an element that does not have it
+    DuplicateId,
+    DanglingReference
+};
+
+struct FaultKind {
+    Fault fault;
+    std::string_view id; // in messages, and for --explain
+    bool isError;        // else a warning
+    std::string_view explanation;
+};
+
+// In the order of the enumeration.
+std::span<FaultKind const> faultKinds();
+FaultKind const& kindOf(Fault fault);
+
+struct Finding {
+    Fault fault{};
+    Place place;
+    std::string element;   // as the document names it
+    std::string attribute; // as the catalogue writes it; in a style attribute the property; empty for an element
+    std::string text;      // of the attribute
+
+    // Of a value, in UTF-8. Empty where they do not apply.
+    std::string part;        // of the text: what is wrong, or held otherwise
+    std::string problem;     // what is wrong with it
+    std::string held;        // what the value type makes of it
+    std::string expected;    // what is legal
+    std::string newer;       // the recommendation that has it
+    std::string replacement; // the whole text to write instead; of a name the name
+    bool isExact = false;    // whether that means the same; else it is what the author may have wanted
+    // The range of code units of the text that the replacement changes, and what it has there.
+    std::size_t offset = 0, length = 0;
+    std::string inserted;
+
+    // In one line, without the place.
+    std::string message() const;
+};
+
+} // namespace Command

@@ -1,0 +1,77 @@
+#include "xmlattr/catalogue/grammar/GrammarText.h"
+
+#include <algorithm>
+#include <ranges>
+
+namespace Xml {
+
+namespace {
+
+constexpr std::string_view transforms[] = {"matrix", "translate", "scale", "rotate", "skewX", "skewY"};
+
+template <class Values> void addOnce(Values& values, typename Values::value_type const& value) {
+    if (std::ranges::find(values, value) == values.end()) values.push_back(value);
+}
+
+std::string_view nounOf(Token token, bool isFo) {
+    switch (token) {
+    case Token::Number: return "a number";
+    case Token::Integer: return "an integer";
+    case Token::Length:
+        return isFo ? "a number with px, pt, pc, cm, mm, in, em or ex"
+                    : "a number, also with px, pt, pc, cm, mm, in, em or ex";
+    case Token::Percentage: return "a percentage";
+    case Token::Angle: return isFo ? "a number with deg, grad or rad" : "a number, also with deg, grad or rad";
+    case Token::Time: return "a number with s or ms";
+    case Token::Frequency: return "a number with Hz or kHz";
+    case Token::ClockValue: return "a time such as 1.5s, 200ms or 02:30";
+    case Token::Color: return "a color";
+    case Token::Uri: return "url(...)";
+    case Token::Reference: return "a reference without blanks";
+    case Token::Iri: return "a reference";
+    case Token::String: return "a text in quotation marks";
+    case Token::Name: return "a name without blanks";
+    case Token::Id:
+    case Token::IdRef: return "an id, which begins with a letter and has no blanks";
+    case Token::Language: return "a language tag such as en-GB";
+    case Token::Country: return "a country of two or three letters";
+    case Token::Script: return "a script of four letters";
+    case Token::Character: return "one character";
+    case Token::FamilyName: return "names of fonts";
+    case Token::Text: return "a text";
+    case Token::Empty: return "nothing";
+    case Token::PathData: return "path data";
+    case Token::Points: return "pairs of numbers";
+    case Token::TransformList: return "transforms such as translate(10 20)";
+    case Token::TimingList: return "times such as 1s or button.click";
+    case Token::UnicodeRange: return "code points such as U+20-7E";
+    }
+    return {};
+}
+
+} // namespace
+
+std::vector<std::string_view> wordsOf(Grammar const& grammar) {
+    std::vector<std::string_view> words;
+    for (GrammarStep const& step : grammar.steps() | std::views::reverse) {
+        if (step.kind == GrammarStep::Word || step.kind == GrammarStep::Call) addOnce(words, step.word);
+        if (step.kind == GrammarStep::Value && step.token == Token::TransformList)
+            for (std::string_view const word : transforms) addOnce(words, word);
+    }
+    return words;
+}
+
+std::string describeGrammar(Grammar const& grammar, Dialect dialect) {
+    std::vector<std::string> parts;
+    for (GrammarStep const& step : grammar.steps() | std::views::reverse) {
+        if (step.kind == GrammarStep::Word) addOnce(parts, std::string(step.word));
+        if (step.kind == GrammarStep::Call) addOnce(parts, std::string(step.word) + "(...)");
+        if (step.kind == GrammarStep::Value) addOnce(parts, std::string(nounOf(step.token, dialect == Dialect::Fo)));
+    }
+    std::string line;
+    for (std::size_t i = 0; i < parts.size(); ++i)
+        line.append(i == 0 ? "" : i + 1 < parts.size() ? ", " : " or ").append(parts[i]);
+    return line;
+}
+
+} // namespace Xml

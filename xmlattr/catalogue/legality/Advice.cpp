@@ -1,0 +1,243 @@
+#include "xmlattr/catalogue/legality/Advice.h"
+
+#include "xmlattr/catalogue/AttributeType.h"
+#include "xmlattr/catalogue/grammar/GrammarText.h"
+#include "xmlattr/catalogue/legality/TypeReading.h"
+#include "xmlattr/catalogue/legality/ValueOfRow.h"
+#include "xmlattr/catalogue/text/Words.h"
+
+#include "xmlattr/core/Text.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <utility>
+#include <vector>
+
+namespace Xml {
+
+namespace {
+
+constexpr std::size_t longestGuess = 64; // a longer text is no mistyped word
+
+bool isLetter(char16_t unit) {
+    return Core::toLower(unit) >= u'a' && Core::toLower(unit) <= u'z';
+}
+
+bool isAlike(char16_t a, char16_t b) {
+    return Core::toLower(a) == Core::toLower(b);
+}
+
+// How many letters are to be replaced, added, dropped or exchanged with their neighbours.
+std::size_t editDistance(std::u16string_view a, std::u16string_view b) {
+    using Row = std::array<std::size_t, longestGuess + 1>;
+    Row before{}, last{}, row{};
+    for (std::size_t j = 0; j <= b.size(); ++j) last[j] = j;
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        row[0] = i + 1;
+        for (std::size_t j = 0; j < b.size(); ++j) {
+            row[j + 1] = std::min({last[j] + (isAlike(a[i], b[j]) ? 0 : 1), last[j + 1] + 1, row[j] + 1});
+            if (i > 0 && j > 0 && isAlike(a[i], b[j - 1]) && isAlike(a[i - 1], b[j]))
+                row[j + 1] = std::min(row[j + 1], before[j - 1] + 1);
+        }
+        before = std::exchange(last, row);
+    }
+    return last[b.size()];
+}
+
+// How many units the two begin and end with alike.
+std::size_t sharedEnds(std::u16string_view a, std::u16string_view b) {
+    auto const [start, other] = std::ranges::mismatch(a, b, isAlike);
+    std::u16string_view const restA(start, a.end()), restB(other, b.end());
+    auto const end = std::mismatch(restA.rbegin(), restA.rend(), restB.rbegin(), restB.rend(), isAlike).first;
+    return static_cast<std::size_t>((start - a.begin()) + (end - restA.rbegin()));
+}
+
+std::u16string inLowerCase(std::u16string_view text) {
+    std::u16string lower(text);
+    std::ranges::transform(lower, lower.begin(), Core::toLower);
+    return lower;
+}
+
+// A unit by its name, or as other programs write it.
+struct UnitName {
+    std::u16string_view written, unit;
+};
+constexpr UnitName unitNames[] = {
+    {u"inch", u"in"},   {u"inches", u"in"}, {u"\"", u"in"},     {u"point", u"pt"},      {u"points", u"pt"},
+    {u"pts", u"pt"},    {u"pixel", u"px"},  {u"pixels", u"px"}, {u"pica", u"pc"},       {u"picas", u"pc"},
+    {u"degree", u"deg"}, {u"degrees", u"deg"}, {u"°", u"deg"},  {u"percent", u"%"},     {u"pct", u"%"},
+};
+
+// Texts for which authors write such a one: a number with another decimal point, unit or a blank before it.
+void addNumbers(std::vector<std::u16string>& guesses, std::u16string_view text) {
+    std::size_t i = 0;
+    auto const skipDigits = [&] {
+        std::size_t const first = i;
+        while (i < text.size() && Core::isDigit(text[i])) ++i;
+        return i > first;
+    };
+    if (!text.empty() && (text[0] == u'-' || text[0] == u'+')) ++i;
+    bool const hasDigits = skipDigits();
+    std::size_t const point = i;
+    bool const hasPoint = i < text.size() && (text[i] == u'.' || text[i] == u',');
+    if (hasPoint && (++i, !skipDigits())) return;
+    if (!hasDigits && !hasPoint) return;
+    std::u16string number(text.substr(0, i));
+    if (hasPoint) number[point] = u'.';
+    std::u16string const unit = inLowerCase(trimXmlSpace(text.substr(i)));
+    if (std::ranges::any_of(unit, Core::isDigit)) return;
+    guesses.push_back(number + unit);
+    if (unit.empty()) guesses.push_back(number + u"pt");
+    for (UnitName const& row : unitNames)
+        if (row.written == unit) guesses.push_back(number + std::u16string(row.unit));
+}
+
+void addColors(std::vector<std::u16string>& guesses, std::u16string_view text) {
+    bool const areDigits = std::ranges::all_of(text, [](char16_t unit) { return Core::hexDigit(unit) >= 0; });
+    if ((text.size() == 3 || text.size() == 6) && areDigits) guesses.push_back(u"#" + std::u16string(text));
+}
+
+// A word with blanks in it.
+void addJoined(std::vector<std::u16string>& guesses, std::u16string_view text) {
+    std::u16string joined(text);
+    std::erase_if(joined, isXmlSpace);
+    if (std::ranges::all_of(joined, [](char16_t unit) { return isLetter(unit) || unit == u'-'; }))
+        guesses.push_back(std::move(joined));
+}
+
+std::u16string unquoted(std::u16string_view text) {
+    bool const isQuoted = text.size() > 2 && (text[0] == u'"' || text[0] == u'\'') && text.back() == text[0];
+    return std::u16string(isQuoted ? text.substr(1, text.size() - 2) : text);
+}
+
+class Adviser {
+public:
+    Adviser(CatalogueEntry const& entry, std::u16string_view text, Notation notation, Judgement const& judgement)
+        : entry(entry), text(text), notation(notation), judgement(judgement),
+          part(judgement.part.data() ? judgement.part : text) {}
+
+    Advice advise() {
+        Dialect const dialect = dialectOf(entry, notation);
+        advice.expected = describeGrammar(entry.grammar, dialect);
+        if (judgement.verdict != Verdict::Refused) setHeld();
+        if (judgement.verdict == Verdict::Misread && entry.type()) {
+            if (auto rewritten = rewriteTyped(entry, dialect, text)) {
+                advice.replacement = std::move(*rewritten);
+                advice.isExact = true;
+            }
+        } else if (text.size() <= longestGuess && !judgement.isNegative && judgement.newer.empty()) {
+            guess();
+        }
+        setChange();
+        return std::move(advice);
+    }
+
+private:
+    void setHeld() {
+        if (!judgement.held.empty()) {
+            advice.held.assign(judgement.held.begin(), judgement.held.end());
+            return;
+        }
+        AttributeType const* const type = judgement.tried.empty() ? nullptr : judgement.tried.back();
+        if (!type || type->readsList()) return;
+        AnyAttribute attribute(*type);
+        if (!attribute.parseValue(part)) return;
+        advice.held = attribute.getValueAsString();
+    }
+
+    void guess() {
+        std::u16string_view const trimmed = trimXmlSpace(part);
+        if (trimmed.empty()) return;
+        std::vector<std::u16string> guesses = variantsOf(trimmed);
+        addNearest(guesses, trimmed);
+        for (std::u16string const& candidate : guesses)
+            if (candidate != part && take(candidate)) return;
+    }
+
+    void addNearest(std::vector<std::u16string>& guesses, std::u16string_view trimmed) const {
+        std::vector<std::u16string> words;
+        for (std::string_view const word : wordsOf(entry.grammar)) words.emplace_back(word.begin(), word.end());
+        for (AttributeType const* const type : judgement.tried)
+            for (std::u16string_view const word : type->words()) words.emplace_back(word);
+        std::vector<std::u16string_view> views(words.begin(), words.end());
+        constexpr int mostTries = 4; // a word that the type reads may be none that is legal
+        for (int i = 0; i < mostTries; ++i) {
+            std::u16string_view const nearest = nearestWord(trimmed, views);
+            if (nearest.empty()) return;
+            guesses.emplace_back(nearest);
+            std::erase(views, nearest);
+        }
+    }
+
+    // The text with this in the place of the part.
+    std::u16string with(std::u16string_view candidate) const {
+        auto const begin = static_cast<std::size_t>(part.data() - text.data());
+        return std::u16string(text.substr(0, begin)).append(candidate).append(text.substr(begin + part.size()));
+    }
+
+    bool isRead(std::u16string const& whole) const {
+        Verdict const verdict = judge(entry, whole, notation).verdict;
+        return verdict == Verdict::Read || (!entry.type() && verdict == Verdict::PassedOver);
+    }
+
+    bool take(std::u16string_view candidate) {
+        std::u16string whole = with(candidate);
+        if (!isRead(whole)) return false;
+        advice.replacement = std::move(whole);
+        return true;
+    }
+
+    void setChange() {
+        if (advice.replacement.empty()) return;
+        std::u16string_view const to = advice.replacement;
+        advice.offset = static_cast<std::size_t>(std::ranges::mismatch(text, to).in1 - text.begin());
+        std::u16string_view const restFrom = text.substr(advice.offset), restTo = to.substr(advice.offset);
+        advice.unchangedEnd = static_cast<std::size_t>(
+            std::mismatch(restFrom.rbegin(), restFrom.rend(), restTo.rbegin(), restTo.rend()).first -
+            restFrom.rbegin());
+        advice.length = text.size() - advice.unchangedEnd - advice.offset;
+    }
+
+    CatalogueEntry const& entry;
+    std::u16string_view text;
+    Notation notation;
+    Judgement const& judgement;
+    std::u16string_view part;
+    Advice advice;
+};
+
+} // namespace
+
+std::vector<std::u16string> variantsOf(std::u16string_view text) {
+    text = trimXmlSpace(text);
+    std::vector<std::u16string> variants{std::u16string(text), inLowerCase(text), unquoted(text)};
+    addNumbers(variants, text);
+    addColors(variants, text);
+    addJoined(variants, text);
+    return variants;
+}
+
+std::u16string_view nearestWord(std::u16string_view text, std::span<std::u16string_view const> words) {
+    bool const isWord = std::ranges::all_of(text, [](char16_t unit) { return isLetter(unit) || unit == u'-'; });
+    if (text.size() > longestGuess || !isWord) return {};
+    std::u16string_view nearest;
+    std::pair best(longestGuess, std::size_t{0}); // the distance and what it leaves alike
+    for (std::u16string_view const word : words) {
+        if (word.size() > longestGuess) continue;
+        std::pair const found(editDistance(text, word), sharedEnds(text, word));
+        bool const isBetter = found.first < best.first || (found.first == best.first && found.second > best.second);
+        std::size_t const most = word.size() < 3 ? 0 : word.size() < 5 ? 1 : 2;
+        if (found.first <= most && isBetter) {
+            nearest = word;
+            best = found;
+        }
+    }
+    return nearest;
+}
+
+Advice advise(CatalogueEntry const& entry, std::u16string_view text, Notation notation, Judgement const& judgement) {
+    return Adviser(entry, text, notation, judgement).advise();
+}
+
+} // namespace Xml

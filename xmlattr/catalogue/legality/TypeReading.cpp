@@ -1,0 +1,184 @@
+#include "xmlattr/catalogue/legality/TypeReading.h"
+
+#include "xmlattr/catalogue/grammar/Agrees.h"
+#include "xmlattr/catalogue/text/Words.h"
+
+#include "xmlattr/Instantiations.h"
+#include "xmlattr/core/Format.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <vector>
+
+namespace Xml {
+
+namespace {
+
+using PathData = Core::Vector<PathDataCommand>;
+using Points = Core::Vector<Point>;
+using Transforms = Core::Vector<Transform>;
+using Lengths = Core::Vector<SLength>;
+
+// The lists that have a comparison of their own, which keeps no items.
+SvgReading compareWith(Grammar const& /*grammar*/, std::u16string_view text, PathData const& held) {
+    return compare(text, held);
+}
+SvgReading compareWith(Grammar const& /*grammar*/, std::u16string_view text, Points const& held) {
+    return compare(text, held);
+}
+SvgReading compareWith(Grammar const& /*grammar*/, std::u16string_view text, Transforms const& held) {
+    return compare(text, held);
+}
+SvgReading compareWith(Grammar const& /*grammar*/, std::u16string_view text, ViewBox const& held) {
+    return compare(text, held);
+}
+SvgReading compareWith(Grammar const& grammar, std::u16string_view text, Lengths const& held) {
+    return compare(text, held, listRuleOf(grammar));
+}
+
+std::optional<std::u16string> rewriteAs(Grammar const& /*grammar*/, std::u16string_view text, PathData const*) {
+    return rewritePathData(text);
+}
+std::optional<std::u16string> rewriteAs(Grammar const& /*grammar*/, std::u16string_view text, Points const*) {
+    return rewritePoints(text);
+}
+std::optional<std::u16string> rewriteAs(Grammar const& /*grammar*/, std::u16string_view text, Transforms const*) {
+    return rewriteTransformList(text);
+}
+std::optional<std::u16string> rewriteAs(Grammar const& /*grammar*/, std::u16string_view text, ViewBox const*) {
+    return rewriteViewBox(text);
+}
+std::optional<std::u16string> rewriteAs(Grammar const& grammar, std::u16string_view text, Lengths const*) {
+    return rewriteSvgList(text, listRuleOf(grammar));
+}
+
+template <class T>
+concept HasComparison = requires(Grammar const& grammar, T const& value) {
+    compareWith(grammar, {}, value);
+};
+template <class T>
+concept HasAgreement = requires(Meaning const& meaning, T const& value) {
+    agrees(meaning, value);
+};
+
+template <class T> TypeReading readAs(Grammar const& grammar, Dialect dialect, std::u16string_view text) {
+    TypeReading result;
+    T value{};
+    result.isAccepted = AttributeTraits<T>::parse(value, text);
+    if constexpr (HasComparison<T>) {
+        result.reading = compareWith(grammar, text, value);
+    } else if constexpr (HasAgreement<T>) {
+        Meaning meaning;
+        if (!readMeaning(meaning, grammar, dialect, text))
+            result.reading.outcome = SvgReading::Outcome::Illegal;
+        else if (result.isAccepted && !agrees(meaning, value))
+            result.reading.outcome = SvgReading::Outcome::Differs;
+    }
+    return result;
+}
+
+// The values of the text in the plainest form of their numbers: "+.5e1" as "5". Nothing where there are others.
+std::optional<std::u16string> inPlainNumbers(Grammar const& grammar, Dialect dialect, std::u16string_view text) {
+    Meaning meaning;
+    if (!readMeaning(meaning, grammar, dialect, text)) return std::nullopt;
+    std::u16string plain;
+    for (Item const& item : meaning.values()) {
+        bool const isNumber =
+            item.kind == ItemKind::Number || item.kind == ItemKind::Length || item.kind == ItemKind::Percentage;
+        if (!isNumber) return std::nullopt;
+        if (!plain.empty()) plain += u' ';
+        plain.append(std::u16string_view(Core::Format::toShortest(item.number))).append(item.unit);
+    }
+    return plain;
+}
+
+template <class T>
+std::optional<std::u16string> rewriteFor(Grammar const& grammar, Dialect dialect, std::u16string_view text) {
+    std::u16string_view const trimmed = trimXmlSpace(text);
+    if constexpr (HasComparison<T>) {
+        return rewriteAs(grammar, trimmed, static_cast<T const*>(nullptr));
+    } else {
+        if (readAs<T>(grammar, dialect, trimmed).isReadAsWritten()) return std::u16string(trimmed);
+        auto plain = inPlainNumbers(grammar, dialect, text);
+        return plain && readAs<T>(grammar, dialect, *plain).isReadAsWritten() ? plain : std::nullopt;
+    }
+}
+
+struct Readers {
+    TypeReading (*read)(Grammar const& grammar, Dialect dialect, std::u16string_view text);
+    std::optional<std::u16string> (*rewrite)(Grammar const& grammar, Dialect dialect, std::u16string_view text);
+};
+
+// By the number of the type.
+constexpr Readers readers[] = {
+#define XMLATTR_PUBLIC_VALUE(...) {readAs<__VA_ARGS__>, rewriteFor<__VA_ARGS__>},
+#define XMLATTR_INTERNAL_VALUE(...) XMLATTR_PUBLIC_VALUE(__VA_ARGS__)
+#include "xmlattr/ValueTypes.inc"
+};
+
+// How many values there are on the ways from a step to the end.
+class Counter {
+public:
+    explicit Counter(std::span<GrammarStep const> steps) : steps(steps), isOpen(steps.size()) {}
+
+    struct Range {
+        std::size_t fewest, most;
+    };
+
+    Range from(std::size_t number) {
+        constexpr Range dead{SIZE_MAX, 0};
+        if (number == 0) return {0, 0};
+        if (isOpen[number]) {
+            isEndless = true;
+            return dead;
+        }
+        GrammarStep const& step = steps[number];
+        if (step.kind == GrammarStep::Word) return dead;
+        isOpen[number] = true;
+        Range range = from(step.next);
+        if (step.kind == GrammarStep::Choice) {
+            Range const other = from(step.other);
+            range = {std::min(range.fewest, other.fewest), std::max(range.most, other.most)};
+        } else if (step.kind == GrammarStep::Value && range.fewest != SIZE_MAX) {
+            range = {range.fewest + 1, range.most + 1};
+        }
+        isOpen[number] = false;
+        return range;
+    }
+
+    bool isEndless = false;
+
+private:
+    std::span<GrammarStep const> steps;
+    std::vector<bool> isOpen;
+};
+
+} // namespace
+
+SvgListRule listRuleOf(Grammar const& grammar) {
+    SvgListRule rule;
+    for (GrammarStep const& step : grammar.steps()) {
+        if (step.kind == GrammarStep::Word && step.word == "none") rule.none = true;
+        if (step.kind != GrammarStep::Value) continue;
+        rule.units = rule.units || step.token == Token::Length || step.token == Token::Percentage;
+        rule.whole = rule.whole || step.token == Token::Integer;
+        rule.minimum = std::max(rule.minimum, step.least);
+        rule.aboveMinimum = rule.aboveMinimum || step.aboveLeast;
+    }
+    Counter counter(grammar.steps());
+    auto const [fewest, most] = counter.from(grammar.steps().size() - 1);
+    rule.fewest = fewest;
+    rule.most = counter.isEndless ? SIZE_MAX : most;
+    return rule;
+}
+
+TypeReading readTyped(CatalogueEntry const& entry, Dialect dialect, std::u16string_view text) {
+    return readers[entry.typeNumber].read(entry.grammar, dialect, text);
+}
+
+std::optional<std::u16string> rewriteTyped(CatalogueEntry const& entry, Dialect dialect, std::u16string_view text) {
+    return readers[entry.typeNumber].rewrite(entry.grammar, dialect, text);
+}
+
+} // namespace Xml
