@@ -95,8 +95,7 @@ constexpr auto longhandsOf = [] {
     return longhands;
 }();
 
-template <class T, class Constant>
-consteval CatalogueEntry typed(CatalogueEntry row, std::string_view constant) {
+template <class T, class Constant> consteval CatalogueEntry typed(CatalogueEntry row, std::string_view constant) {
     constexpr bool hasDefault = !std::is_same_v<Constant, None const>;
     static_assert(typeNumber<T> < typeNames.size(), "the value type of this row is not in ValueTypes.inc");
     static_assert(!hasDefault || std::is_same_v<Constant, TXmlAttribute<T> const>,
@@ -121,9 +120,9 @@ consteval CatalogueEntry shorthand(CatalogueEntry row, Parts parts, std::span<Ca
 #define XMLATTR_ROW(kind, elements, attribute, scope, grammar, initial, note)                                          \
     CatalogueEntry {                                                                                                   \
         XMLATTR_VOCABULARY, AttributeKind::kind, (scope).isInherited, (scope).isPresentation, wordsOf<elements>,       \
-            attribute, grammarOf<grammar>, initial, note                                                                        \
+            attribute, grammarOf<grammar>, initial, note                                                               \
     }
-#define XMLATTR_TYPED(elements, attribute, scope, type, constant, grammar, initial, note)                   \
+#define XMLATTR_TYPED(elements, attribute, scope, type, constant, grammar, initial, note)                              \
     typed<type, decltype(constant)>(XMLATTR_ROW(Typed, elements, attribute, scope, grammar, initial, note), #constant),
 #define XMLATTR_SHORTHAND(elements, attribute, scope, parts, longhands, words, grammar, initial, note)                 \
     shorthand(XMLATTR_ROW(Shorthand, elements, attribute, scope, grammar, initial, note), parts,                       \

@@ -66,7 +66,7 @@ void Checker::startElement(XmlElement const& element, Tag& tag) {
             report(finding);
         }
     }
-    bool const isInStylesheet = element.namespaces.has(xsltNamespace);
+    bool const isInStylesheet = element.namespaces.hasXslt();
     for (std::size_t i = 0; i < element.attributes.size(); ++i) {
         XmlAttributeText const& attribute = element.attributes[i];
         if (isInStylesheet && isTemplate(attribute.value)) {
@@ -112,11 +112,11 @@ void Checker::check(Occurrence const& occurrence) {
         ++counts.unknown;
         return checkName(occurrence);
     }
-    bool const isMisplaced = options.isStrict && !occurrence.isDeclaration() && !occurrence.element.empty() &&
-                             Xml::Elements::isKnown(occurrence.vocabulary, occurrence.element) &&
-                             !Xml::Elements::has(occurrence.vocabulary, occurrence.element, occurrence.name) &&
-                             (occurrence.vocabulary == Xml::Vocabulary::Fo ||
-                              !Xml::Names::isNewerOn(occurrence.element, occurrence.name));
+    bool const isMisplaced =
+        options.isStrict && !occurrence.isDeclaration() && !occurrence.element.empty() &&
+        Xml::Elements::isKnown(occurrence.vocabulary, occurrence.element) &&
+        !Xml::Elements::has(occurrence.vocabulary, occurrence.element, occurrence.name) &&
+        (occurrence.vocabulary == Xml::Vocabulary::Fo || !Xml::Names::isNewerOn(occurrence.element, occurrence.name));
     if (isMisplaced && isReported(Fault::MisplacedAttribute)) {
         Finding finding;
         finding.fault = Fault::MisplacedAttribute;
@@ -149,8 +149,12 @@ void Checker::checkName(Occurrence const& occurrence) {
 }
 
 void Checker::checkValue(Occurrence const& occurrence, Xml::CatalogueEntry const& entry) {
-    if (entry.type() && entry.type()->readsList() && occurrence.value.size() > longestList) {
+    if (occurrence.value.size() > longestList && entry.type() && entry.type()->readsList()) {
         ++counts.tooLong;
+        return;
+    }
+    if (entry.grammar.text() == "<text>") {
+        ++counts.freeText;
         return;
     }
     std::optional<Xml::Judgement> judgement;

@@ -15,7 +15,8 @@ constexpr FaultKind kinds[] = {
      "The text is not legal on the attribute by its recommendation. No value type reads the attribute, so that it\n"
      "depends on the formatter what becomes of it.\n"},
     {Fault::Misread, "misread", false,
-     "The text is legal, but the value type holds something else than it means: \"M0 0a.5.5 0 0 1 1 1\", say, where it\n"
+     "The text is legal, but the value type holds something else than it means: \"M0 0a.5.5 0 0 1 1 1\", say, where "
+     "it\n"
      "takes \".5.5\" for one number. The message tells what is held, and a text with the same meaning that is read\n"
      "as it is written.\n"},
     {Fault::Lenient, "lenient", false,
@@ -70,8 +71,10 @@ std::string Finding::message() const {
     case Fault::UnknownAttribute:
         return printable(attribute) + where + " is no known attribute" +
                (replacement.empty() ? "" : "; did you mean " + inQuotes(replacement) + "?");
-    case Fault::MisplacedAttribute: return printable(attribute) + where + " has no effect: the element does not have it";
-    case Fault::DuplicateId: return attribute + "=" + inQuotes(printable(text)) + where + " is the id of another element";
+    case Fault::MisplacedAttribute:
+        return printable(attribute) + where + " has no effect: the element does not have it";
+    case Fault::DuplicateId:
+        return attribute + "=" + inQuotes(printable(text)) + where + " is the id of another element";
     case Fault::DanglingReference:
         return attribute + where + " refers to " + inQuotes(printable(text)) + ", which no element has as its id";
     case Fault::BadValue:
@@ -83,7 +86,8 @@ std::string Finding::message() const {
     }
     std::string line = attribute + "=" + inQuotes(around(text, offset, length)) + where;
     if (!part.empty() && part != text) line += ": " + inQuotes(printable(part));
-    bool const needsExpected = problem.empty() && fault != Fault::Misread;
+    bool const needsExpected =
+        problem.empty() && (fault == Fault::BadValue || fault == Fault::BadWord || fault == Fault::Lenient);
     if (!problem.empty())
         line += (part.empty() || fault == Fault::BadValue ? " " : ": ") + problem;
     else if (fault == Fault::NewerValue)
@@ -100,7 +104,7 @@ std::string Finding::message() const {
     }
     if (!replacement.empty())
         line += "; write " + inQuotes(around(replacement, offset, inserted.size()));
-    else if (needsExpected && fault != Fault::NewerValue && !expected.empty())
+    else if (needsExpected && !expected.empty())
         line += "; expected " + expected;
     return line;
 }

@@ -52,7 +52,7 @@ std::string templateText(std::string_view text) {
 
 void Stylesheet::startElement(XmlElement const& element) {
     while (!results.empty() && results.back().depth >= element.depth) results.pop_back();
-    if (!element.namespaces.has(xsltNamespace)) return;
+    if (!element.namespaces.hasXslt()) return;
     if (element.space != xsltNamespace) {
         results.push_back({element.depth, Xml::Catalogue::vocabularyOf(element.space), std::string(element.name)});
     } else if (element.name == "element") {

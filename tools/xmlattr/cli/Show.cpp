@@ -1,5 +1,5 @@
-#include "cli/Hints.h"
 #include "cli/Commands.h"
+#include "cli/Hints.h"
 #include "cli/NamedType.h"
 #include "text/Text.h"
 

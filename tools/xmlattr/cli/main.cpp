@@ -62,7 +62,8 @@ int run(int argc, char** argv) {
     app.add_option("--explain", explained, "What messages with this id mean")->type_name("ID");
 
     CheckOptions checking;
-    CLI::App* const checkCommand = app.add_subcommand("check", "Report each attribute that is not read as it is written");
+    CLI::App* const checkCommand =
+        app.add_subcommand("check", "Report each attribute that is not read as it is written");
     checkCommand
         ->add_option("FILE", checking.paths,
                      "Documents; directories, for their documents and stylesheets; - for standard input")

@@ -20,12 +20,14 @@ public:
     void begin(std::string_view prefix, std::string_view space) {
         byPrefix[std::string(prefix)].emplace_back(space);
         ++declarations[std::string(space)];
+        if (space == xsltNamespace) ++stylesheets;
     }
 
     void end(std::string_view prefix) {
         auto const found = byPrefix.find(prefix);
         if (found == byPrefix.end()) return;
         std::vector<std::string>& spaces = found->second;
+        if (spaces.back() == xsltNamespace) --stylesheets;
         if (auto const count = declarations.find(spaces.back()); --count->second == 0) declarations.erase(count);
         spaces.pop_back();
         if (spaces.empty()) byPrefix.erase(found);
@@ -37,7 +39,9 @@ public:
         return found == byPrefix.end() ? std::string_view() : found->second.back();
     }
 
-    // Whether some prefix is declared for the namespace.
+    // Whether some prefix is declared for that of XSLT, which is asked at every element.
+    bool hasXslt() const { return stylesheets > 0; }
+    // The same for any namespace.
     bool has(std::string_view space) const { return declarations.contains(space); }
 
 private:
@@ -48,6 +52,7 @@ private:
 
     Map<std::vector<std::string>> byPrefix;
     Map<int> declarations; // of each namespace
+    int stylesheets = 0;   // those of XSLT
 };
 
 } // namespace Command

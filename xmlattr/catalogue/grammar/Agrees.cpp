@@ -234,7 +234,8 @@ bool agrees(Meaning const& meaning, SPreserveAspectRatio const& ratio) {
 }
 
 bool agrees(Meaning const& meaning, TextAlign const& align) {
-    bool const isString = meaning.size() == 1 && meaning[0].kind == ItemKind::Text;
+    // "." and "," are strings to align at, which may stand without quotation marks.
+    bool const isString = meaning.size() == 1 && (meaning[0].kind == ItemKind::Text || meaning[0].text.size() == 1);
     return isString == (align.getType() == TextAlignType::AlignmentString);
 }
 

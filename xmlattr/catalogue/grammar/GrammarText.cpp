@@ -1,7 +1,9 @@
 #include "xmlattr/catalogue/grammar/GrammarText.h"
 
+#include "xmlattr/core/Format.h"
+
 #include <algorithm>
-#include <ranges>
+#include <cmath>
 
 namespace Xml {
 
@@ -49,11 +51,23 @@ std::string_view nounOf(Token token, bool isFo) {
     return {};
 }
 
+std::string textOf(float limit) {
+    return Core::Format::toShortest(limit).toUtf8();
+}
+
+std::string rangeOf(GrammarStep const& step) {
+    bool const hasLeast = std::isfinite(step.least), hasMost = std::isfinite(step.most);
+    if (hasLeast && hasMost) return " from " + textOf(step.least) + " to " + textOf(step.most);
+    if (hasLeast && step.least == 0) return step.aboveLeast ? " above 0" : "";
+    if (hasLeast) return (step.aboveLeast ? " above " : " of at least ") + textOf(step.least);
+    return hasMost ? " of at most " + textOf(step.most) : "";
+}
+
 } // namespace
 
 std::vector<std::string_view> wordsOf(Grammar const& grammar) {
     std::vector<std::string_view> words;
-    for (GrammarStep const& step : grammar.steps() | std::views::reverse) {
+    for (GrammarStep const& step : grammar.steps()) {
         if (step.kind == GrammarStep::Word || step.kind == GrammarStep::Call) addOnce(words, step.word);
         if (step.kind == GrammarStep::Value && step.token == Token::TransformList)
             for (std::string_view const word : transforms) addOnce(words, word);
@@ -63,10 +77,15 @@ std::vector<std::string_view> wordsOf(Grammar const& grammar) {
 
 std::string describeGrammar(Grammar const& grammar, Dialect dialect) {
     std::vector<std::string> parts;
-    for (GrammarStep const& step : grammar.steps() | std::views::reverse) {
+    // Choices stand in their order among the steps, and what belongs together from its end to its beginning.
+    int depth = 0; // of calls, whose arguments are not told
+    for (GrammarStep const& step : grammar.steps()) {
+        if (step.kind == GrammarStep::Mark && step.word == ")") ++depth;
+        if (step.kind == GrammarStep::Call && --depth == 0) addOnce(parts, std::string(step.word) + "(...)");
+        if (depth > 0) continue;
         if (step.kind == GrammarStep::Word) addOnce(parts, std::string(step.word));
-        if (step.kind == GrammarStep::Call) addOnce(parts, std::string(step.word) + "(...)");
-        if (step.kind == GrammarStep::Value) addOnce(parts, std::string(nounOf(step.token, dialect == Dialect::Fo)));
+        if (step.kind == GrammarStep::Value)
+            addOnce(parts, std::string(nounOf(step.token, dialect == Dialect::Fo)) + rangeOf(step));
     }
     std::string line;
     for (std::size_t i = 0; i < parts.size(); ++i)

@@ -35,7 +35,7 @@ enum class Token : std::uint8_t {
     PathData,   // the rest, as SvgLists.h has it; likewise the next two
     Points,
     TransformList,
-    TimingList,   // the rest, as SvgTexts.h has it; likewise the next one
+    TimingList, // the rest, as SvgTexts.h has it; likewise the next one
     UnicodeRange,
 };
 

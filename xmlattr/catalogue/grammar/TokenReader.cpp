@@ -166,7 +166,7 @@ bool readReference(Item& item, ValueCursor& cursor) {
 bool readFamilyName(Item& item, ValueCursor& cursor) {
     if (cursor.peek() == u'"' || cursor.peek() == u'\'') return readString(item, cursor);
     std::size_t const first = cursor.index;
-    while (!cursor.atEnd() && std::u16string_view(u",;()\"'").find(cursor.peek()) == std::u16string_view::npos)
+    while (!cursor.atEnd() && std::u16string_view(u",;/()\"'").find(cursor.peek()) == std::u16string_view::npos)
         ++cursor.index;
     item.text = trimXmlSpace(cursor.text.substr(first, cursor.index - first));
     return !item.text.empty() && (cursor.atEnd() || cursor.peek() == u',');

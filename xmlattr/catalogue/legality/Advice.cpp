@@ -64,9 +64,9 @@ struct UnitName {
     std::u16string_view written, unit;
 };
 constexpr UnitName unitNames[] = {
-    {u"inch", u"in"},   {u"inches", u"in"}, {u"\"", u"in"},     {u"point", u"pt"},      {u"points", u"pt"},
-    {u"pts", u"pt"},    {u"pixel", u"px"},  {u"pixels", u"px"}, {u"pica", u"pc"},       {u"picas", u"pc"},
-    {u"degree", u"deg"}, {u"degrees", u"deg"}, {u"°", u"deg"},  {u"percent", u"%"},     {u"pct", u"%"},
+    {u"inch", u"in"},    {u"inches", u"in"},   {u"\"", u"in"},     {u"point", u"pt"},  {u"points", u"pt"},
+    {u"pts", u"pt"},     {u"pixel", u"px"},    {u"pixels", u"px"}, {u"pica", u"pc"},   {u"picas", u"pc"},
+    {u"degree", u"deg"}, {u"degrees", u"deg"}, {u"°", u"deg"},     {u"percent", u"%"}, {u"pct", u"%"},
 };
 
 // Texts for which authors write such a one: a number with another decimal point, unit or a blank before it.
@@ -114,7 +114,10 @@ std::u16string unquoted(std::u16string_view text) {
 class Adviser {
 public:
     Adviser(CatalogueEntry const& entry, std::u16string_view text, Notation notation, Judgement const& judgement)
-        : entry(entry), text(text), notation(notation), judgement(judgement),
+        : entry(entry),
+          text(text),
+          notation(notation),
+          judgement(judgement),
           part(judgement.part.data() ? judgement.part : text) {}
 
     Advice advise() {
@@ -211,8 +214,10 @@ private:
 
 std::vector<std::u16string> variantsOf(std::u16string_view text) {
     text = trimXmlSpace(text);
-    std::vector<std::u16string> variants{std::u16string(text), inLowerCase(text), unquoted(text)};
+    std::vector<std::u16string> variants{std::u16string(text)};
     addNumbers(variants, text);
+    variants.push_back(inLowerCase(text));
+    variants.push_back(unquoted(text));
     addColors(variants, text);
     addJoined(variants, text);
     return variants;

@@ -1,0 +1,106 @@
+#include "xmlattr/catalogue/legality/Advice.h"
+#include "Support.h"
+
+namespace Xml {
+namespace {
+
+constexpr Vocabulary Fo = Vocabulary::Fo, Svg = Vocabulary::Svg;
+
+struct Row {
+    Vocabulary vocabulary;
+    char const *element, *attribute;
+    char16_t const* text;
+    Verdict verdict;
+    char const *held, *replacement;
+    bool isExact = false;
+};
+
+void expectAdvice(std::initializer_list<Row> rows) {
+    for (Row const& row : rows) {
+        CatalogueEntry const* const entry = Catalogue::find(row.vocabulary, row.element, row.attribute);
+        ASSERT_NE(entry, nullptr) << row.attribute;
+        std::u16string const text = row.text;
+        Judgement const judgement = judge(*entry, text);
+        SCOPED_TRACE(std::string(row.attribute) + "=" + narrow(row.text));
+        EXPECT_EQ(judgement.verdict, row.verdict);
+        if (!isFault(judgement.verdict)) continue;
+        Advice const advice = advise(*entry, text, Notation::Attribute, judgement);
+        EXPECT_EQ(Core::String(advice.held).toUtf8(), row.held);
+        EXPECT_EQ(Core::String(advice.replacement).toUtf8(), row.replacement);
+        EXPECT_EQ(advice.isExact, row.isExact);
+        if (advice.replacement.empty()) continue;
+        EXPECT_EQ(std::u16string(text).replace(advice.offset, advice.length, advice.inserted()), advice.replacement);
+        EXPECT_EQ(judge(*entry, advice.replacement).verdict,
+                  entry->type() || !entry->longhands.empty() ? Verdict::Read : Verdict::PassedOver);
+    }
+}
+
+TEST(Advice, WritesWhatIsMisreadAnotherWay) {
+    using enum Verdict;
+    expectAdvice({
+        {Svg, "path", "d", u"M0 0a.5.5 0 1 1 1 1", Misread, "0", "M0 0a.5 .5 0 1 1 1 1", true},
+        {Svg, "path", "d", u"m1,1l2-3", Read, "", ""},
+        {Svg, "g", "transform", u"translate(-1-1)", Misread, "no transform", "translate(-1 -1)", true},
+        {Svg, "polygon", "points", u"0,0 1-1", Read, "", ""},
+        {Fo, "block", "hyphenate", u"true ", Misread, "", "true", true},
+        {Fo, "external-graphic", "src", u" a.png", Misread, "url( a.png)", "a.png", true},
+    });
+}
+
+TEST(Advice, GuessesOnlyWhatIsLegalAndRead) {
+    using enum Verdict;
+    expectAdvice({
+        {Fo, "block", "margin", u"10", Lenient, "1000%", "10pt"},
+        {Fo, "block", "font-size", u"10", Lenient, "1000%", "10pt"},
+        {Fo, "block", "hyphenate", u"treu", Lenient, "", "true"},
+        {Fo, "block", "text-align", u"jusitfy", Lenient, "jusitfy", "justify"},
+        {Fo, "block", "space-before", u"1,5pt", Refused, "", "1.5pt"},
+        {Fo, "block", "space-before", u"12 PT", Refused, "", "12pt"},
+        {Fo, "block", "space-before", u"2 inches", Refused, "", "2in"},
+        {Fo, "block", "border", u"1pt solid rde", Refused, "", "1pt solid red"},
+        {Fo, "block", "color", u"light blue", Refused, "", "lightblue"},
+        {Fo, "block", "writing-mode", u"lr_tb", Refused, "", ""},
+        {Fo, "block", "white-space", u"prre", Refused, "", "pre"},
+        {Svg, "feBlend", "mode", u"Multiply", Refused, "", "multiply"},
+        // Nothing is put together, and no word is made of another.
+        {Fo, "block", "orphans", u"20 20", Refused, "", ""},
+        {Fo, "block", "color", u"gray blue", Refused, "", ""},
+        {Svg, "rect", "width", u"17,4 %", Refused, "", "17.4%"},
+        {Svg, "polygon", "points", u"a b c", Refused, "", ""},
+        {Svg, "g", "transform", u"rotat(45)", Lenient, "", "rotate(45)"},
+    });
+}
+
+TEST(Judge, TellsNegativeAndNewerValues) {
+    struct Case {
+        Vocabulary vocabulary;
+        char const *element, *attribute;
+        char16_t const* text;
+        bool isNegative;
+        char const* newer;
+    };
+    for (Case const& row :
+         {Case{Fo, "block", "font-size", u"-10pt", true, ""}, Case{Svg, "rect", "width", u"-1", true, ""},
+          Case{Svg, "svg", "viewBox", u"0 0 -1 1", true, ""}, Case{Svg, "line", "stroke-dasharray", u"1 -1", true, ""},
+          Case{Svg, "path", "fill", u"context-fill", false, "SVG 2"},
+          Case{Svg, "path", "fill", u"#11223344", false, "CSS 4"},
+          Case{Fo, "block", "font-size", u"2rem", false, "CSS 3"},
+          Case{Fo, "block", "font-size", u"2rex10", false, ""}}) {
+        Judgement const judgement = judge(row.vocabulary, row.element, row.attribute, row.text);
+        EXPECT_TRUE(isFault(judgement.verdict)) << row.attribute << narrow(row.text);
+        EXPECT_EQ(judgement.isNegative, row.isNegative) << row.attribute << narrow(row.text);
+        EXPECT_EQ(judgement.newer, row.newer) << row.attribute << narrow(row.text);
+    }
+}
+
+TEST(NearestWord, IsOneOrTwoLettersAway) {
+    std::u16string_view const words[] = {u"even-page", u"odd-page", u"page", u"green", u"grey"};
+    EXPECT_EQ(nearestWord(u"pages", words), u"page");
+    EXPECT_EQ(nearestWord(u"evenpage", words), u"even-page");
+    EXPECT_EQ(nearestWord(u"gren", words), u"green");
+    EXPECT_EQ(nearestWord(u"pa", words), u"");
+    EXPECT_EQ(nearestWord(u"pa ge", words), u"") << "that is no word";
+}
+
+} // namespace
+} // namespace Xml
