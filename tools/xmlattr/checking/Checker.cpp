@@ -66,6 +66,16 @@ void Checker::startElement(XmlElement const& element, Tag& tag) {
             report(finding);
         }
     }
+    bool const isSvg = *vocabulary == Xml::Vocabulary::Svg;
+    std::optional<std::size_t> const missing = isSvg ? filterResults.startElement(element) : std::nullopt;
+    if (missing && !element.namespaces.hasXslt() && tag.isWhole(*missing) && isReported(Fault::DanglingReference)) {
+        Finding finding;
+        finding.fault = Fault::DanglingReference;
+        finding.attribute = element.attributes[*missing].name;
+        finding.problem = "which no filter primitive before it has as its result";
+        find({&tag, *vocabulary, element.name, *missing, finding.attribute, element.attributes[*missing].value},
+             std::move(finding));
+    }
     bool const isInStylesheet = element.namespaces.hasXslt();
     for (std::size_t i = 0; i < element.attributes.size(); ++i) {
         XmlAttributeText const& attribute = element.attributes[i];

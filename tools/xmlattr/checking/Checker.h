@@ -1,6 +1,7 @@
 // Looks every element and attribute of a document up in the catalogue, and has their texts judged.
 #pragma once
 
+#include "checking/FilterResults.h"
 #include "checking/Finding.h"
 #include "checking/References.h"
 #include "checking/Stylesheet.h"
@@ -69,6 +70,7 @@ private:
     Options options;
     VerdictCache cache;
     References references;
+    FilterResults filterResults;
     Stylesheet stylesheet;
     std::optional<MadeAttribute> made; // by the xsl:attribute at hand
     std::string madeElement;           // as the document names it

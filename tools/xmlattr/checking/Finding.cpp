@@ -36,7 +36,8 @@ constexpr FaultKind kinds[] = {
      "properties may stand on every element. Reported with --strict only.\n"},
     {Fault::DuplicateId, "duplicate-id", false, "Another element of the document has the same id.\n"},
     {Fault::DanglingReference, "dangling-reference", false,
-     "The attribute refers to an id of the same document that no element has.\n"},
+     "The attribute refers to an id of the same document that no element has, or to a result that no filter primitive\n"
+     "before it in the same filter has.\n"},
 };
 
 // What a message shows of a long text: about the range that matters.
@@ -76,7 +77,8 @@ std::string Finding::message() const {
     case Fault::DuplicateId:
         return attribute + "=" + inQuotes(printable(text)) + where + " is the id of another element";
     case Fault::DanglingReference:
-        return attribute + where + " refers to " + inQuotes(printable(text)) + ", which no element has as its id";
+        return attribute + where + " refers to " + inQuotes(printable(text)) + ", " +
+               (problem.empty() ? "which no element has as its id" : problem);
     case Fault::BadValue:
     case Fault::BadWord:
     case Fault::Misread:
