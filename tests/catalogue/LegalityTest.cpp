@@ -125,6 +125,7 @@ TEST(Judge, TellsWhatIsLegalByNames) {
              Row{Vocabulary::Svg, "g", "stroke-linecap", u"BUTT", PassedOver, Declaration},
              Row{Vocabulary::Svg, "g", "Stroke-Linecap", u"butt", Read, Declaration},
              Row{Vocabulary::Svg, "g", "stroke-linecap", u"but", Refused, Declaration},
+             Row{Vocabulary::Svg, "g", "stroke-width", u"1e-1px", Read, Declaration},
              Row{Vocabulary::Svg, "g", "width", u"1", NotCovered, Declaration},
          })
         EXPECT_EQ(judge(row.vocabulary, row.element, row.attribute, row.text, row.notation).verdict, row.verdict)

@@ -150,7 +150,9 @@ void Checker::checkName(Occurrence const& occurrence) {
         finding.attribute = occurrence.name;
         return find(occurrence, std::move(finding));
     }
-    if (fact.standing != Xml::NameStanding::Unknown || !isReported(Fault::UnknownAttribute)) return;
+    // What a stylesheet makes outside of every element may belong to another vocabulary.
+    bool const isElsewhere = occurrence.element.empty();
+    if (fact.standing != Xml::NameStanding::Unknown || isElsewhere || !isReported(Fault::UnknownAttribute)) return;
     Finding finding;
     finding.fault = Fault::UnknownAttribute;
     finding.attribute = occurrence.name;
@@ -194,6 +196,7 @@ void Checker::checkValue(Occurrence const& occurrence, Xml::CatalogueEntry const
     finding.attribute = entry.attribute;
     finding.part = toUtf8(judgement->part);
     finding.problem = judgement->problem;
+    if (judgement->part.data() && judgement->part.empty()) finding.problem += " at the end";
     finding.newer = judgement->newer;
     finding.held = toUtf8(advice.held);
     finding.expected = advice.expected;

@@ -91,7 +91,7 @@ std::string Finding::message() const {
     bool const needsExpected =
         problem.empty() && (fault == Fault::BadValue || fault == Fault::BadWord || fault == Fault::Lenient);
     if (!problem.empty())
-        line += (part.empty() || fault == Fault::BadValue ? " " : ": ") + problem;
+        line += (problem.starts_with("is ") || problem.starts_with("has ") ? " " : ": ") + problem;
     else if (fault == Fault::NewerValue)
         line += " is " + newer + ", which the formatter does not read";
     else if (fault == Fault::Negative)

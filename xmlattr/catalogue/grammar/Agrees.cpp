@@ -48,6 +48,8 @@ bool agreesWith(Item const& item, SmartPtr<Drawing::Color> const& color) {
 }
 
 bool refersTo(Item const& item, std::u16string_view reference) {
+    // White space after the contents of a data URI is none of them.
+    if (item.text.starts_with(u"data:")) reference = trimXmlSpace(reference);
     return item.kind != ItemKind::Uri || item.text == reference;
 }
 

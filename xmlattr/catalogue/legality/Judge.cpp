@@ -43,6 +43,8 @@ Judgement judge(CatalogueEntry const& entry, std::u16string_view text, Notation 
     Judgement judgement = judgeIn(dialect, entry, text);
     if (!isIllegal(judgement)) return judgement;
     if (notation == Notation::Declaration) {
+        // The exponents of attributes came to style sheets with CSS 3.
+        if (judgeIn(Dialect::SvgAttribute, entry, text).verdict == Verdict::Read) return {Verdict::Read};
         // CSS has no case; the value types read attributes, which have one.
         std::u16string lower(text);
         std::ranges::transform(lower, lower.begin(), Core::toLower);
