@@ -26,7 +26,7 @@ enum class AttributeKind : std::uint8_t {
     Untyped     // no value type reads it
 };
 
-// An attribute on the elements where it has one meaning. All texts are ASCII and live as long as the program.
+// An attribute on the elements where it has one meaning. All texts live as long as the program.
 struct CatalogueEntry {
     Vocabulary vocabulary;
     AttributeKind kind;
@@ -38,8 +38,8 @@ struct CatalogueEntry {
     // The local name; those of the XML and XLink namespaces have their usual prefix: "xml:lang".
     std::string_view attribute;
 
-    // The values that the recommendation allows, and the one that an absent attribute has, in UTF-8: empty when it
-    // is inherited from elsewhere, depends on other attributes or is worked out by the formatter.
+    // The values that the recommendation allows, without "inherit" and expressions; and the one that an absent attribute
+    // has, in UTF-8, empty when there is none, when it depends on other attributes or is left to the formatter.
     Grammar grammar;
     std::string_view initial;
     // For people: what to know of the attribute and its type.
