@@ -30,7 +30,7 @@ private:
 template <> struct XMLATTR_API AttributeTraits<AxisSource> {
     // "year" also begins "year-month" and "year-quarter".
     static constexpr Core::WordRow<> rows[] = {{u"year"},      {u"quarter"},   {u"week"},      {u"month"},
-                                                {u"dayofweek"}, {u"dayofyear"}, {u"dayofmonth"}};
+                                               {u"dayofweek"}, {u"dayofyear"}, {u"dayofmonth"}};
     static constexpr Core::Case rule = Core::Case::Any;
     using Functions = Core::WordTable<rows, rule>;
 

@@ -1,7 +1,6 @@
 // A length or a percentage: the one value behind LengthOrPercent and SLengthOrPercent.
 #pragma once
 
-
 #include <cstdint>
 
 namespace Xml {

@@ -63,7 +63,7 @@ private:
 template <> struct XMLATTR_API AttributeTraits<TextAlign> {
     // Beside those of TextAlignType; exact in case.
     static constexpr Core::WordRow<TextAlignType> rows[] = {{u"outside", TextAlignType::Outside},
-                                                             {u"relative", TextAlignType::Relative}};
+                                                            {u"relative", TextAlignType::Relative}};
     static bool parse(TextAlign& value, std::u16string_view text);
     // Throws UnreacheableCodeException for a foreign type.
     static Core::String print(TextAlign const& value);

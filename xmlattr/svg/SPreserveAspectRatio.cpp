@@ -25,7 +25,7 @@ void AttributeTraits<SPreserveAspectRatio>::parts(SPreserveAspectRatio const& va
         std::u16string_view word;
     };
     constexpr Row held[] = {{None, u"none"}, {Meet, u"meet"}, {Slice, u"slice"}, {XMin, u"xMin"}, {XMid, u"xMid"},
-                            {XMax, u"xMax"}, {YMin, u"YMin"}, {YMid, u"YMid"}, {YMax, u"YMax"}};
+                            {XMax, u"xMax"}, {YMin, u"YMin"}, {YMid, u"YMid"},   {YMax, u"YMax"}};
     out.add(u"fit");
     std::u16string_view separator;
     for (auto const& [bit, word] : held) {

@@ -29,15 +29,15 @@ private:
 template <> struct XMLATTR_API AttributeTraits<SPreserveAspectRatio> {
     enum Bit { None = 1, Meet = 2, Slice = 4, XMin = 8, XMid = 16, XMax = 32, YMin = 64, YMid = 128, YMax = 256 };
     static constexpr Core::WordRow<int> rows[] = {{u"none", None},
-                                                   {u"xMinYMin", XMin | YMin},
-                                                   {u"xMidYMin", XMid | YMin},
-                                                   {u"xMaxYMin", XMax | YMin},
-                                                   {u"xMinYMid", XMin | YMid},
-                                                   {u"xMidYMid", XMid | YMid},
-                                                   {u"xMaxYMid", XMax | YMid},
-                                                   {u"xMinYMax", XMin | YMax},
-                                                   {u"xMidYMax", XMid | YMax},
-                                                   {u"xMaxYMax", XMax | YMax}};
+                                                  {u"xMinYMin", XMin | YMin},
+                                                  {u"xMidYMin", XMid | YMin},
+                                                  {u"xMaxYMin", XMax | YMin},
+                                                  {u"xMinYMid", XMin | YMid},
+                                                  {u"xMidYMid", XMid | YMid},
+                                                  {u"xMaxYMid", XMax | YMid},
+                                                  {u"xMinYMax", XMin | YMax},
+                                                  {u"xMidYMax", XMid | YMax},
+                                                  {u"xMaxYMax", XMax | YMax}};
     static constexpr Core::WordRow<int> secondWords[] = {{u"meet", Meet}, {u"slice", Slice}};
 
     static bool parse(SPreserveAspectRatio& value, std::u16string_view text);
