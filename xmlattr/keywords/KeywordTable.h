@@ -65,15 +65,15 @@ template <class E> consteval bool hasDuplicatePrints() {
 
 template <class E> using ReadTable = Core::WordTable<Keywords<E>::rows, Keywords<E>::rule>;
 
+// Prints other words than it reads.
+template <class E>
+concept PrintsOtherWords = requires {
+    Keywords<E>::printRows;
+};
+
 // The words that a value prints.
 template <class E> struct PrintTable { using type = ReadTable<E>; };
-template <class E>
-requires requires {
-    Keywords<E>::printRows;
-}
-struct PrintTable<E> {
-    using type = Core::WordList<Keywords<E>::printRows>;
-};
+template <PrintsOtherWords E> struct PrintTable<E> { using type = Core::WordList<Keywords<E>::printRows>; };
 
 } // namespace detail
 
