@@ -36,8 +36,8 @@ TEST(BadDocuments, HoldBytesThatAreNoCharacters) {
                 << end << " and byte " << int{static_cast<unsigned char>(bytes[0])};
 }
 
-TEST(BadDocuments, HaveAMillionAttributes) {
-    constexpr int count = 1'000'000;
+TEST(BadDocuments, HaveManyAttributes) {
+    constexpr int count = 200'000;
     std::string document(opening);
     for (int i = 0; i < count; ++i) document.append(" a").append(std::to_string(i)).append("=''");
     Outcome const outcome = checkDocument(document + " span='x'/>");
@@ -46,8 +46,8 @@ TEST(BadDocuments, HaveAMillionAttributes) {
     EXPECT_EQ(outcome.last.column, document.size() + 2);
 }
 
-TEST(BadDocuments, HaveATextOf100MB) {
-    std::string const text(100 << 20, 'x');
+TEST(BadDocuments, HaveALongText) {
+    std::string const text(33 << 20, 'x'); // no tag may be this long, and a text may
     for (std::string_view const end : {" span='"sv, "><!--"sv, "><?"sv, " "sv})
         EXPECT_EQ(checkDocument(std::string(opening).append(end).append(text)).failure,
                   "limit: a tag or comment of more than 32 MiB")
