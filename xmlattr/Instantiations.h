@@ -7,9 +7,11 @@
 
 namespace Xml {
 
-// Transform.h has already given the attribute of SLength its export mark, which GCC reports.
+// Transform.h has already given the attribute of SLength its export mark, which GCC reports. Clang reports the
+// destructor of TXmlAttribute here again.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wattributes"
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 #define XMLATTR_PUBLIC_VALUE(...) extern template class XMLATTR_API TXmlAttribute<__VA_ARGS__>;
 // The constants of internal types stay readable without the library's help.
 #define XMLATTR_INTERNAL_VALUE(...)

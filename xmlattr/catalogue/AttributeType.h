@@ -56,8 +56,8 @@ private:
     struct Operations;
     class Holder;
 
-    constexpr AttributeType(std::string_view name, bool isPublic, Operations const& operations)
-        : typeName(name), isExported(isPublic), operations(&operations) {}
+    constexpr AttributeType(std::string_view name, bool isPublic, Operations const& functions)
+        : typeName(name), isExported(isPublic), operations(&functions) {}
 
     std::string_view typeName;
     bool isExported;

@@ -26,8 +26,8 @@ public:
 private:
     friend struct DefaultConstants;
 
-    constexpr DefaultConstant(std::string_view name, std::uint16_t type, XmlAttribute const& attribute)
-        : constantName(name), attribute(&attribute), typeNumber(type) {}
+    constexpr DefaultConstant(std::string_view name, std::uint16_t type, XmlAttribute const& constant)
+        : constantName(name), attribute(&constant), typeNumber(type) {}
 
     std::string_view constantName;
     XmlAttribute const* attribute;

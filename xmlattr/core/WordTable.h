@@ -20,10 +20,10 @@ namespace Core {
 enum class Case { Exact, Any };
 
 // The value of words that are only listed.
-struct NoValue {};
+struct Valueless {};
 
 // What is written down of a table: an array of rows, char16_t or char for each letter.
-template <class Value = NoValue, class Unit = char16_t> struct WordRow {
+template <class Value = Valueless, class Unit = char16_t> struct WordRow {
     std::basic_string_view<Unit> word;
     Value value{};
 };

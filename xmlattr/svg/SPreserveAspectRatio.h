@@ -6,6 +6,8 @@
 
 #include <cstdint>
 
+#include "xmlattr/core/SetMacrosAside.h"
+
 namespace Xml {
 
 // The bits of SVG 1.1's preserveAspectRatio: 1 none, 2 meet, 4 slice; 8, 16 and 32 align x at Min,
@@ -51,3 +53,5 @@ template <> struct XMLATTR_API AttributeTraits<SPreserveAspectRatio> {
 };
 
 } // namespace Xml
+
+#include "xmlattr/core/PutMacrosBack.h"

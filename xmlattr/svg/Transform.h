@@ -30,8 +30,12 @@ inline constexpr Core::WordRow<TransformArguments> transformWords[] = {
     {u"skewX", {TransformType::SkewX, 1, 1}},   {u"skewY", {TransformType::SkewY, 1, 1}},
 };
 
-// A Transform holds such attributes: the first mention of a class decides whether it is exported.
+// A Transform holds such attributes: the first mention of a class decides whether it is exported. The destructor is as
+// in TXmlAttribute.h, and Clang reports it here again.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 extern template class XMLATTR_API TXmlAttribute<SLength>;
+#pragma GCC diagnostic pop
 
 // One transform as it was written, with the parameters of every kind side by side; only those of its
 // own kind mean anything, and the others are zero. Numbers have single precision when they were read.
