@@ -5,7 +5,7 @@
 #include "xmlattr/core/WordTable.h"
 
 #include <cstdint>
-#include <span>
+#include <string_view>
 
 namespace Drawing {
 
@@ -21,12 +21,6 @@ public:
 
     constexpr Type getType() const { return type; }
     constexpr bool operator==(ImageFilter const&) const = default;
-
-    struct Word {
-        std::u16string_view word;
-        Type type;
-    };
-    static std::span<Word const> words();
 
     // False for any other word; then `filter` is untouched.
     static bool parseFilter(ImageFilter& filter, std::u16string_view text);

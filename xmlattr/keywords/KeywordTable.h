@@ -48,7 +48,7 @@ concept KeywordsFallBack = !Keywords<E>::unknownPrints.empty();
 
 namespace detail {
 
-[[noreturn]] void throwUnknownKeyword();
+[[noreturn]] XMLATTR_API void throwUnknownKeyword();
 
 template <class E> consteval bool hasEmptyWord() {
     for (KeywordRow<E> const& row : Keywords<E>::rows)
