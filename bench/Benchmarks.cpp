@@ -46,7 +46,7 @@ std::vector<Counted>& counted() {
     return all;
 }
 
-// The first run finds memory and caches as every later one does; only the second is counted.
+// The first run warms the caches and the allocator; only the second is counted.
 void count(Counted const& row) {
     row.run();
     CALLGRIND_TOGGLE_COLLECT;

@@ -9,7 +9,7 @@ namespace Bench {
 
 namespace {
 
-// The distributions of the standard library differ between its makers; these do not.
+// The distributions of the standard library differ between its implementations; these do not.
 class Random {
 public:
     std::size_t below(std::size_t limit) { return engine() % limit; }
@@ -26,7 +26,7 @@ public:
         return print(oneOf(formats), between(low, high));
     }
 
-    // What a program writes that rounds everything alike and leaves zeros at the end out.
+    // As programs write them that round to a fixed number of decimals and drop trailing zeros.
     std::string rounded(double low, double high, int decimals) {
         static constexpr char const* formats[] = {"%.0f", "%.1f", "%.2f", "%.3f", "%.4f"};
         std::string text = print(formats[decimals], between(low, high));

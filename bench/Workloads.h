@@ -14,7 +14,7 @@ Texts mixedPath(std::size_t size);
 Texts iconPaths();
 Texts transforms();
 Texts pointLists();
-// Numbers, each with one of the suffixes behind it.
+// Numbers, each followed by one of the suffixes.
 Texts numbersWith(Words const& suffixes);
 Texts hexColors();
 Texts rgbColors();

@@ -30,7 +30,7 @@ bool isDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
-// The place behind [sign] digits [. digits] [e [sign] digits], or the start where there is no number.
+// The place after [sign] digits [. digits] [e [sign] digits], or the start where there is no number.
 char const* endOfNumber(char const* const start, char const* end) {
     char const* at = start;
     if (at != end && (*at == '+' || *at == '-')) ++at;
@@ -74,18 +74,18 @@ void readNumbers(std::string const& bytes, Core::String const& text) {
     REQUIRE(accepted == (isEmpty || (hasNumber && endsWhole(numberEnd) && std::isfinite(expected))));
     REQUIRE(sameBits(whole, !accepted ? 42 : expected));
 
-    // Its two short ways give what the long one gives.
+    // The two fast paths give what the reference gives.
     std::u16string_view const units = text;
     float plain = 42;
-    if (char16_t const* const behind = Core::scanPlain(units.data(), units.data() + units.size(), plain)) {
-        std::string const part = bytes.substr(0, static_cast<std::size_t>(behind - units.data()));
+    if (char16_t const* const after = Core::scanPlain(units.data(), units.data() + units.size(), plain)) {
+        std::string const part = bytes.substr(0, static_cast<std::size_t>(after - units.data()));
         REQUIRE(sameBits(plain, std::strtof(part.c_str(), nullptr)));
     }
     Core::Decimal const number = Core::scanDecimal(units);
-    float shortWay = 0, longWay = 0;
+    float fast = 0, reference = 0;
     if (number.end) {
-        REQUIRE(Core::toFloat(number, shortWay) == Core::toFloatSlowly(number, longWay));
-        REQUIRE(sameBits(shortWay, longWay));
+        REQUIRE(Core::toFloat(number, fast) == Core::toFloatReference(number, reference));
+        REQUIRE(sameBits(fast, reference));
     }
 
     char const* digits = start;

@@ -1,4 +1,4 @@
-// What all fuzzers begin with: warnings would drown what they say.
+// Linked into every fuzzer: silences the warnings of the library, which would drown the output.
 #include "xmlattr/core/Log.h"
 
 extern "C" int LLVMFuzzerInitialize(int*, char***) {

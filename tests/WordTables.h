@@ -1,4 +1,4 @@
-// Tries a word table with all that a reader of words might take for one of them.
+// Tries a word table with texts that differ little from its words.
 #pragma once
 
 #include "xmlattr/core/String.h"
@@ -51,7 +51,7 @@ template <Core::Case rule, class Text> bool isSame(Text word, Text text) {
                       [](char16_t a, char16_t b) { return Core::toLower(a) == Core::toLower(b); });
 }
 
-// Tries what mutations of each word give and compares with a look at every row.
+// Looks up the mutations of each word and compares with a search of every row.
 template <auto const& rows, Core::Case rule = Core::Case::Exact> void checkTable(std::string const& name) {
     using Table = Core::WordTable<rows, rule>;
     SCOPED_TRACE(name);

@@ -1,5 +1,5 @@
 // Describes every attribute to debuggers. The instantiations are declared extern, so compilers leave the
-// description of an attribute to the library; this source is compiled with nothing but that and no code.
+// description of an attribute to the library; this source is compiled to that description alone, without code.
 #include "xmlattr/Instantiations.h"
 
 namespace Xml {

@@ -1,5 +1,5 @@
-// Every value type and its attribute, which the library has compiled: who uses one compiles none of
-// it again.
+// Every value type and its attribute, declared extern: the library contains them, so that programs need not
+// compile them again.
 #pragma once
 
 #include "xmlattr/ValueTypes.inc"

@@ -58,7 +58,7 @@ TEST_F(ColorParseTest, ReadsRGBWithTwoRulesForItsComponents) {
                    {u"rgb(300,-1,256)", "rgb(44,255,0)"},
                    {u"rgb(50%,100%,0)", "rgb(127,255,0)"},
                    {u"rgb(-5%,1e38%,.4%)", "rgb(0,255,1)"},
-                   {u"rgb(50% ,12.5%,1%)", "rgb(50,31,2)"}, // behind the blank it is an integer
+                   {u"rgb(50% ,12.5%,1%)", "rgb(50,31,2)"}, // after the blank it is an integer
                    {u"rgb(99.99999%,39.0625%,39.06251%)", "rgb(255,99,100)"}});
     expectRefused({u"rgb(1,2)", u"rgb(1,2,3", u"rgb(1,2,3,4)", u"rgb(1),2,3)", u"rgb 1,2,3)", u"rgb(1.5,2,3)",
                    u"rgb(,2,3)", u"rgb(%,2,3)", u"rgb(2147483648,2,3)", u"RGB(1,2,3)", u" rgb(1,2,3)", u"rgb"});
@@ -75,7 +75,7 @@ TEST_F(ColorParseTest, ReadsCMYKOnThreeScales) {
                    {u"cmyk(-1,,5 ,510)", "cmyk(-0.00392156862745098,0,0.0196078431372549,2)"}});
     expectRefused({u"cmyk(0,0,0)", u"cmyk(0,0,0,0", u"cmyk(0,0,0,0,0)", u"cmyk(0,0,0,x)", u"cmyk(0,0,0,1e39)",
                    u"cmyk 0,0,0,0)", u"CMYK(0,0,0,0)"});
-    EXPECT_EQ(parsedAs<Drawing::CMYKColor>(u"cmyk(20%,0,0,1)")->getC(), 0.2) << "divided as a double";
+    EXPECT_EQ(parsedAs<Drawing::CMYKColor>(u"cmyk(20%,0,0,1)")->getC(), 0.2) << "the division is in double precision";
 }
 
 TEST_F(ColorParseTest, ReadsICCWithItsFallback) {

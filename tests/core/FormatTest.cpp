@@ -76,15 +76,15 @@ TEST(Format, ReadsAMillionNumbersLikeTheStandardLibrary) {
         ASSERT_EQ(Format::parseFloat(units, value), accepted) << text;
         ASSERT_EQ(value, accepted ? expected : 42) << text;
 
-        float slow = 42;
-        ASSERT_EQ(toFloatSlowly(scanDecimal(units), slow), accepted) << text;
-        ASSERT_EQ(slow, value) << text;
+        float reference = 42;
+        ASSERT_EQ(toFloatReference(scanDecimal(units), reference), accepted) << text;
+        ASSERT_EQ(reference, value) << text;
 
         float plain = 42;
-        char16_t const *const begin = units.data(), *const behind = scanPlain(begin, begin + units.size(), plain);
-        ASSERT_TRUE(!behind || isDigit(behind[-1])) << text;
-        ASSERT_TRUE(!behind || toFloatSlowly(scanDecimal({begin, behind}), slow)) << text;
-        ASSERT_EQ(std::bit_cast<std::uint32_t>(plain), std::bit_cast<std::uint32_t>(behind ? slow : 42)) << text;
+        char16_t const *const begin = units.data(), *const after = scanPlain(begin, begin + units.size(), plain);
+        ASSERT_TRUE(!after || isDigit(after[-1])) << text;
+        ASSERT_TRUE(!after || toFloatReference(scanDecimal({begin, after}), reference)) << text;
+        ASSERT_EQ(std::bit_cast<std::uint32_t>(plain), std::bit_cast<std::uint32_t>(after ? reference : 42)) << text;
     }
 }
 
@@ -138,8 +138,8 @@ TEST(Format, AcceptsNumbersAndNothingElse) {
 }
 
 TEST(Format, LongNumbersAreReadToTheirLastDigit) {
-    auto const withZeros = [](std::u16string text, char16_t const* behind) { return text.append(5000, u'0') + behind; };
-    // 2^24 + 1 lies halfway between two floats: a digit far behind the point decides.
+    auto const withZeros = [](std::u16string text, char16_t const* end) { return text.append(5000, u'0') + end; };
+    // 2^24 + 1 lies halfway between two floats: a digit far after the point decides.
     float value = 0;
     ASSERT_TRUE(Format::parseFloat(withZeros(u"16777217.", u""), value));
     EXPECT_EQ(value, 16777216.0f);
@@ -201,17 +201,17 @@ TEST(Format, MeasuresHaveThreeDecimalsAtMost) {
     EXPECT_EQ(Format::toMeasure(DBL_MAX, u"pt").length(), 311);
 }
 
-TEST(Format, TheShortWayOfMeasuresPrintsLikeTheStandardLibrary) {
+TEST(Format, TheFastPathOfMeasuresPrintsLikeTheReference) {
     NumberTexts texts;
     for (int i = 0; i < 300'000; ++i) {
         // Ties at every place, then floats of any size and percentages.
         double const value = i < 40'000 ? (i - 20'000) / 16.0 : texts.anyFloat() * (i % 2 ? 1.0 : 100.0);
-        std::u16string printed, slowly;
+        std::u16string printed, reference;
         appendMeasure(printed, value, u"pt ");
         appendMeasure(printed, std::fmod(value, 2000));
-        appendMeasureSlowly(slowly, value, u"pt ");
-        appendMeasureSlowly(slowly, std::fmod(value, 2000));
-        ASSERT_EQ(printed, slowly) << value;
+        appendMeasureReference(reference, value, u"pt ");
+        appendMeasureReference(reference, std::fmod(value, 2000));
+        ASSERT_EQ(printed, reference) << value;
     }
 }
 

@@ -11,7 +11,7 @@ TEST(DisplayCondition, AppendsUpToTheFirstBadCondition) {
     struct Row {
         char16_t const* text;
         bool accepted;
-        char const* printed; // behind the condition that was there before
+        char const* printed; // after the condition that was there before
     };
     for (Row const& row :
          {Row{u"is-after(2020) and match(x)", true, " and is-after(2020) and match(x)"},

@@ -15,7 +15,7 @@ struct {
     std::size_t count = 0, live = 0, peak = 0;
 } allocations;
 
-constexpr std::size_t header = __STDCPP_DEFAULT_NEW_ALIGNMENT__; // holds the size of the block behind it
+constexpr std::size_t header = __STDCPP_DEFAULT_NEW_ALIGNMENT__; // holds the size of the block that follows it
 
 } // namespace
 
@@ -89,7 +89,7 @@ constexpr char16_t const* texts[] = {u"",
 
 // What a type may allocate when it reads a text, besides a copy of the text or the list that it stores.
 template <class T> constexpr bool isScalar = std::is_trivially_copyable_v<T> || std::is_same_v<T, Language>;
-// These print parts one behind the other, into a string that may have to grow.
+// These print one part after the other, into a string that may have to grow.
 template <class T, class... Ts> constexpr bool isOneOf = (std::is_same_v<T, Ts> || ...);
 template <class T>
 constexpr bool printsParts =

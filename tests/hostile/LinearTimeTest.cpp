@@ -49,9 +49,9 @@ constexpr std::u16string_view pieces[] = {
     u"url(", u".",       u"1,",         u"1 ",          u"-1e-9 ",   u"z",   u"m",         u"a1",
     u"none", u"'",       u"#",          u"match(a)and", u"f(",       u"()",  u"rotate(1)", u"matrix(",
     u"1px ", u"1,2%mm ", u"underline,", u"rgb(1,2,3) ", u"rgb-icc(", u"\xA0"};
-// What stands before them, so that readers go on to look at them, and behind.
+// What stands before and after them, so that readers get as far as to them.
 constexpr struct {
-    std::u16string_view before, behind;
+    std::u16string_view before, after;
 } frames[] = {{u"url(", u""},        {u"rect(", u")"}, {u"spot-color(", u")"}, {u"rgb-icc(", u")"}, {u"M", u""},
               {u"translate(", u")"}, {u"1", u"px"},    {u"is-after(", u")"},   {u"year(", u")"}};
 
@@ -77,14 +77,14 @@ constexpr Type types[] = {
 // Doubles the text of a shape for each type. What is below the floor is noise: a quadratic reader takes
 // a thousand times as long in the end. What seems to take more than three times as long is measured
 // again, since other programs use the same caches.
-void expectLinear(std::u16string_view piece, std::u16string_view before, std::u16string_view behind) {
+void expectLinear(std::u16string_view piece, std::u16string_view before, std::u16string_view after) {
     double last[std::size(types)];
     std::ranges::fill(last, floorOfNoise);
     Core::String text, shorter;
     std::u16string body(before);
     for (std::size_t size = 1 << 10; size <= largest; size *= 2) {
         while (body.size() < size) body += piece;
-        text = Core::String(body) + behind;
+        text = Core::String(body) + after;
         for (std::size_t i = 0; i < std::size(types); ++i) {
             double time = std::max(types[i].microseconds(text), floorOfNoise);
             for (int retry = 0; time > 3 * last[i] && retry < 20; ++retry) {
@@ -92,7 +92,7 @@ void expectLinear(std::u16string_view piece, std::u16string_view before, std::u1
                 last[i] = std::max(last[i], types[i].microseconds(shorter));
             }
             ASSERT_LE(time, 3 * last[i]) << types[i].name << " takes too long for " << text.length() << " units of \""
-                                         << Core::String(piece).toUtf8() << "\" behind \""
+                                         << Core::String(piece).toUtf8() << "\" after \""
                                          << Core::String(before).toUtf8() << '"';
             last[i] = time;
         }
@@ -104,8 +104,8 @@ TEST(LinearTime, TimeDoublesWithTheText) {
     auto const handler = Core::Log::setHandler([](Core::String const&) {});
     keepBlocks();
     for (std::u16string_view const piece : pieces) expectLinear(piece, {}, {});
-    for (auto const& [before, behind] : frames)
-        for (std::u16string_view const piece : {u",", u" ", u"9", u"(", u"-"}) expectLinear(piece, before, behind);
+    for (auto const& [before, after] : frames)
+        for (std::u16string_view const piece : {u",", u" ", u"9", u"(", u"-"}) expectLinear(piece, before, after);
     Core::Log::setHandler(handler);
 }
 

@@ -1,4 +1,4 @@
-// What every value type promises about any text whatever, for the fuzzer and for the tests. The types
+// What every value type promises about any text, for the fuzzer and for the tests. The types
 // are those of the list; the overloads below say which of them promise something else, and why.
 #pragma once
 
@@ -133,7 +133,7 @@ template <class T> bool isHuge(T const& value) {
     return huge;
 }
 
-// What a refusal leaves behind, where it is not the value that was there: nothing stands for the others.
+// What a refusal leaves where that is not the value that was there; the overload for all other types says nothing.
 template <class T> std::optional<bool> keptAsPromised(T const&, T const&) {
     return std::nullopt;
 }

@@ -55,12 +55,14 @@ TEST(Length, PlainNumbersAreReadLikeAllOthers) {
                                                  u"5%", u"x", u" ", u"  ", u"e22", u"\u00A0", u"ptpt"}) {
             Core::String const text = Core::String(number) + suffix;
             SCOPED_TRACE(narrow(text));
-            Length fast(7, Length::Cm), slow = fast;
-            EXPECT_EQ(AttributeTraits<Length>::parse(fast, text), AttributeTraits<Length>::parseSlowly(slow, text));
-            EXPECT_TRUE(fast == slow);
-            SLength svg(7, SLength::Cm), slowSvg = svg;
-            EXPECT_EQ(AttributeTraits<SLength>::parse(svg, text), AttributeTraits<SLength>::parseSlowly(slowSvg, text));
-            EXPECT_TRUE(svg == slowSvg);
+            Length fast(7, Length::Cm), reference = fast;
+            EXPECT_EQ(AttributeTraits<Length>::parse(fast, text),
+                      AttributeTraits<Length>::parseReference(reference, text));
+            EXPECT_TRUE(fast == reference);
+            SLength fastSvg(7, SLength::Cm), referenceSvg = fastSvg;
+            EXPECT_EQ(AttributeTraits<SLength>::parse(fastSvg, text),
+                      AttributeTraits<SLength>::parseReference(referenceSvg, text));
+            EXPECT_TRUE(fastSvg == referenceSvg);
         }
 }
 

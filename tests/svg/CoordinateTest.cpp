@@ -26,7 +26,7 @@ std::u16string coordinate(std::mt19937& random) {
     return text.empty() ? u"0" : text;
 }
 
-// The lists read plain numbers in a shorter way than the length reader does.
+// The lists read plain numbers by a fast path that the length reader lacks.
 TEST(Coordinates, AreWhatTheLengthReaderMakesOfTheirTexts) {
     std::mt19937 random{7};
     for (int i = 0; i < 100'000; ++i) {

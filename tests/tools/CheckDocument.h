@@ -15,7 +15,7 @@ struct Outcome {
     std::string failure; // its kind and message; empty when the document was read to its end
     Counts counts;
     Place last;             // of the findings
-    std::string attributes; // that were refused, each with a blank behind it
+    std::string attributes; // that were refused, each followed by a blank
 };
 
 inline Outcome checkDocument(std::string_view document) {

@@ -102,7 +102,7 @@ std::string utf16(std::string const& text, bool isBig, bool isMarked) {
 
 TEST(Checker, CountsCodePointsInEveryEncoding) {
     auto const declared = [](std::string const& name) { return "<?xml version='1.0' encoding='" + name + "'?>"; };
-    // Two characters, then an attribute, then a declaration behind the same two.
+    // Two characters, then an attribute, then a declaration after the same two.
     auto const faults = [](std::string const& two) {
         return "<svg id='" + two + "' x='q' style='font-family:" + two + "; fill:q'/>";
     };

@@ -148,7 +148,7 @@ TEST(Command, ReportsWhatItCannotReadAndGoesOn) {
         Result const result = run("check " + write(row.name, row.content) + " " + sound);
         EXPECT_NE(result.errors.find("/"s + row.name + row.message), std::string::npos)
             << row.name << ": " << result.errors;
-        EXPECT_NE(result.output.find("sound.fo:1:50: "), std::string::npos) << "the files behind it are still read";
+        EXPECT_NE(result.output.find("sound.fo:1:50: "), std::string::npos) << "the files after it are still read";
         EXPECT_EQ(result.code, 2) << row.name;
     }
     std::filesystem::create_directory(scratch + "/bare");

@@ -1,4 +1,4 @@
-// What a value type tells the attribute template about itself, beside its own declaration.
+// What a value type says about itself to the attribute template; declared beside the type.
 #pragma once
 
 #include "xmlattr/attributes/Description.h"

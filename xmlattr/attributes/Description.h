@@ -33,7 +33,7 @@ struct XMLATTR_API Words {
     Core::Vector<std::u16string_view> list;
 
     void add(std::u16string_view word);
-    // The words of a table; what begins a call is none.
+    // The words of a table, except those that only begin a call.
     template <class Rows> void addAll(Rows const& rows) {
         for (auto const& row : rows)
             if (!row.word.ends_with(u'(')) add(row.word);

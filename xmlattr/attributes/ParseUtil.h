@@ -14,7 +14,7 @@ struct XMLATTR_API ParseUtil {
 
     // Skips white space, then takes everything up to the next white space.
     static Core::String extractWord(Core::String const& text, int& index);
-    // The same, but a "(" makes the token a call that runs to the first ")" behind it, white space
+    // The same, but a "(" makes the token a call that runs to the first ")" after it, white space
     // included, or to the end of the text. Calls do not nest: "f(g(x))" gives "f(g(x)".
     static Core::String extractWordOrFunction(Core::String const& text, int& index);
 };

@@ -1,4 +1,4 @@
-// The typed attribute: one value behind a virtual-table pointer.
+// The typed attribute: one value after a virtual-table pointer.
 #pragma once
 
 #include "xmlattr/attributes/AttributeTraits.h"

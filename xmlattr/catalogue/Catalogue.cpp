@@ -13,7 +13,7 @@ namespace Xml {
 
 namespace {
 
-// What each row stands for, and the place where it will stand: rows refer to each other.
+// The attribute of each row and the place where it will stand, since rows refer to each other.
 struct RowName {
     Vocabulary vocabulary;
     std::span<std::string_view const> elements;

@@ -16,7 +16,7 @@ struct Scope {
 constexpr Scope Local{false, false}, Inherited{true, false}, Presentation{false, true},
     InheritedPresentation{true, true};
 
-// What this file needs of a row of the catalogue.
+// The columns of a row of the catalogue that this file needs.
 struct Attribute {
     Vocabulary vocabulary;
     std::string_view name;

@@ -36,7 +36,7 @@ template <NameKind kind> constexpr auto tableOf() {
     return NameTable<countOf<kind>>(names);
 }
 
-// Who has the newer name; empty when nobody does.
+// The recommendation that has the newer name; empty when none has.
 template <NameKind kind> std::string_view newer(std::string_view name) {
     static constexpr auto table = tableOf<kind>();
     std::size_t const number = table.find(name);
@@ -132,7 +132,7 @@ NameFact Names::ofAttribute(Vocabulary vocabulary, std::string_view attribute) n
     if (Elements::isAttribute(vocabulary, attribute)) return {NameStanding::Known, {}};
     if (attribute.starts_with("data-") || attribute.starts_with("aria-")) return {NameStanding::Open, {}};
     bool const isSvg = vocabulary == Vocabulary::Svg;
-    // XSL-FO has no links of XLink's: there they are a foreign namespace's.
+    // XLink is no part of XSL-FO: there its attributes are of a foreign namespace.
     if (isSvg ? isEventHandler(attribute) || attribute == "role" : attribute.starts_with("xlink:"))
         return {NameStanding::Open, {}};
     std::string_view source = isSvg || attribute == "xml:id" ? newer<Attribute>(attribute) : std::string_view();

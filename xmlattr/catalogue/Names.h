@@ -15,8 +15,8 @@ enum class NameStanding : std::uint8_t {
 
 struct NameFact {
     NameStanding standing;
-    // Of a newer name: who has it. Of an unknown one: the known name that differs in case only, lost its
-    // prefix (space for xml:space) or is one letter away, exchanged neighbours included; empty when there is none.
+    // Of a newer name: the recommendation that has it. Of an unknown one: the known name that differs in case only,
+    // lost its prefix (space for xml:space) or is one letter away, exchanged neighbours included; or nothing.
     std::string_view text;
 };
 

@@ -14,7 +14,7 @@
 
 namespace Xml {
 
-using namespace std::string_view_literals; // these know their length when the program is compiled
+using namespace std::string_view_literals; // their length is known at compile time
 
 namespace {
 
@@ -44,7 +44,7 @@ bool readHexa(ColorPtr& color, std::u16string_view text) {
 }
 
 // The next argument of an rgb-icc text, trimmed; empty from the ")" on and when the text ends
-// without one. The cursor stops in front of the delimiter behind the argument.
+// without one. The cursor stops at the delimiter after the argument.
 std::u16string_view takeArgument(TextCursor& cursor) {
     if (!cursor.take(u',')) cursor.take(u'(');
     std::u16string_view const argument = cursor.takeWhile([](char16_t unit) { return unit != u',' && unit != u')'; });

@@ -18,7 +18,7 @@ using Core::SmartPtr;
 //
 // and every other text is a name in any case: a colour keyword of SVG 1.1, a system colour, or
 // "transparent" or "none", which are null. What stands between the beginning and the "(" and what
-// follows the ")" is not looked at.
+// follows the ")" is ignored.
 //
 // A text that is refused leaves the value as it was. Two refusals are logged as a warning: an
 // rgb-icc without its "(", its fallback, its profile or any component, and (though accepted, as

@@ -12,7 +12,7 @@ namespace Xml {
 
 // "none" or "transparent", a reference "url(#id)", exact in case, to a paint server (SVG 1.1), or a
 // colour. Of a reference the text from "#" up to the next white space or ")" is kept; what follows,
-// a second paint for instance, is not looked at. Nothing is trimmed; there is no printer.
+// a second paint for instance, is ignored. Nothing is trimmed; there is no printer.
 class XMLATTR_API SColor {
 public:
     enum ColorType : std::int32_t { None = 0, Url = 1, Color = 2 };

@@ -6,12 +6,12 @@
 
 namespace Core {
 
-// Each prints after what a text holds already.
+// Each appends to the text.
 void appendMeasure(std::u16string& out, double value, std::u16string_view suffix = {});
 void appendShortest(std::u16string& out, float value);
 void appendShortest(std::u16string& out, double value);
 void appendShortest(std::u16string& out, int value);
 // appendMeasure without its fast path: the reference from the standard library.
-void appendMeasureSlowly(std::u16string& out, double value, std::u16string_view suffix = {});
+void appendMeasureReference(std::u16string& out, double value, std::u16string_view suffix = {});
 
 } // namespace Core

@@ -47,11 +47,11 @@ Values readFile(char const* path) {
 struct Configuration {
     std::shared_mutex mutex;
     Values values;
-    // Known without the lock: in most programs there is nothing to look for.
+    // Known without the lock, since most programs configure nothing.
     std::atomic<bool> isEmpty = true;
 
-    // A program cannot set a value before the library is loaded, and two values are read just
-    // then; so whoever starts the program may name a file of values.
+    // Two values are read while the library is loaded, before the program can set any; so the environment
+    // may name a file of values.
     Configuration() {
         if (char const* path = std::getenv("XMLATTR_CONFIG"); path && *path) values = readFile(path);
         isEmpty = values.empty();

@@ -12,7 +12,7 @@ namespace {
 
 using namespace std::chrono;
 
-// Takes what a date consists of off the front of a text.
+// Takes the parts of a date off the front of a text.
 struct DateReader {
     std::u16string_view rest;
 
@@ -104,7 +104,7 @@ bool DateTimeEx::parseXmlDateEx(std::u16string_view text, DateTimeEx& out) noexc
     std::optional<minutes> offset;
     if (!reader.takeOffset(offset) || !reader.rest.empty()) return false;
     local_seconds const instant = local_days(date) + time;
-    if (instant >= endOfCalendar) return false; // 24:00:00 on the last day of all
+    if (instant >= endOfCalendar) return false; // 24:00:00 on the last day of the calendar
     read.seconds = instant.time_since_epoch().count();
     read.fraction = fraction.count();
     if (offset) read.offset = offset->count();

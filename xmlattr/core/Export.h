@@ -1,8 +1,7 @@
-// What comes before everything else: the language standard, and XMLATTR_API, which marks what the
-// shared library exports: public classes, functions and constants, and the enumerations among them,
-// since a hidden enumeration would hide its attribute. Nothing else of the library is exported. A
-// static library exports nothing at all: XMLATTR_STATIC, which the packages of the static library
-// define for its users, leaves the mark empty.
+// The check of the language standard, and XMLATTR_API. It marks what the shared library exports: public
+// classes, functions, constants and attributes, and each enumeration that is a value type, since a hidden
+// enumeration would hide its attribute; nothing else. A static library exports nothing: its users define
+// XMLATTR_STATIC, as its packages do for them, which leaves the mark empty.
 #pragma once
 
 #if __cplusplus < 202002L

@@ -150,12 +150,12 @@ bool Format::parseHexInt(std::u16string_view text, int& value) noexcept {
 }
 
 void appendMeasure(std::u16string& out, double value, std::u16string_view suffix) {
-    if (!hasExactThousandths(value)) return appendMeasureSlowly(out, value, suffix);
+    if (!hasExactThousandths(value)) return appendMeasureReference(out, value, suffix);
     char buffer[24];
     append(out, buffer, printThousandths(buffer, value), suffix);
 }
 
-void appendMeasureSlowly(std::u16string& out, double value, std::u16string_view suffix) {
+void appendMeasureReference(std::u16string& out, double value, std::u16string_view suffix) {
     // The largest double has 309 digits before its point.
     char buffer[336];
     char* end = std::to_chars(buffer, std::end(buffer), value, std::chars_format::fixed, 3).ptr;

@@ -1,5 +1,4 @@
-// Reading and writing numbers, independent of the locale. Nothing here throws, and only what
-// returns a String allocates.
+// Reading and writing numbers, independent of the locale. Reading neither throws nor allocates.
 #pragma once
 
 #include "xmlattr/core/String.h"

@@ -36,7 +36,7 @@ struct MantissaReader {
     }
 };
 
-// The signed exponent behind an "e", held within the limit; null when there is no digit.
+// The signed exponent after an "e", held within the limit; null when there is no digit.
 char16_t const* scanExponent(char16_t const* unit, char16_t const* end, int& exponent) noexcept {
     bool const negative = unit != end && *unit == u'-';
     if (unit != end && (*unit == u'-' || *unit == u'+')) ++unit;
@@ -198,19 +198,19 @@ Decimal scanDecimal(std::u16string_view text) noexcept {
     number.end = unit;
     if (unit != end && (*unit == u'e' || *unit == u'E')) {
         int exponent = 0;
-        if (char16_t const* const behind = scanExponent(unit + 1, end, exponent)) {
+        if (char16_t const* const after = scanExponent(unit + 1, end, exponent)) {
             number.exponent += exponent;
-            number.end = behind;
+            number.end = after;
         }
     }
     return number;
 }
 
 bool toFloat(Decimal const& number, float& value) noexcept {
-    return scaleExactly(number, value) || toFloatSlowly(number, value);
+    return scaleExactly(number, value) || toFloatReference(number, value);
 }
 
-bool toFloatSlowly(Decimal const& number, float& value) noexcept {
+bool toFloatReference(Decimal const& number, float& value) noexcept {
     Digits const digits = significantDigits(number);
     int const magnitudeOfTen = digits.count + digits.exponent;
     float magnitude = 0;

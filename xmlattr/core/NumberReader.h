@@ -17,7 +17,7 @@ struct Decimal {
     int exponent = 0;           // the power of ten of the mantissa's last digit
     bool negative = false;
     bool truncated = false;           // more than 19 significant digits: the mantissa lacks some
-    char16_t const* end = nullptr;    // behind the last code unit of the number; null: no number
+    char16_t const* end = nullptr;    // after the last code unit of the number; null: no number
     char16_t const* digits = nullptr; // the mantissa's first digit or its point
 };
 
@@ -38,10 +38,10 @@ constexpr bool isHalfwayBetweenFloats(double value) noexcept {
     return (std::bit_cast<std::uint64_t>(value) & belowFloat) == std::uint64_t{1} << 28;
 }
 
-// Reads a plain number, [sign] digits [. digits], at the very start of the text: the short way for
-// what nearly every number of a long list is. Gives the place behind its last digit and the same
+// Reads a plain number, [sign] digits [. digits], at the very start of the text: the fast path for
+// nearly every number of a long list. Gives the place after its last digit and the same
 // value as scanDecimal and toFloat give for the text up to there. Null where only those can tell
-// (no digit, a point without a digit behind it, very many digits); then `value` is untouched. An
+// (no digit, a point without a digit after it, very many digits); then `value` is untouched. An
 // exponent is not looked for: the caller sees from what follows whether the number ends there.
 inline char16_t const* scanPlain(char16_t const* unit, char16_t const* end, float& value) noexcept {
     if (unit == end) return nullptr;
@@ -60,7 +60,7 @@ inline char16_t const* scanPlain(char16_t const* unit, char16_t const* end, floa
         digits += decimals;
     }
     if (digits == 0 || digits > maxMantissaDigits || mantissa > largestExactInteger) return nullptr;
-    // Two exact doubles, divided: rounded once, and far within the range of a float.
+    // The quotient of two exact doubles: rounded once, and far within the range of a float.
     double const scaled = static_cast<double>(static_cast<std::int64_t>(mantissa)) / powersOfTen[decimals];
     if (isHalfwayBetweenFloats(scaled)) return nullptr;
     value =
@@ -75,8 +75,8 @@ XMLATTR_API Decimal scanDecimal(std::u16string_view text) noexcept;
 // then `value` is untouched. A number too small for a float gives 0.
 XMLATTR_API bool toFloat(Decimal const& number, float& value) noexcept;
 
-// toFloat without its fast path: the same answer for every number. It needs no other reader of numbers,
+// toFloat without its fast path, the reference: the same answer for every number. It needs no other reader of numbers,
 // since not every standard library has one for floats that is exact and independent of the locale.
-bool toFloatSlowly(Decimal const& number, float& value) noexcept;
+bool toFloatReference(Decimal const& number, float& value) noexcept;
 
 } // namespace Core

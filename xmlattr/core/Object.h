@@ -19,8 +19,8 @@ public:
     Object& operator=(Object const&) noexcept { return *this; }
     virtual ~Object();
 
-    // Only who made the object can add its first reference, and only who holds the last one can
-    // release it: neither needs the bus, and most objects have no other.
+    // Only the maker of the object can add its first reference, and only the holder of the last one can
+    // release it: neither needs an atomic addition, and most objects never have a second reference.
     void AddRef() const noexcept {
         if (references.load(std::memory_order_relaxed) == 0)
             references.store(1, std::memory_order_relaxed);

@@ -68,7 +68,7 @@ public:
     static String loadString(int id);
 
     friend bool operator==(String const& a, String const& b) noexcept { return a.units == b.units; }
-    // For texts alone: an attribute that converts to one has comparisons of its own.
+    // For strings alone: an attribute that converts to one has its own comparisons.
     template <std::same_as<String> S> friend bool operator==(S const& a, std::u16string_view b) noexcept {
         return a.units == b;
     }

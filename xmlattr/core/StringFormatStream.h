@@ -31,7 +31,7 @@ private:
     Vector<Argument> arguments;
 };
 
-// The same at one go for a format and arguments that are at hand, without copies of them.
+// The same in one call, without copying the format or the arguments.
 using FormatArgument = std::variant<std::u16string_view, int, float, double>;
 XMLATTR_API String formatText(std::u16string_view format, std::initializer_list<FormatArgument> arguments);
 

@@ -27,7 +27,7 @@ constexpr bool isDigit(char16_t unit) noexcept {
     return unit >= u'0' && unit <= u'9';
 }
 
-// Digits and letters come in no order that could be predicted: a table needs no branch between them.
+// Branches between digits and letters cannot be predicted; a table needs none.
 inline constexpr auto hexDigits = [] {
     std::array<signed char, 128> values{};
     values.fill(-1);

@@ -1,4 +1,4 @@
-// The version of the library. What a new one may change, docs/abi.md says.
+// The version of the library; docs/abi.md says what a new one may change.
 #pragma once
 
 #include "xmlattr/core/Export.h"

@@ -1,4 +1,4 @@
-// The one table of words: whatever list of words a text is matched with is searched by it.
+// The one table of words: every list of words that a text is matched against is one.
 #pragma once
 
 #include "xmlattr/core/Export.h"
@@ -16,13 +16,13 @@
 
 namespace Core {
 
-// Whether letters of either case match; those of ASCII are meant.
+// Whether ASCII letters of either case match.
 enum class Case { Exact, Any };
 
 // The value of words that are only listed.
 struct Valueless {};
 
-// What is written down of a table: an array of rows, char16_t or char for each letter.
+// A row as it is written in a table; its letters are char16_t or char.
 template <class Value = Valueless, class Unit = char16_t> struct WordRow {
     std::basic_string_view<Unit> word;
     Value value{};
@@ -199,7 +199,7 @@ template <auto const& rows> consteval std::size_t countLetters() {
     return letters;
 }
 
-// What is made of an array of rows, as static functions.
+// The table made from an array of rows, as static functions.
 template <auto const& rows, template <class, class, std::size_t, std::size_t> class Packed> class Words {
     using Types = RowTypes<std::remove_cvref_t<decltype(*std::begin(rows))>>;
 

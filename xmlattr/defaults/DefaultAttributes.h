@@ -1,5 +1,5 @@
-// The default of every property that the formatter knows, as an attribute of the property's type:
-// what a property is that a document does not set, and what it is compared with.
+// Defaults of properties, each an attribute of the property's type: the value of a property that a document does
+// not set, which other values are compared with. Not every attribute of the catalogue has one.
 //
 // They never change once the library is loaded, and any thread may read them. Those of keywords,
 // numbers and measures need no code when it is loaded; the others are built then, in one order, and

@@ -19,8 +19,8 @@ public:
 
     bool operator==(AxisSource const&) const = default;
 
-    // Whether the text begins with the name of a grouping function, in any case. Intended: nothing
-    // need end that name, so that "years(x)" and "monthly(x)" have one too.
+    // Whether the text begins with the name of a grouping function, in any case. Intended: the name
+    // may go on, so that "years(x)" and "monthly(x)" have one too.
     static bool hasFn(Core::String const& text);
 
 private:

@@ -44,7 +44,7 @@ public:
 
     constexpr bool operator==(ForcePageCount const&) const = default;
 
-    // False for one of the two multiples without an integer and a ")" behind it; then `out` is
+    // False for one of the two multiples without an integer and a ")" after it; then `out` is
     // untouched. Intended: every other unknown text is accepted, and leaves `out` as it was.
     static bool parse(Core::String text, ForcePageCount& out);
 

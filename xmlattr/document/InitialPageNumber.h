@@ -43,7 +43,7 @@ public:
         return type == other.type && (type != InitialPageNumberType::Number || number == other.number);
     }
 
-    // False for "multiple-of(" without an integer and a ")" behind it; then `out` is untouched.
+    // False for "multiple-of(" without an integer and a ")" after it; then `out` is untouched.
     // Intended: every other text counts as a number, and one below 1 as 1; "abc" is page 1.
     static bool parse(Core::String const& text, InitialPageNumber& out);
 

@@ -31,7 +31,7 @@ static_assert(sizeof(MaxDataPoints) == 8);
 
 template <> struct XMLATTR_API AttributeTraits<MaxDataPoints> {
     static bool parse(MaxDataPoints& value, std::u16string_view text);
-    // Empty for a number that is no type.
+    // Empty for an out-of-range type.
     static Core::String print(MaxDataPoints const& value);
     static constexpr Description describe{{u"a whole number"}, {u"12"}};
     static void words(Words& out);

@@ -21,7 +21,7 @@ public:
     constexpr TabPattern getPattern() const { return pattern; }
 
     // By position in pixels, whatever the units. Throws UnreacheableCodeException for a position
-    // whose unit is none.
+    // with an out-of-range unit.
     bool operator<(TabStop const& other) const { return position.pxSize() < other.position.pxSize(); }
 
 private:

@@ -37,7 +37,7 @@ public:
     // Intended: replaces the string field alone; the type and the other fields stay.
     void setValue(Core::String const& text) { string = text; }
 
-    // Intended: the field of the left operand's type is compared without a look at the right one's
+    // Intended: the field of the left operand's type is compared whatever the right one's
     // type, so that the number 0 equals every string and date, whose number is 0, though they need not
     // equal it. A value without a type is equal to nothing, itself included.
     bool operator==(Value const& other) const;

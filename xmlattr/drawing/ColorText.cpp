@@ -9,7 +9,7 @@ namespace Drawing {
 
 namespace {
 
-// The components of a call: behind the first "(" each runs to the next ",", the last one to ")".
+// The components of a call: after the first "(" each runs to the next ",", the last one to ")".
 template <std::size_t n> bool splitCall(std::u16string_view text, std::u16string_view (&components)[n]) {
     std::size_t at = text.find(u'(');
     for (std::size_t i = 0; i < n; ++i) {
@@ -68,7 +68,7 @@ bool readPlainRGB(std::u16string_view text, unsigned char (&values)[3]) {
 
 } // namespace
 
-bool readRGBSlowly(SmartPtr<Color>& color, std::u16string_view text) {
+bool readRGBReference(SmartPtr<Color>& color, std::u16string_view text) {
     std::u16string_view texts[3];
     unsigned char values[3];
     if (!splitCall(text, texts)) return false;
@@ -80,7 +80,7 @@ bool readRGBSlowly(SmartPtr<Color>& color, std::u16string_view text) {
 
 bool readRGB(SmartPtr<Color>& color, std::u16string_view text) {
     unsigned char values[3];
-    if (!readPlainRGB(text, values)) return readRGBSlowly(color, text);
+    if (!readPlainRGB(text, values)) return readRGBReference(color, text);
     color = new RGBColor(values[0], values[1], values[2]);
     return true;
 }

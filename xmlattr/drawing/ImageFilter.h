@@ -24,7 +24,7 @@ public:
 
     // False for any other word; then `filter` is untouched.
     static bool parseFilter(ImageFilter& filter, std::u16string_view text);
-    // The word of the type; empty for a number that is no type.
+    // The word of the type; empty for an out-of-range type.
     Core::String toString() const;
 
 private:

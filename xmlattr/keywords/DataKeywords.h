@@ -136,7 +136,7 @@ template <> struct Keywords<OrbelDocumentOutputType> {
     };
 };
 
-// The protocol of a web-service call; the empty text is none.
+// The protocol of a web-service call; the empty text means none.
 enum class XMLATTR_API WSProtocol : std::int32_t { None = 0, Soap = 1, Soap12 = 2, HttpGet = 3, HttpPost = 4 };
 template <> struct Keywords<WSProtocol> {
     using enum WSProtocol;
@@ -146,7 +146,7 @@ template <> struct Keywords<WSProtocol> {
     static constexpr bool acceptsEmpty = true;
 };
 
-// The binding style of a web-service call; the empty text is none.
+// The binding style of a web-service call; the empty text means none.
 enum class XMLATTR_API WSBindingStyle : std::int32_t { None = 0, Rpc = 1, Document = 2 };
 template <> struct Keywords<WSBindingStyle> {
     using enum WSBindingStyle;
@@ -171,7 +171,7 @@ template <> struct Keywords<OriginalInputFormat> {
     static constexpr Case rule = Case::Any;
     static constexpr KeywordRow<OriginalInputFormat> rows[] = {
         {u"FO", Fo}, {u"INX", Inx}, {u"HTML", Html}, {u"DOCX", Docx}, {u"WORDML", WordMl}};
-    // Intended: Fo prints "XLSFO" and a foreign number "XSLFO"; neither is read back.
+    // Intended: Fo prints "XLSFO" and an out-of-range value "XSLFO"; neither is read back.
     static constexpr KeywordRow<OriginalInputFormat> printRows[] = {
         {u"XLSFO", Fo}, {u"INX", Inx}, {u"HTML", Html}, {u"DOCX", Docx}, {u"WORDML", WordMl}};
     static constexpr std::u16string_view unknownPrints = u"XSLFO";

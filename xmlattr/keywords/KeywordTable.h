@@ -1,4 +1,4 @@
-// The one mechanism behind every keyword enumeration: a constexpr table right under it.
+// The one mechanism for all keyword enumerations: each has a constexpr table right under it.
 #pragma once
 
 #include "xmlattr/attributes/AttributeTraits.h"

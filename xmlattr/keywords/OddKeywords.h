@@ -117,7 +117,7 @@ template <> struct Keywords<BarcodeValueType> {
     static constexpr KeywordRow<BarcodeValueType> rows[] = {{u"TEXT", Text}, {u"HEX", Hex}};
     static constexpr std::u16string_view unknownPrints = u"HEX";
 };
-// Intended: printing a foreign number makes it Hex, so an attribute lets its printer at the value.
+// Intended: printing an out-of-range value changes it to Hex, so the printer of the attribute may write the value.
 template <> struct AttributeStorage<BarcodeValueType> { mutable BarcodeValueType value{}; };
 template <> struct XMLATTR_API AttributeTraits<BarcodeValueType> : KeywordTraits<BarcodeValueType> {
     static void words(Words& out);

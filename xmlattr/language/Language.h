@@ -39,7 +39,7 @@ public:
     static Core::String getISO639LanguageName(Language const& language);
     // "US", "GB", "AU" or nothing.
     static Core::String getISO639CountrySuffix(Drawing::CountryId country);
-    // The lower-case English name; "english" for every number that is no language.
+    // The lower-case English name; "english" for an out-of-range language.
     static Core::String getFullLanguageNameById(Drawing::LanguageId language);
 
 private:

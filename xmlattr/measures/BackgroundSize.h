@@ -45,7 +45,7 @@ static_assert(sizeof(BackgroundSize) == 20);
 
 template <> struct XMLATTR_API AttributeTraits<BackgroundSize> {
     static bool parse(BackgroundSize& value, std::u16string_view text);
-    // Throws UnreacheableCodeException for a foreign type.
+    // Throws UnreacheableCodeException for an out-of-range type.
     static Core::String print(BackgroundSize const& value);
     static constexpr bool refusesComparison = true;
     static constexpr Description describe = AttributeTraits<LengthOrPercent>::describe;

@@ -41,7 +41,7 @@ static_assert(sizeof(BaselineShift) == 20);
 
 template <> struct XMLATTR_API AttributeTraits<BaselineShift> {
     static bool parse(BaselineShift& value, std::u16string_view text);
-    // Throws UnreacheableCodeException for a foreign mode.
+    // Throws UnreacheableCodeException for an out-of-range mode.
     static Core::String print(BaselineShift const& value);
     static constexpr Description describe = AttributeTraits<LengthOrPercent>::describe;
     static void words(Words& out);

@@ -7,7 +7,7 @@ namespace Xml {
 
 // A LengthOrPercent, or a call with one as its argument. In proportional-column-width() a bare
 // number is a ratio whatever the configuration says: 2 prints as 200%. Intended: any other name
-// passes its argument through ("f(3pt)" is 3pt), and what stands behind the ")" or its absence does
+// passes its argument through ("f(3pt)" is 3pt), and what follows the ")", or its absence, does
 // not matter. The default is automatic and prints the empty text.
 class XMLATTR_API ColumnWidth : public AutoOrMeasure {
 public:

@@ -26,7 +26,7 @@ template <> struct Keywords<ContentScaleMode> {
 };
 
 // One of the words of ContentScaleMode, exact in case, or a LengthOrPercent. Prints the same, and
-// the empty text for a foreign mode.
+// the empty text for an out-of-range mode.
 class XMLATTR_API ContentLength {
 public:
     constexpr ContentLength() = default;

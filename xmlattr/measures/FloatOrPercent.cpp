@@ -9,7 +9,7 @@ bool AttributeTraits<FloatOrPercent>::parse(FloatOrPercent& value, std::u16strin
     if (isPercent) text.remove_suffix(1);
     float number = 0;
     if (!Core::Format::parseFloat(text, number)) return false;
-    // Intended: divided in double precision, unlike the percentages of lengths.
+    // Intended: the division is in double precision, unlike the percentages of lengths.
     value = FloatOrPercent(isPercent ? static_cast<float>(number / 100.0) : number);
     return true;
 }

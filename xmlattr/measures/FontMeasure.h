@@ -1,4 +1,4 @@
-// A font measure relative to the parent's or absolute: the one value behind font sizes and stretches.
+// A font measure relative to the parent's or absolute: the value that font sizes and stretches share.
 #pragma once
 
 #include "xmlattr/core/Export.h"

@@ -57,7 +57,7 @@ static_assert(sizeof(FontSize) == 24);
 
 template <> struct XMLATTR_API AttributeTraits<FontSize> {
     static bool parse(FontSize& value, std::u16string_view text);
-    // Throws UnreacheableCodeException for a foreign relative size.
+    // Throws UnreacheableCodeException for an out-of-range relative size.
     static Core::String print(FontSize const& value);
     static constexpr Description describe = AttributeTraits<LengthOrPercent>::describe;
     static void words(Words& out);

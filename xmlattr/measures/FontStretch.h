@@ -68,7 +68,7 @@ static_assert(sizeof(FontStretch) == 24);
 
 template <> struct XMLATTR_API AttributeTraits<FontStretch> {
     static bool parse(FontStretch& value, std::u16string_view text);
-    // Throws UnreacheableCodeException for a foreign relative stretch.
+    // Throws UnreacheableCodeException for an out-of-range relative stretch.
     static Core::String print(FontStretch const& value);
     static constexpr Description describe = AttributeTraits<LengthOrPercent>::describe;
     static void words(Words& out);

@@ -34,7 +34,7 @@ static_assert(sizeof(Indent) == 20);
 
 template <> struct XMLATTR_API AttributeTraits<Indent> {
     static bool parse(Indent& value, std::u16string_view text);
-    // Throws UnreacheableCodeException for a foreign function.
+    // Throws UnreacheableCodeException for an out-of-range function.
     static Core::String print(Indent const& value);
     static constexpr Description describe = AttributeTraits<LengthOrPercent>::describe;
     static void words(Words& out);

@@ -51,12 +51,12 @@ Core::String Length::getValueAsString(Length const& length) {
 bool AttributeTraits<Length>::parse(Length& value, std::u16string_view text) {
     PlainMeasure const plain(text);
     auto const unit = plain.unit<Length::Unit>();
-    if (unit == noUnit<Length::Unit>) return parseSlowly(value, text);
+    if (unit == noUnit<Length::Unit>) return parseReference(value, text);
     value = Length(plain.number, unit);
     return true;
 }
 
-bool AttributeTraits<Length>::parseSlowly(Length& value, std::u16string_view text) {
+bool AttributeTraits<Length>::parseReference(Length& value, std::u16string_view text) {
     if (!startsLikeNumber(text)) return false;
     if (text == u"0") {
         value = Length(0, Length::Pt); // Intended: points, not the pixels of the default length

@@ -9,7 +9,7 @@ namespace Xml {
 
 // A number and its unit: "px", "pt", "pc", "cm", "mm", "in", "em" or "ex", exact in case; the single
 // exception is a bare "0", which is 0pt. Nothing is trimmed. Prints at most three decimals.
-// One em is 1/16 and one ex 1/8 pixel: who needs font-relative sizes resolves them before.
+// One em is 1/16 and one ex 1/8 pixel: callers that need font-relative sizes resolve them first.
 class XMLATTR_API Length {
 public:
     enum Unit : std::int32_t { Px = 0, Pt = 1, Pc = 2, Cm = 3, Mm = 4, In = 5, Em = 6, Ex = 7 };
@@ -26,7 +26,7 @@ public:
     constexpr bool operator==(Length const&) const = default;
 
     // In pixels, 96 to the inch; infinite when that is too large for a float. This and all that
-    // converts throws UnreacheableCodeException for a number that is no unit.
+    // converts throws UnreacheableCodeException for an out-of-range unit.
     float pxSize() const;
     // Intended: 16 pixels are 144 pica, since callers rely on pica multiplying by 12 both ways.
     static float pxSizeToUnitSize(float px, Unit unit);
@@ -39,7 +39,7 @@ public:
 
     // False for a text that is no length; then `out` is untouched.
     static bool parseLength(Length& out, Core::String const& text);
-    // Throws UnreacheableCodeException for a number that is no unit.
+    // Throws UnreacheableCodeException for an out-of-range unit.
     static Core::String getValueAsString(Length const& length);
 
 private:
@@ -51,15 +51,15 @@ static_assert(sizeof(Length) == 8);
 
 template <> struct XMLATTR_API AttributeTraits<Length> {
     static bool parse(Length& value, std::u16string_view text);
-    // The same without the short way for plain numbers.
-    static bool parseSlowly(Length& value, std::u16string_view text);
+    // The same without the fast path for plain numbers: the reference.
+    static bool parseReference(Length& value, std::u16string_view text);
     static Core::String print(Length const& value);
     static constexpr Description describe{{u"a number with px, pt, pc, cm, mm, in, em or ex, or 0"},
                                           {u"12pt", u"-1.5e3cm", u"0"}};
     static void parts(Length const& value, Parts& out);
 };
 
-// Two lengths divided by white space; one alone stands for both. Prints both.
+// Two lengths separated by white space; one alone stands for both. Prints both.
 class XMLATTR_API DLength {
 public:
     constexpr DLength() = default;

@@ -11,7 +11,7 @@ namespace Xml {
 
 namespace {
 
-// A number before a unit. Intended: two code units that are no unit count as pixels, and a text
+// A number before a unit. Intended: two code units that name no unit count as pixels, and a text
 // without anything before them ("-x", "+") has the number 0.
 bool readLength(LengthOrPercent& value, std::u16string_view text) {
     UnitAtEnd<Length::Unit> const end(text);

@@ -11,7 +11,7 @@ namespace Xml {
 // A number with "%", a number with a unit of Length, or a bare number, which is a ratio (1.5 is
 // 150%), unless the configuration says that "MeasurementUnit" is "Points": then it is in points.
 // "normal" is 120%, the normal line height. Words and units are exact in case, nothing is trimmed.
-// Intended: a pair of code units that is no unit counts as pixels, so that "12PT" is 12px.
+// Intended: a pair of code units that names no unit counts as pixels, so that "12PT" is 12px.
 // Prints the percentage or the length.
 class XMLATTR_API LengthOrPercent : public MeasureOrPercent<Length> {
 public:
@@ -21,10 +21,10 @@ public:
 
     constexpr bool operator==(LengthOrPercent const&) const = default;
 
-    // With `bareNumberIsRatio` the configuration is not asked. False for a text that is neither
+    // With `bareNumberIsRatio` the configuration is ignored. False for a text that is neither
     // length nor percentage; then `out` is untouched.
     static bool parseLengthOrPercent(LengthOrPercent& out, Core::String const& text, bool bareNumberIsRatio);
-    // Throws UnreacheableCodeException for a length whose unit is none.
+    // Throws UnreacheableCodeException for a length with an out-of-range unit.
     static Core::String getValueAsString(LengthOrPercent const& value);
 };
 
@@ -43,7 +43,7 @@ template <> struct XMLATTR_API AttributeTraits<LengthOrPercent> {
 class AutoOrMeasure : public TaggedMeasure<bool, false, LengthOrPercent> {
 public:
     constexpr bool isAuto() const { return tag; }
-    // What it is without any meaning while the value is automatic.
+    // Has no meaning while the value is automatic.
     constexpr LengthOrPercent const& getLengthOrPercent() const { return measure; }
 
 protected:

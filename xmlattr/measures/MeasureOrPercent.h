@@ -1,4 +1,4 @@
-// A length or a percentage: the one value behind LengthOrPercent and SLengthOrPercent.
+// A length or a percentage: the value that LengthOrPercent and SLengthOrPercent share.
 #pragma once
 
 #include <cstdint>

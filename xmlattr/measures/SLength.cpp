@@ -46,11 +46,11 @@ bool AttributeTraits<SLength>::parse(SLength& value, std::u16string_view text) {
     else if (auto const unit = plain.unit<SLength::Unit>(); unit != noUnit<SLength::Unit>)
         value = SLength(plain.number, unit);
     else
-        return parseSlowly(value, text);
+        return parseReference(value, text);
     return true;
 }
 
-bool AttributeTraits<SLength>::parseSlowly(SLength& value, std::u16string_view text) {
+bool AttributeTraits<SLength>::parseReference(SLength& value, std::u16string_view text) {
     if (text.empty()) return false;
     float number = 0;
     if (text.size() > 1 && text.back() == u'%') {

@@ -28,10 +28,10 @@ public:
     constexpr bool operator!() const { return size == 0; }
 
     // In pixels, 96 to the inch, and infinite when that is too large for a float; a percentage gives
-    // its fraction. Throws UnreacheableCodeException for a number that is no unit.
+    // its fraction. Throws UnreacheableCodeException for an out-of-range unit.
     float pxSize() const;
 
-    // Intended: "px" and every other pair of code units that is no unit is dropped, so that "12px"
+    // Intended: "px" and every other pair of code units that names no unit is dropped, so that "12px"
     // and "12ab" are 12 user units and "12a" is 1. False for a text that is no length; then `out` is untouched.
     static bool parseSLength(SLength& out, Core::String const& text);
     // The same without the leniency at the start, but with some at the end: see SLengthOrPercent.
@@ -46,8 +46,8 @@ static_assert(sizeof(SLength) == 8);
 
 template <> struct XMLATTR_API AttributeTraits<SLength> {
     static bool parse(SLength& value, std::u16string_view text);
-    // The same without the short way for plain numbers.
-    static bool parseSlowly(SLength& value, std::u16string_view text);
+    // The same without the fast path for plain numbers: the reference.
+    static bool parseReference(SLength& value, std::u16string_view text);
     static constexpr bool printsEmpty = true;
     static constexpr Description describe{{u"a number", u"a percentage", u"a number with pt, pc, cm, mm, in, em or ex"},
                                           {u"1.5", u"50%", u"12pt", u"3e-2mm"}};

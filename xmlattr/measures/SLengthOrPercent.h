@@ -9,7 +9,7 @@ namespace Xml {
 // A bare number of user units, a number with a unit of SVG 1.1, or a number with "%". White space
 // may follow, not precede; units are exact in case. Read by SLength::parseSLengthOrPercent, which
 // leaves the value untouched when it fails. There is no printer.
-// Intended: a pair of code units that is no unit is dropped ("12ab" is 12 user units), and a text of
+// Intended: a pair of code units that names no unit is dropped ("12ab" is 12 user units), and a text of
 // one or two code units that ends in neither digit nor "%" is one user unit, whatever its number.
 class XMLATTR_API SLengthOrPercent : public MeasureOrPercent<SLength> {
 public:

@@ -5,8 +5,8 @@
 
 namespace Xml {
 
-// A LengthOrPercent, or a call with one as its argument. Intended: the call's name is never looked
-// at, so that a bare number follows the configuration even in proportional-column-width(). The
+// A LengthOrPercent, or a call with one as its argument. Intended: the call's name is
+// ignored, so that a bare number follows the configuration even in proportional-column-width(). The
 // default is automatic; there is no printer.
 class XMLATTR_API TableWidth : public AutoOrMeasure {
 public:

@@ -65,7 +65,7 @@ template <> struct XMLATTR_API AttributeTraits<TextAlign> {
     static constexpr Core::WordRow<TextAlignType> rows[] = {{u"outside", TextAlignType::Outside},
                                                             {u"relative", TextAlignType::Relative}};
     static bool parse(TextAlign& value, std::u16string_view text);
-    // Throws UnreacheableCodeException for a foreign type.
+    // Throws UnreacheableCodeException for an out-of-range type.
     static Core::String print(TextAlign const& value);
     static constexpr Description describe{
         .forms = {u"any other text, to align at"}, .examples = {u"."}, .readsAnyText = true};

@@ -89,9 +89,9 @@ struct PlainMeasure {
 
     explicit PlainMeasure(std::u16string_view text) {
         char16_t const* const end = text.data() + text.size();
-        char16_t const* const behind = Core::scanPlain(text.data(), end, number);
-        isPlain = behind != nullptr;
-        if (isPlain) suffix = {behind, static_cast<std::size_t>(end - behind)};
+        char16_t const* const after = Core::scanPlain(text.data(), end, number);
+        isPlain = after != nullptr;
+        if (isPlain) suffix = {after, static_cast<std::size_t>(end - after)};
     }
 
     // The unit of the type that is all of the suffix, or noUnit.
@@ -100,11 +100,11 @@ struct PlainMeasure {
     bool isBare() const { return isPlain && suffix.empty(); }
 };
 
-// Reads a number before a unit. Intended: two code units that are no unit are dropped and give user units, as "px"
+// Reads a number before a unit. Intended: two code units that name no unit are dropped and give user units, as "px"
 // does. False, too, for a text without anything before them.
 XMLATTR_API bool readWithUnit(SLength& out, std::u16string_view text);
 
-// Prints a length after what a text holds already. Throws UnreacheableCodeException for an out-of-range unit.
+// Appends a length to the text. Throws UnreacheableCodeException for an out-of-range unit.
 XMLATTR_API void appendLength(std::u16string& out, Length const& length);
 
 // As a text of SVG has it.

@@ -8,7 +8,7 @@
 
 namespace Xml {
 
-// Offsets, blur radius and colour, divided by single blanks: up to three lengths, which fill dx, dy
+// Offsets, blur radius and colour, separated by single blanks: up to three lengths, which fill dx, dy
 // and blur in that order, and one colour anywhere among them. What the text leaves out is 0px and
 // no colour. Prints all four; without a colour the text ends with the blank before it.
 class XMLATTR_API BoxShadow {

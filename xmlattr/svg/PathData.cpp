@@ -136,18 +136,18 @@ private:
     }
 
     // A plain number, as nearly all are, needs no second look: none of its units ends it early, and
-    // when the unit behind it does, the whole run is the number, which the length reader takes as
+    // when the one after it does, the whole run is the number, which the length reader takes as
     // user units because it ends with a digit.
     SLength readLength() {
         skipSeparators();
         float number = 0;
-        char16_t const* const behind = Core::scanPlain(at, end, number);
-        if (behind && (behind == end || endsPlainNumber(behind))) {
-            at = behind;
+        char16_t const* const after = Core::scanPlain(at, end, number);
+        if (after && (after == end || endsPlainNumber(after))) {
+            at = after;
             return {number, SLength::UserUnit};
         }
         SLength length;
-        AttributeTraits<SLength>::parse(length, takeRun()); // zero when it is none
+        AttributeTraits<SLength>::parse(length, takeRun()); // stays zero for what is no length
         return length;
     }
 
@@ -158,7 +158,7 @@ private:
         return !run.empty() && run[0] != u'0' && Core::isDigit(run[0]);
     }
 
-    // The same answer as takeRun gives behind a digit that belongs to no exponent.
+    // The same answer as takeRun gives after a digit that belongs to no exponent.
     bool endsPlainNumber(char16_t const* unit) const {
         switch (unitOf(*unit).role) {
         case Role::Sign:

@@ -21,14 +21,14 @@ void skipSpace(char16_t const*& at, char16_t const* end) {
     while (at != end && Core::isSpace(*at)) ++at;
 }
 
-// Reads the coordinate at `at` and moves behind it; false when it is no SVG length. A plain number,
-// as nearly all are, needs no second look: none of its units ends it early, and when the unit behind
+// Reads the coordinate at `at` and moves past it; false when it is no SVG length. A plain number,
+// as nearly all are, needs no second look: none of its units ends it early, and when the one after
 // it does, the whole is what the length reader takes as user units because it ends with a digit.
 bool readCoordinate(char16_t const*& at, char16_t const* end, SLength& out) {
     float number = 0;
-    char16_t const* const behind = Core::scanPlain(at, end, number);
-    if (behind && (behind == end || endsCoordinate(*behind))) {
-        at = behind;
+    char16_t const* const after = Core::scanPlain(at, end, number);
+    if (after && (after == end || endsCoordinate(*after))) {
+        at = after;
         out = SLength(number, SLength::UserUnit);
         return true;
     }

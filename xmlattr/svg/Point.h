@@ -17,11 +17,11 @@ struct XMLATTR_API Point {
     // Pairs of SVG lengths. A length ends at white space, "," or a "-" that is not its first unit;
     // between the two of a pair may stand one "," and then white space. A first one with which the
     // text ends is dropped. False when another one is bad or empty; then the list is untouched.
-    // Intended: exactly one unit behind each pair is skipped, whatever it is, and white space, so
+    // Intended: exactly one code unit after each pair is skipped, whatever it is, and white space, so
     // that "10,20-30,40" is (10, 20) and (30, 40) and a second "," leaves an empty length.
     static bool parsePointList(Core::Vector<Point>& list, Core::String const& text);
     // "x y" pairs with commas between them, in pixels; the list stays as it is. Throws
-    // UnreacheableCodeException for a length whose unit is none.
+    // UnreacheableCodeException for a length with an out-of-range unit.
     static Core::String getPointListValueAsString(Core::Vector<Point>& list);
 };
 

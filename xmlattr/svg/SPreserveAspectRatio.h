@@ -25,7 +25,7 @@ private:
     std::int32_t ratio = 16 | 128 | 2;
 };
 
-// Two words, exact in case: "none", behind which nothing counts, or an alignment, then "meet" or
+// Two words, exact in case: "none", after which nothing counts, or an alignment, then "meet" or
 // "slice". Never refuses a text: an unknown alignment, such as "defer", is "xMidYMid"; no second word
 // is "meet", and an unknown one is neither. What follows is ignored. There is no printer.
 template <> struct XMLATTR_API AttributeTraits<SPreserveAspectRatio> {

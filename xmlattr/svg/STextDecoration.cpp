@@ -6,7 +6,7 @@ namespace Xml {
 
 bool AttributeTraits<STextDecoration>::parse(STextDecoration& value, std::u16string_view text) {
     if (text.empty()) return false;
-    // Intended: "none" anywhere behind the first code unit means no decoration, and at the very
+    // Intended: "none" anywhere after the first code unit means no decoration, and at the very
     // start it is a keyword like any unknown one, so "none" is refused and " none" is not.
     std::size_t const none = text.find(u"none");
     if (none != std::u16string_view::npos && none > 0) {

@@ -9,7 +9,7 @@
 namespace Xml {
 
 // "underline", "overline" and "line-through", exact in case, with commas between them; white space
-// may stand before a keyword, not behind it. A failed parse changes nothing; there is no printer.
+// may stand before a keyword, not after it. A failed parse changes nothing; there is no printer.
 class XMLATTR_API STextDecoration {
 public:
     constexpr STextDecoration() = default;

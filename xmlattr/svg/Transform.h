@@ -60,7 +60,7 @@ struct XMLATTR_API Transform {
     constexpr Transform(TransformType newType, double newAngle)
         : type(newType), skewAngleX(newAngle), skewAngleY(newAngle) {}
 
-    // The types and the parameters of the type are equal; a number that is no type equals nothing.
+    // The types and the parameters of the type are equal; an out-of-range type equals nothing.
     // Intended: skews compare the angle of a rotation, so that two of the same type from a text or
     // the constructor are equal whatever their own angles.
     bool operator==(Transform const& other) const;
@@ -70,7 +70,7 @@ struct XMLATTR_API Transform {
     // lengths; of the other numbers, those of a matrix are read whole, and of the rest what stands
     // at the start counts ("45deg" is 45). Never fails: anything else gives the identity.
     // Intended: two delimiters in a row hold an empty argument between them, unless the second
-    // is white space; behind the last argument, one white space is no harm and two are.
+    // is white space; after the last argument, one white space does no harm and two do.
     static Transform readTransform(Core::String const& text);
 };
 

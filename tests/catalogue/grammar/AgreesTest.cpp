@@ -6,7 +6,7 @@
 namespace Xml {
 namespace {
 
-// What becomes of a text: "same" or "other" value than the recommendation means, or "refused" by the type; "illegal"
+// The verdict on a text: "same" or "other" value than the recommendation means, or "refused" by the type; "illegal"
 // by the grammar.
 template <class T> std::string judged(Grammar const& grammar, Dialect dialect, std::u16string_view text) {
     Meaning meaning;

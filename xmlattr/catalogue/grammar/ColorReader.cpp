@@ -41,7 +41,7 @@ bool readComponents(Item& item, ValueCursor& cursor) {
         cursor.skipSpace();
         if (i < 2 && !cursor.take(u',')) return false;
     }
-    // Whoever turns percentages into bytes rounds one way or another.
+    // Implementations round percentages to bytes in different ways.
     if (arePercentages) item.number = 1;
     return true;
 }
@@ -70,7 +70,7 @@ bool readNamedColor(Item& item, std::u16string_view name) {
         item.rgb = *rgb;
         return true;
     }
-    // Which colour a system has is not known here, so it is a mere word.
+    // The value of a system colour is not known here, so it counts as a word.
     item.kind = ItemKind::Word;
     return !Core::OSInfo::getSystemColor(Core::String(name)).empty();
 }

@@ -39,7 +39,7 @@ struct GrammarStep {
     }
 };
 
-// Written as a literal of GrammarCompiler.h, which compiles only where it is well formed and names known tokens:
+// Written as a literal of GrammarCompiler.h, which compiles only if it is well formed and names known tokens:
 //
 //   "auto | <length [0,]> | <percentage>"_grammar
 //

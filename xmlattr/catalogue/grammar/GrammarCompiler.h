@@ -389,8 +389,7 @@ inline constexpr auto grammarSteps = [] {
     return steps;
 }();
 
-// The grammar of this text, which does not compile where it is not well formed; of the empty text the one without
-// steps.
+// The grammar of this text, which must be well formed to compile; the empty text gives the grammar without steps.
 template <TableText text>
 inline constexpr Grammar grammarOf = [] {
     if constexpr (std::string_view(text).empty())

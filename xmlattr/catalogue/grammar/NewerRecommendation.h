@@ -8,8 +8,8 @@
 namespace Xml {
 
 // "SVG 2", "CSS 3" and the like for a text that has a word, a function, a unit or a form of colour of that
-// recommendation; empty when it has none. For texts that the grammar of their attribute refuses: whether the rest
-// is well formed is not looked at.
+// recommendation; empty when it has none. For texts that the grammar of their attribute refuses: the rest
+// need not be well formed.
 std::string_view newerRecommendation(Dialect dialect, std::u16string_view text);
 
 } // namespace Xml

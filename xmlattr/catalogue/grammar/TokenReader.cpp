@@ -20,7 +20,7 @@ bool isLetters(std::u16string_view text, std::size_t least, std::size_t most) {
     return text.size() >= least && text.size() <= most && std::ranges::all_of(text, isLetter);
 }
 
-// An NCName. Beyond ASCII nearly every character is a letter, and the few that are not matter to nobody.
+// An NCName. Beyond ASCII nearly every character is a letter, and the few that are not do not matter.
 bool isName(std::u16string_view text) {
     auto const begins = [](char16_t unit) { return isLetter(unit) || unit == u'_' || unit >= u'\u00C0'; };
     auto const continues = [&](char16_t unit) {
