@@ -1,5 +1,5 @@
 // Which value type an attribute of XSL-FO 1.1 or SVG 1.1 has, and what else is known of it: a table that is compiled in.
-// Whether a text is legal on an attribute is told by legality/Judge.h.
+// legality/Judge.h tells whether a text is legal on an attribute.
 #pragma once
 
 #include "xmlattr/catalogue/grammar/Grammar.h"

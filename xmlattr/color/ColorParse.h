@@ -8,7 +8,7 @@ namespace Xml {
 
 using Core::SmartPtr;
 
-// Which form a text has is told by how it begins, exact in case and without trimming:
+// The beginning of a text, exact in case and untrimmed, decides its form:
 //
 //   rgb-icc(r,g,b,#profile,c1[,c2,c3[,c4]])   Drawing::ICCColor with an RGB fallback
 //   spot-color(name[,tint[,alternate]])       Drawing::SpotColor

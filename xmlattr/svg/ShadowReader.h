@@ -5,8 +5,8 @@
 
 namespace Xml {
 
-// Reads parts between single blanks: lengths fill `lengths` in their order, and takeColor(part) is
-// asked about the first part that is no length. The text ends, for the reader, at the first part that
+// Reads parts between single blanks: lengths fill `lengths` in their order, and takeColor(part) gets
+// the first part that is no length. The text ends, for the reader, at the first part that
 // nothing takes and at an empty one, which two blanks in a row or a blank at either end make.
 // Intended: whatever was read until then stands, and the text is accepted; only the empty text,
 // which has no part at all, is refused.
