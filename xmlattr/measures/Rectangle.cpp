@@ -3,7 +3,7 @@
 #include "xmlattr/attributes/TextCursor.h"
 #include "xmlattr/measures/Length.h"
 
-#include <cmath>
+#include <iterator>
 
 namespace Xml {
 
@@ -20,9 +20,7 @@ bool AttributeTraits<Drawing::RectF>::parse(Drawing::RectF& value, std::u16strin
         if (piece.empty()) continue; // Intended: commas side by side count as one
         Length length;
         if (count == std::size(pixels) || !AttributeTraits<Length>::parse(length, Core::trim(piece))) return false;
-        float const pixelSize = length.pxSize();
-        if (!std::isfinite(pixelSize)) return false;
-        pixels[count++] = pixelSize;
+        pixels[count++] = length.pxSize();
     }
     if (count != std::size(pixels)) return false;
     value = Drawing::RectF(pixels[0], pixels[1], pixels[2], pixels[3]);

@@ -7,8 +7,8 @@
 namespace Xml {
 
 // "rect(" four lengths ")" with commas between them, exact in case; blanks may stand around each
-// length, none before "rect(" or after ")". Held in pixels. A failed parse changes nothing; there
-// is no printer.
+// length, none before "rect(" or after ")". Held in pixels, infinite where those are too
+// many for a float, as Length::pxSize gives them. A failed parse changes nothing; there is no printer.
 template <> struct XMLATTR_API AttributeTraits<Drawing::RectF> {
     static bool parse(Drawing::RectF& value, std::u16string_view text);
     static constexpr bool printsEmpty = true;
