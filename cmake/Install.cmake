@@ -12,13 +12,13 @@ set(internal_headers
   catalogue/Properties.inc
   catalogue/SvgProperties.inc
   catalogue/TypeNumber.h
-  catalogue/grammar/[A-Za-z]*.h
+  catalogue/grammar
   catalogue/legality/AlsoLegal.h
   catalogue/legality/Expression.h
   catalogue/legality/ExpressionFunctions.h
   catalogue/legality/Shorthand.h
   catalogue/legality/ValueOfRow.h
-  catalogue/text/[A-Za-z]*.h
+  catalogue/text
   color/ColorNames.h
   core/Append.h
   core/NumberReader.h

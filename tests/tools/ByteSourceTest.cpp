@@ -34,7 +34,7 @@ std::string placesIn(std::string_view document) {
     return recorder.all;
 }
 
-std::string readAll(ByteSource& source, std::size_t blockSize = 1000) {
+[[maybe_unused]] std::string readAll(ByteSource& source, std::size_t blockSize = 1000) {
     std::string all, block(blockSize, '\0');
     while (std::size_t const count = source.read(block)) all.append(block, 0, count);
     return all;

@@ -28,7 +28,7 @@ template <TableText text>
 inline constexpr auto wordsOf = [] {
     constexpr std::string_view view = text;
     constexpr auto count = static_cast<std::size_t>(std::ranges::count(view, ' ')) + (view.empty() ? 0 : 1);
-    std::array<std::string_view, count> words;
+    std::array<std::string_view, count> words{};
     std::string_view rest = view;
     for (std::string_view& word : words) {
         word = rest.substr(0, rest.find(' '));
