@@ -12,11 +12,17 @@ set(internal_headers
   catalogue/Properties.inc
   catalogue/SvgProperties.inc
   catalogue/TypeNumber.h
-  catalogue/grammar
-  catalogue/legality/AlsoLegal.h
+  catalogue/grammar/Agrees.h
+  catalogue/grammar/GrammarCompiler.h
+  catalogue/grammar/GrammarText.h
+  catalogue/grammar/Meaning.h
+  catalogue/grammar/NewerRecommendation.h
+  "catalogue/grammar/Svg[A-Za-z]+.h"
+  catalogue/grammar/TokenReader.h
   catalogue/legality/Expression.h
   catalogue/legality/ExpressionFunctions.h
   catalogue/legality/Shorthand.h
+  catalogue/legality/TypeReading.h
   catalogue/legality/ValueOfRow.h
   catalogue/text
   color/ColorNames.h

@@ -56,6 +56,8 @@ function(xmlattr_add_kind kind target)
   endif()
   if(given_NEEDS)
     target_link_libraries(${target} PUBLIC ${given_NEEDS}${suffix})
+    # Wherever both are installed, the one finds the other beside it.
+    set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
   endif()
 
   if(XMLATTR_INSTALL)

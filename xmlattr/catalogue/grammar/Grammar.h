@@ -3,8 +3,8 @@
 
 #include "xmlattr/catalogue/grammar/Token.h"
 
+#include <bit>
 #include <cstdint>
-#include <limits>
 #include <span>
 #include <string_view>
 
@@ -31,7 +31,8 @@ struct GrammarStep {
     bool separated = false;                     // a Separator follows, so that the value may touch the next one
     std::uint8_t set = 0, option = 0;           // how deep in nested sets of options, and which one
     std::uint16_t next = 0, other = 0;
-    float least = -std::numeric_limits<float>::infinity(), most = std::numeric_limits<float>::infinity();
+    // Infinite where there is no limit; <limits> would not compile after other people's macros.
+    float least = -std::bit_cast<float>(0x7F80'0000), most = std::bit_cast<float>(0x7F80'0000);
     std::string_view word{};
 
     constexpr bool isInRange(float number) const {

@@ -2,6 +2,8 @@
 // a piece of grammar.
 #pragma once
 
+#include "xmlattr/core/Export.h"
+
 #include <cstdint>
 #include <optional>
 #include <string_view>
