@@ -240,7 +240,7 @@ TEST(Command, SaysWhatIsWrongWithACall) {
           Row{"show Length", "show takes a value type and a text\n"}, Row{"show", "TYPE is required\n"},
           Row{"check",
               "no file to check\nReport each attribute that is not read as it is written\nUsage: xmlattr check "},
-          Row{"", "what is to be done?\n"}, Row{"--help >/dev/full", "xmlattr: standard output: "},
+          Row{"", "no command given\n"}, Row{"--help >/dev/full", "xmlattr: standard output: "},
           Row{"--version >/dev/full", "xmlattr: standard output: "},
           Row{"show -h >/dev/full", "xmlattr: standard output: "},
           Row{"types >/dev/full", "xmlattr: standard output: "}}) {

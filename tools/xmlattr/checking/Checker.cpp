@@ -73,7 +73,8 @@ void Checker::startElement(XmlElement const& element, Tag& tag) {
         finding.fault = Fault::DanglingReference;
         finding.attribute = element.attributes[*missing].name;
         finding.problem = "which no filter primitive before it has as its result";
-        find({&tag, *vocabulary, element.name, *missing, finding.attribute, element.attributes[*missing].value},
+        find({&tag, *vocabulary, element.name, *missing, element.attributes[*missing].name,
+              element.attributes[*missing].value},
              std::move(finding));
     }
     bool const isInStylesheet = element.namespaces.hasXslt();

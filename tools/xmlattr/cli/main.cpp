@@ -85,7 +85,7 @@ int run(int argc, char** argv) {
     CLI::App* const showCommand = app.add_subcommand("show", "Show what a value type makes of a text");
     showCommand->add_option("TYPE", showing.type, "The value type")->required()->type_name("");
     CLI::Option const* const textOption =
-        showCommand->add_option("TEXT", showing.text, "The text; behind -- when it could be an option")->type_name("");
+        showCommand->add_option("TEXT", showing.text, "The text; after -- when it could be an option")->type_name("");
     showCommand->allow_extras(); // a text may begin like an option: -.5pt
     showCommand->add_option("--equal", showing.other, "Also compare with this text")->type_name("TEXT");
     addFormat(*showCommand, showing.format);
@@ -132,7 +132,7 @@ int run(int argc, char** argv) {
     }
     if (*typesCommand) return types(typing);
     if (*propertiesCommand) return properties(listing);
-    return usage("what is to be done?");
+    return usage("no command given");
 }
 
 } // namespace

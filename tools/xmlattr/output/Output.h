@@ -14,7 +14,7 @@ struct OutputClosed {
 // Writes to standard output; throws OutputClosed.
 void print(std::string_view text);
 void flushOutput();
-// Writes to standard error, behind what was printed before.
+// Writes to standard error, after what was printed before.
 void printError(std::string_view text);
 
 enum class ColorMode { Auto, Always, Never };
