@@ -7,7 +7,6 @@
 
 #ifdef XMLATTR_HAS_ICONV
 #include <array>
-#include <bit>
 #include <cerrno>
 #include <cstring>
 
@@ -73,7 +72,7 @@ std::unique_ptr<TranscodedSource> TranscodedSource::open(ByteSource& source, std
     };
     if (!std::ranges::all_of(encoding, isNamePart)) return nullptr;
     auto* const converter = iconv_open("UTF-8", encoding.c_str());
-    if (std::bit_cast<std::intptr_t>(converter) == -1) return nullptr;
+    if (reinterpret_cast<std::intptr_t>(converter) == -1) return nullptr;
     return std::unique_ptr<TranscodedSource>(
         new TranscodedSource(source, encoding, std::make_unique<State>(converter)));
 }
