@@ -21,7 +21,7 @@ bool BoxShadow::readFromString(Core::String const& text) {
 bool AttributeTraits<BoxShadow>::parse(BoxShadow& value, std::u16string_view text) {
     BoxShadow shadow;
     if (!shadow.read(text)) return false;
-    value = shadow;
+    value = std::move(shadow);
     return true;
 }
 

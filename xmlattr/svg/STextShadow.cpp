@@ -17,7 +17,7 @@ bool STextShadow::readFromString(Core::String const& text) {
 bool AttributeTraits<STextShadow>::parse(STextShadow& value, std::u16string_view text) {
     STextShadow shadow;
     if (!shadow.read(text)) return false;
-    value = shadow;
+    value = std::move(shadow);
     return true;
 }
 
