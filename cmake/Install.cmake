@@ -7,10 +7,9 @@ set(internal_headers
   attributes/TXmlAttributeImpl.h
   attributes/TextCursor.h
   catalogue/FoProperties.inc
-  catalogue/NameIndex.h
-  catalogue/NameTable.h
   catalogue/Properties.inc
   catalogue/SvgProperties.inc
+  catalogue/Scope.h
   catalogue/TypeNumber.h
   catalogue/grammar/Agrees.h
   catalogue/grammar/GrammarCompiler.h

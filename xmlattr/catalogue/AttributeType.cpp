@@ -1,8 +1,8 @@
 #include "xmlattr/catalogue/AttributeType.h"
 
 #include "xmlattr/attributes/TXmlAttributeImpl.h"
-#include "xmlattr/catalogue/NameIndex.h"
 #include "xmlattr/catalogue/TypeNumber.h"
+#include "xmlattr/catalogue/text/NameTable.h"
 
 #include <array>
 #include <utility>
@@ -72,8 +72,6 @@ constinit AttributeType const AttributeTypes::rows[] = {
 
 namespace {
 
-constexpr NameIndex typesByName(typeNames);
-
 // "a, b or c".
 Core::String joined(Words const& words) {
     std::u16string line;
@@ -96,7 +94,8 @@ std::span<AttributeType const> AttributeType::all() noexcept {
 }
 
 AttributeType const* AttributeType::find(std::string_view name) noexcept {
-    return typesByName.find(all(), name);
+    std::size_t const row = NameTable<typeNames>::indexOf(name);
+    return row == Core::noWord ? nullptr : &all()[row];
 }
 
 bool AttributeType::isEnumeration() const noexcept {

@@ -1,6 +1,7 @@
 #include "xmlattr/catalogue/Catalogue.h"
 
 #include "xmlattr/catalogue/AttributeType.h"
+#include "xmlattr/catalogue/Scope.h"
 #include "xmlattr/catalogue/TypeNumber.h"
 #include "xmlattr/catalogue/grammar/GrammarCompiler.h"
 #include "xmlattr/catalogue/text/TableText.h"
@@ -61,13 +62,6 @@ constexpr struct None {
 } NoDefault;
 
 // The columns of the rows.
-
-struct Scope {
-    bool isInherited, isPresentation;
-};
-
-constexpr Scope Local{false, false}, Inherited{true, false}, Presentation{false, true},
-    InheritedPresentation{true, true};
 
 struct Parts {
     std::uint8_t most;

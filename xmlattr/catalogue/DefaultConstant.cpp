@@ -1,10 +1,8 @@
 #include "xmlattr/catalogue/DefaultConstant.h"
 
-#include "xmlattr/catalogue/NameIndex.h"
 #include "xmlattr/catalogue/TypeNumber.h"
+#include "xmlattr/catalogue/text/NameTable.h"
 #include "xmlattr/defaults/DefaultAttributes.h"
-
-#include <array>
 
 namespace Xml {
 
@@ -19,10 +17,10 @@ template <class T> consteval std::uint16_t numberOf() {
     return typeNumber<T>;
 }
 
-#define XMLATTR_DEFAULT(type, name) std::string_view(#name),
-constexpr NameIndex constantsByName(std::to_array({
+#define XMLATTR_DEFAULT(type, name) #name,
+constexpr std::string_view constantNames[] = {
 #include "xmlattr/defaults/DefaultAttributes.inc"
-}));
+};
 
 } // namespace
 
@@ -36,7 +34,8 @@ std::span<DefaultConstant const> DefaultConstant::all() noexcept {
 }
 
 DefaultConstant const* DefaultConstant::find(std::string_view name) noexcept {
-    return constantsByName.find(all(), name);
+    std::size_t const row = NameTable<constantNames>::indexOf(name);
+    return row == Core::noWord ? nullptr : &all()[row];
 }
 
 } // namespace Xml

@@ -1,20 +1,16 @@
 #include "xmlattr/catalogue/Elements.h"
 
-#include "xmlattr/catalogue/NameTable.h"
+#include "xmlattr/catalogue/Scope.h"
+#include "xmlattr/catalogue/text/NameTable.h"
 #include "xmlattr/catalogue/text/TableText.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <iterator>
 
 namespace Xml {
 
 namespace {
-
-struct Scope {
-    bool isInherited, isPresentation;
-};
-
-constexpr Scope Local{false, false}, Inherited{true, false}, Presentation{false, true},
-    InheritedPresentation{true, true};
 
 // The columns of a row of the catalogue that this file needs.
 struct Attribute {
@@ -32,8 +28,8 @@ constexpr Attribute rows[] = {
 #include "xmlattr/catalogue/Properties.inc"
 };
 
-// The rows of an attribute stand together.
-template <Vocabulary vocabulary> constexpr auto tableOfAttributes() {
+// The attributes of a vocabulary in the order of their names, in which the catalogue has them.
+template <Vocabulary vocabulary> constexpr auto attributesOf() {
     constexpr auto isFirst = [](std::size_t i) {
         return rows[i].vocabulary == vocabulary &&
                (i == 0 || rows[i - 1].vocabulary != vocabulary || rows[i - 1].name != rows[i].name);
@@ -47,11 +43,11 @@ template <Vocabulary vocabulary> constexpr auto tableOfAttributes() {
     std::size_t next = 0;
     for (std::size_t i = 0; i < std::size(rows); ++i)
         if (isFirst(i)) names[next++] = rows[i].name;
-    return NameTable<count>(names);
+    return names;
 }
 
-constexpr auto foAttributes = tableOfAttributes<Vocabulary::Fo>();
-constexpr auto svgAttributes = tableOfAttributes<Vocabulary::Svg>();
+constexpr auto foAttributes = attributesOf<Vocabulary::Fo>();
+constexpr auto svgAttributes = attributesOf<Vocabulary::Svg>();
 
 // A set of attributes of one vocabulary, by their numbers.
 struct AttributeSet {
@@ -71,35 +67,46 @@ struct Element {
     AttributeSet attributes;
 };
 
-// The set of the names between blanks, components included. A name that the catalogue does not have does not
-// compile.
-template <auto const& table> constexpr AttributeSet setOf(std::string_view names) {
+// The number of the attribute; a name that the catalogue does not have does not compile.
+template <auto const& attributes> constexpr std::size_t numberOf(std::string_view name) {
+    auto const* const found = std::ranges::lower_bound(attributes, name);
+    requireOf(name, found != attributes.end() && *found == name, "the catalogue has no such attribute");
+    return static_cast<std::size_t>(found - attributes.begin());
+}
+
+// The set of the names between blanks, components included.
+template <auto const& attributes> constexpr AttributeSet setOf(std::string_view names) {
     AttributeSet set;
     while (!names.empty()) {
         std::size_t const length = names.find(' ');
         std::string_view const name = names.substr(0, length);
         names.remove_prefix(length == std::string_view::npos ? names.size() : length + 1);
-        std::size_t number = table.find(name);
-        if (number == noName) throw "the catalogue has no such attribute";
+        std::size_t number = numberOf<attributes>(name);
         set.add(number);
         auto const isComponent = [&](std::string_view next) {
             return next.size() > name.size() && next.starts_with(name) && next[name.size()] == '.';
         };
-        while (++number < table.names.size() && isComponent(table.names[number])) set.add(number);
+        while (++number < attributes.size() && isComponent(attributes[number])) set.add(number);
     }
     return set;
 }
 
-template <auto const& elements> constexpr auto tableOfElements() {
+template <auto const& elements>
+constexpr auto namesOf = [] {
     std::array<std::string_view, std::size(elements)> names;
     for (std::size_t i = 0; i < names.size(); ++i) names[i] = elements[i].name;
-    return NameTable<std::size(elements)>(names);
+    return names;
+}();
+
+template <auto const& names> bool isIn(std::string_view name) {
+    return NameTable<names>::indexOf(name) != Core::noWord;
 }
 
-template <auto const& attributes, auto const& elements, auto const& table>
+template <auto const& attributes, auto const& elements>
 bool hasIn(std::string_view element, std::string_view attribute) {
-    std::size_t const number = attributes.find(attribute), row = table.find(element);
-    return number != noName && row != noName && elements[row].attributes.contains(number);
+    std::size_t const number = NameTable<attributes>::indexOf(attribute);
+    std::size_t const row = NameTable<namesOf<elements>>::indexOf(element);
+    return number != Core::noWord && row != Core::noWord && elements[row].attributes.contains(number);
 }
 
 namespace fo {
@@ -143,14 +150,15 @@ constexpr AttributeSet Anywhere =
     properties("id index-class index-key role source-document text-decoration text-shadow xml:base xml:space") | [] {
         AttributeSet inherited;
         for (Attribute const& row : rows)
-            if (row.vocabulary == Vocabulary::Fo && row.scope.isInherited) inherited.add(foAttributes.find(row.name));
+            if (row.vocabulary == Vocabulary::Fo && row.scope.isInherited)
+                inherited.add(numberOf<foAttributes>(row.name));
         return inherited;
     }();
 
 // fo:multi-property-set holds the properties for the objects in its fo:multi-properties.
 constexpr AttributeSet Every = [] {
     AttributeSet all;
-    for (std::size_t i = 0; i < foAttributes.names.size(); ++i) all.add(i);
+    for (std::size_t i = 0; i < foAttributes.size(); ++i) all.add(i);
     return all;
 }();
 
@@ -159,8 +167,6 @@ constexpr Element elements[] = {
 #include "xmlattr/catalogue/FoElements.inc"
 };
 #undef XMLATTR_ELEMENT
-
-constexpr auto table = tableOfElements<elements>();
 
 } // namespace fo
 
@@ -187,7 +193,7 @@ constexpr AttributeSet Primitive = Box | attributes("result");
 constexpr AttributeSet Presentation = [] {
     AttributeSet all;
     for (Attribute const& row : rows)
-        if (row.vocabulary == Vocabulary::Svg && row.scope.isPresentation) all.add(svgAttributes.find(row.name));
+        if (row.vocabulary == Vocabulary::Svg && row.scope.isPresentation) all.add(numberOf<svgAttributes>(row.name));
     return all;
 }();
 constexpr AttributeSet Graphics = Core | Conditional | GraphicalEvents | Presentation | Styling;
@@ -198,33 +204,31 @@ constexpr Element elements[] = {
 };
 #undef XMLATTR_ELEMENT
 
-constexpr auto table = tableOfElements<elements>();
-
 } // namespace svg
 
 } // namespace
 
 std::span<std::string_view const> Elements::names(Vocabulary vocabulary) noexcept {
-    if (vocabulary == Vocabulary::Fo) return fo::table.names;
-    return svg::table.names;
+    if (vocabulary == Vocabulary::Fo) return namesOf<fo::elements>;
+    return namesOf<svg::elements>;
 }
 
 bool Elements::isKnown(Vocabulary vocabulary, std::string_view element) noexcept {
-    return vocabulary == Vocabulary::Fo ? fo::table.contains(element) : svg::table.contains(element);
+    return vocabulary == Vocabulary::Fo ? isIn<namesOf<fo::elements>>(element) : isIn<namesOf<svg::elements>>(element);
 }
 
 bool Elements::has(Vocabulary vocabulary, std::string_view element, std::string_view attribute) noexcept {
-    return vocabulary == Vocabulary::Fo ? hasIn<foAttributes, fo::elements, fo::table>(element, attribute)
-                                        : hasIn<svgAttributes, svg::elements, svg::table>(element, attribute);
+    return vocabulary == Vocabulary::Fo ? hasIn<foAttributes, fo::elements>(element, attribute)
+                                        : hasIn<svgAttributes, svg::elements>(element, attribute);
 }
 
 std::span<std::string_view const> Elements::attributes(Vocabulary vocabulary) noexcept {
-    if (vocabulary == Vocabulary::Fo) return foAttributes.names;
-    return svgAttributes.names;
+    if (vocabulary == Vocabulary::Fo) return foAttributes;
+    return svgAttributes;
 }
 
 bool Elements::isAttribute(Vocabulary vocabulary, std::string_view attribute) noexcept {
-    return vocabulary == Vocabulary::Fo ? foAttributes.contains(attribute) : svgAttributes.contains(attribute);
+    return vocabulary == Vocabulary::Fo ? isIn<foAttributes>(attribute) : isIn<svgAttributes>(attribute);
 }
 
 } // namespace Xml

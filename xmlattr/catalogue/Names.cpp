@@ -1,8 +1,8 @@
 #include "xmlattr/catalogue/Names.h"
 
 #include "xmlattr/catalogue/Elements.h"
-#include "xmlattr/catalogue/NameTable.h"
 #include "xmlattr/core/Text.h"
+#include "xmlattr/core/WordTable.h"
 
 #include <algorithm>
 #include <iterator>
@@ -25,22 +25,19 @@ constexpr NewerName newerNames[] = {
 #undef XMLATTR_NEWER
 };
 
-// The rows of a kind stand together.
 template <NameKind kind>
-constexpr std::size_t countOf = static_cast<std::size_t>(std::ranges::count(newerNames, kind, &NewerName::kind));
-template <NameKind kind> constexpr NewerName const* firstOf = std::ranges::find(newerNames, kind, &NewerName::kind);
-
-template <NameKind kind> constexpr auto tableOf() {
-    std::array<std::string_view, countOf<kind>> names;
-    for (std::size_t i = 0; i < names.size(); ++i) names[i] = firstOf<kind>[i].name;
-    return NameTable<countOf<kind>>(names);
-}
+constexpr auto newerNamesOf = [] {
+    constexpr auto count = static_cast<std::size_t>(std::ranges::count(newerNames, kind, &NewerName::kind));
+    std::array<Core::WordRow<std::string_view, char>, count> rows{};
+    std::size_t next = 0;
+    for (NewerName const& name : newerNames)
+        if (name.kind == kind) rows[next++] = {name.name, name.source};
+    return rows;
+}();
 
 // The recommendation that has the newer name; empty when none has.
 template <NameKind kind> std::string_view newer(std::string_view name) {
-    static constexpr auto table = tableOf<kind>();
-    std::size_t const number = table.find(name);
-    return number == noName ? std::string_view() : firstOf<kind>[number].source;
+    return Core::WordTable<newerNamesOf<kind>>::find(name).value_or(std::string_view());
 }
 
 constexpr char toLower(char c) {

@@ -86,7 +86,7 @@ Digits significantDigits(Decimal const& number) noexcept {
     Digits digits;
     digits.exponent = number.exponent;
     if (!number.truncated) {
-        char text[maxMantissaDigits + 1];
+        char text[maxMantissaDigits + 1] = {};
         char const* const end = std::to_chars(text, std::end(text), number.mantissa).ptr;
         if (number.mantissa != 0)
             for (char const* unit = text; unit != end; ++unit)

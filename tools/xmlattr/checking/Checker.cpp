@@ -39,6 +39,13 @@ struct Checker::Occurrence {
 
     bool isDeclaration() const { return notation == Xml::Notation::Declaration; }
     bool isWhole() const { return !tag || tag->isWhole(number); }
+
+    // Whether the element is known and does not have the attribute, which is a known one.
+    bool isMisplaced() const {
+        return !isDeclaration() && Xml::Elements::isKnown(vocabulary, element) &&
+               !Xml::Elements::has(vocabulary, element, name) &&
+               (vocabulary == Xml::Vocabulary::Fo || !Xml::Names::isNewerOn(element, name));
+    }
 };
 
 void Checker::startElement(XmlElement const& element, Tag& tag) {
@@ -62,7 +69,8 @@ void Checker::startElement(XmlElement const& element, Tag& tag) {
             finding.place = tag.raw().place();
             finding.element = tag.raw().elementName();
             if (finding.element.empty()) finding.element = element.name;
-            finding.replacement = fact.text;
+            if (!fact.text.empty())
+                finding.replacement = finding.element.substr(0, finding.element.find(':') + 1).append(fact.text);
             report(finding);
         }
     }
@@ -123,34 +131,24 @@ void Checker::check(Occurrence const& occurrence) {
         ++counts.unknown;
         return checkName(occurrence);
     }
-    bool const isMisplaced =
-        options.isStrict && !occurrence.isDeclaration() && !occurrence.element.empty() &&
-        Xml::Elements::isKnown(occurrence.vocabulary, occurrence.element) &&
-        !Xml::Elements::has(occurrence.vocabulary, occurrence.element, occurrence.name) &&
-        (occurrence.vocabulary == Xml::Vocabulary::Fo || !Xml::Names::isNewerOn(occurrence.element, occurrence.name));
-    if (isMisplaced && isReported(Fault::MisplacedAttribute)) {
-        Finding finding;
-        finding.fault = Fault::MisplacedAttribute;
-        finding.attribute = entry->attribute;
-        find(occurrence, std::move(finding));
-    }
+    if (occurrence.isMisplaced()) findMisplaced(occurrence);
     if (occurrence.vocabulary == Xml::Vocabulary::Svg && occurrence.name == "style") checkStyle(occurrence);
     checkValue(occurrence, *entry);
+}
+
+void Checker::findMisplaced(Occurrence const& occurrence) {
+    if (!options.isStrict || !isReported(Fault::MisplacedAttribute)) return;
+    Finding finding;
+    finding.fault = Fault::MisplacedAttribute;
+    finding.attribute = occurrence.name;
+    find(occurrence, std::move(finding));
 }
 
 void Checker::checkName(Occurrence const& occurrence) {
     Xml::NameFact const fact = occurrence.isDeclaration()
                                    ? Xml::Names::ofProperty(occurrence.name)
                                    : Xml::Names::ofAttribute(occurrence.vocabulary, occurrence.name);
-    if (occurrence.vocabulary == Xml::Vocabulary::Svg && !occurrence.isDeclaration() &&
-        fact.standing == Xml::NameStanding::Known && options.isStrict &&
-        Xml::Elements::isKnown(occurrence.vocabulary, occurrence.element) &&
-        !Xml::Names::isNewerOn(occurrence.element, occurrence.name) && isReported(Fault::MisplacedAttribute)) {
-        Finding finding;
-        finding.fault = Fault::MisplacedAttribute;
-        finding.attribute = occurrence.name;
-        return find(occurrence, std::move(finding));
-    }
+    if (fact.standing == Xml::NameStanding::Known && occurrence.isMisplaced()) return findMisplaced(occurrence);
     // What a stylesheet makes outside of every element may belong to another vocabulary.
     bool const isElsewhere = occurrence.element.empty();
     if (fact.standing != Xml::NameStanding::Unknown || isElsewhere || !isReported(Fault::UnknownAttribute)) return;

@@ -58,6 +58,7 @@ private:
 
     void check(Occurrence const& occurrence);
     void checkName(Occurrence const& occurrence);
+    void findMisplaced(Occurrence const& occurrence);
     void checkValue(Occurrence const& occurrence, Xml::CatalogueEntry const& entry);
     void checkStyle(Occurrence const& occurrence);
     void find(Occurrence const& occurrence, Finding finding);

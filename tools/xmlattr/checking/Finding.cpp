@@ -2,6 +2,8 @@
 
 #include "text/Text.h"
 
+#include <algorithm>
+
 namespace Command {
 
 namespace {
@@ -15,10 +17,9 @@ constexpr FaultKind kinds[] = {
      "The text is not legal on the attribute by its recommendation. No value type reads the attribute, so that it\n"
      "depends on the formatter what becomes of it.\n"},
     {Fault::Misread, "misread", false,
-     "The text is legal, but the value type holds something else than it means: \"M0 0a.5.5 0 0 1 1 1\", say, where "
-     "it\n"
-     "takes \".5.5\" for one number. The message tells what is held, and a text with the same meaning that is read\n"
-     "as it is written.\n"},
+     "The text is legal, but the value type holds something else than it means: \"M0 0a.5.5 0 0 1 1 1\", say, where\n"
+     "it takes \".5.5\" for one number. The message tells what is held, and a text with the same meaning that is\n"
+     "read as it is written.\n"},
     {Fault::Lenient, "lenient", false,
      "The text is not legal on the attribute, but the value type takes it nevertheless: margin=\"10\" is 1000%, say.\n"
      "The message tells what is held; other formatters may refuse the text or read it otherwise.\n"},
@@ -53,6 +54,12 @@ std::string around(std::string const& text, std::size_t offset, std::size_t leng
            (last < text.size() ? "..." : "");
 }
 
+// A value, in quotation marks where it would not be seen where it begins or ends.
+std::string shown(std::string const& value) {
+    bool const hasEnds = !value.starts_with(' ') && !value.ends_with(' ');
+    return hasEnds ? printable(value) : inQuotes(printable(value));
+}
+
 } // namespace
 
 std::span<FaultKind const> faultKinds() {
@@ -60,7 +67,7 @@ std::span<FaultKind const> faultKinds() {
 }
 
 FaultKind const& kindOf(Fault fault) {
-    return kinds[static_cast<std::size_t>(fault)];
+    return *std::ranges::find(kinds, fault, &FaultKind::fault);
 }
 
 std::string Finding::message() const {
@@ -100,7 +107,7 @@ std::string Finding::message() const {
         line += " is not legal";
     if (!held.empty()) {
         bool const isFirst = line.ends_with('"') || line.ends_with(element);
-        line += std::string(isFirst ? " is read as " : ", and is read as ") + printable(held);
+        line += std::string(isFirst ? " is read as " : ", and is read as ") + shown(held);
     } else if (fault == Fault::Misread) {
         line += " is read otherwise";
     }

@@ -31,7 +31,6 @@ struct FaultKind {
     std::string_view explanation;
 };
 
-// In the order of the enumeration.
 std::span<FaultKind const> faultKinds();
 FaultKind const& kindOf(Fault fault);
 

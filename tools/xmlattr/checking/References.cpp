@@ -3,6 +3,7 @@
 #include "text/Text.h"
 #include "xmlattr/catalogue/legality/StyleAttribute.h"
 #include "xmlattr/catalogue/text/Words.h"
+#include "xmlattr/core/WordTable.h"
 
 #include <algorithm>
 #include <utility>
@@ -60,18 +61,15 @@ bool isIdOf(std::string_view id) {
 
 // The properties whose value refers to an element by url(#id). One that paints may go on with what to
 // take when there is no such element.
-struct UrlProperty {
-    std::string_view name;
-    bool mayFallBack;
-};
+enum class UrlUse : std::uint8_t { Refers, Paints };
 
-constexpr UrlProperty urlProperties[] = {{"fill", true},        {"stroke", true},      {"clip-path", false},
-                                         {"mask", false},       {"filter", false},     {"marker-start", false},
-                                         {"marker-mid", false}, {"marker-end", false}, {"marker", false}};
+constexpr Core::WordRow<UrlUse, char> urlProperties[] = {
+    {"fill", UrlUse::Paints},       {"stroke", UrlUse::Paints},     {"clip-path", UrlUse::Refers},
+    {"mask", UrlUse::Refers},       {"filter", UrlUse::Refers},     {"marker-start", UrlUse::Refers},
+    {"marker-mid", UrlUse::Refers}, {"marker-end", UrlUse::Refers}, {"marker", UrlUse::Refers}};
 
-UrlProperty const* findUrlProperty(std::string_view name) {
-    UrlProperty const* const found = std::ranges::find(urlProperties, name, &UrlProperty::name);
-    return found == std::end(urlProperties) ? nullptr : found;
+std::optional<UrlUse> findUrlProperty(std::string_view name) {
+    return Core::WordTable<urlProperties>::find(name);
 }
 
 } // namespace
@@ -152,8 +150,8 @@ void References::startElement(XmlElement const& element, std::optional<Xml::Voca
         } else if (name == "style") {
             addStyle(occurrence);
         } else if (value.find('#') != std::string_view::npos) {
-            if (UrlProperty const* const property = findUrlProperty(name))
-                addUrls(occurrence, value, property->mayFallBack);
+            if (std::optional<UrlUse> const use = findUrlProperty(name))
+                addUrls(occurrence, value, use == UrlUse::Paints);
         }
     }
 }
@@ -226,10 +224,10 @@ void References::addStyle(Occurrence const& occurrence) {
     Xml::blankComments(style);
     for (Xml::Declaration const& declaration : Xml::splitStyle(style)) {
         std::string const name = Xml::toLower(declaration.property);
-        UrlProperty const* const property = findUrlProperty(name);
-        if (!property) continue;
+        std::optional<UrlUse> const use = findUrlProperty(name);
+        if (!use) continue;
         Occurrence const declared{occurrence.element, occurrence.tag, occurrence.number, name, declaration.value};
-        addUrls(declared, declaration.value, property->mayFallBack);
+        addUrls(declared, declaration.value, use == UrlUse::Paints);
     }
 }
 

@@ -86,32 +86,13 @@ Held heldOf(FloatOrPercent const& number) {
 }
 
 Held heldOf(Length const& length) {
-    switch (length.getUnit()) {
-    case Length::Px: return {ItemKind::Length, length.getSize(), u"px"};
-    case Length::Pt: return {ItemKind::Length, length.getSize(), u"pt"};
-    case Length::Pc: return {ItemKind::Length, length.getSize(), u"pc"};
-    case Length::Cm: return {ItemKind::Length, length.getSize(), u"cm"};
-    case Length::Mm: return {ItemKind::Length, length.getSize(), u"mm"};
-    case Length::In: return {ItemKind::Length, length.getSize(), u"in"};
-    case Length::Em: return {ItemKind::Length, length.getSize(), u"em"};
-    case Length::Ex: return {ItemKind::Length, length.getSize(), u"ex"};
-    }
-    return {};
+    return {ItemKind::Length, length.getSize(), Units::word(rowOfUnit(length.getUnit()))};
 }
 
 Held heldOf(SLength const& length) {
-    switch (length.getUnit()) {
-    case SLength::UserUnit: return {ItemKind::Length, length.getSize(), {}};
-    case SLength::Pt: return {ItemKind::Length, length.getSize(), u"pt"};
-    case SLength::Cm: return {ItemKind::Length, length.getSize(), u"cm"};
-    case SLength::Mm: return {ItemKind::Length, length.getSize(), u"mm"};
-    case SLength::In: return {ItemKind::Length, length.getSize(), u"in"};
-    case SLength::Em: return {ItemKind::Length, length.getSize(), u"em"};
-    case SLength::Ex: return {ItemKind::Length, length.getSize(), u"ex"};
-    case SLength::Pc: return {ItemKind::Length, length.getSize(), u"pc"};
-    case SLength::Percent: return {ItemKind::Percentage, length.getSize() * 100, u"%"};
-    }
-    return {};
+    if (length.getUnit() == SLength::Percent) return {ItemKind::Percentage, length.getSize() * 100, u"%"};
+    if (length.getUnit() == SLength::UserUnit) return {ItemKind::Length, length.getSize(), {}};
+    return {ItemKind::Length, length.getSize(), Units::word(rowOfUnit(length.getUnit()))};
 }
 
 bool agrees(Item const& item, Held const& held) {

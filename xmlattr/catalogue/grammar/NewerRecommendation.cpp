@@ -2,8 +2,10 @@
 
 #include "xmlattr/catalogue/text/Words.h"
 #include "xmlattr/core/Text.h"
+#include "xmlattr/core/WordTable.h"
 
 #include <algorithm>
+#include <array>
 
 namespace Xml {
 
@@ -11,54 +13,66 @@ namespace {
 
 // The words between blanks are of the recommendation; those of colours and units are in CSS Color and CSS Values.
 struct Words {
-    std::string_view recommendation, words;
+    std::string_view recommendation;
+    std::u16string_view words;
 };
 
 constexpr Words newWords[] = {
-    {"SVG 2", "context-fill context-stroke context-value auto-start-reverse arcs miter-clip fill-box stroke-box "
-              "view-box non-scaling-stroke non-scaling-size non-rotation fixed-position"},
-    {"CSS 2.1", "inline-block pre-line pre-wrap"},
-    {"CSS 3", "initial unset content-box border-box padding-box margin-box horizontal-tb vertical-rl vertical-lr "
-              "sideways upright isolate isolate-override plaintext match-parent justify-all max-content min-content "
-              "fit-content flex inline-flex grid inline-grid contents flow-root overlay color-dodge color-burn "
-              "hard-light soft-light difference exclusion hue saturation luminosity wavy not-allowed "
-              "no-drop grab grabbing zoom-in zoom-out context-menu cell vertical-text alias copy all-scroll "
-              "col-resize row-resize ew-resize ns-resize nesw-resize nwse-resize break-word"},
-    {"CSS 4", "revert revert-layer rebeccapurple xxx-large break-spaces plus-lighter"},
+    {"SVG 2", u"context-fill context-stroke context-value auto-start-reverse arcs miter-clip fill-box stroke-box "
+              u"view-box non-scaling-stroke non-scaling-size non-rotation fixed-position"},
+    {"CSS 2.1", u"inline-block pre-line pre-wrap"},
+    {"CSS 3", u"initial unset content-box border-box padding-box margin-box horizontal-tb vertical-rl vertical-lr "
+              u"sideways upright isolate isolate-override plaintext match-parent justify-all max-content min-content "
+              u"fit-content flex inline-flex grid inline-grid contents flow-root overlay color-dodge color-burn "
+              u"hard-light soft-light difference exclusion hue saturation luminosity wavy not-allowed "
+              u"no-drop grab grabbing zoom-in zoom-out context-menu cell vertical-text alias copy all-scroll "
+              u"col-resize row-resize ew-resize ns-resize nesw-resize nwse-resize break-word"},
+    {"CSS 4", u"revert revert-layer rebeccapurple xxx-large break-spaces plus-lighter"},
 };
 
 constexpr Words newFunctions[] = {
-    {"SVG 2", "child"},
-    {"CSS 3", "rgba hsl hsla calc var linear-gradient radial-gradient repeating-linear-gradient "
-              "repeating-radial-gradient blur brightness contrast drop-shadow grayscale hue-rotate invert opacity "
-              "saturate sepia translateX translateY translateZ translate3d scaleX scaleY scaleZ scale3d rotateX "
-              "rotateY rotateZ rotate3d skew matrix3d perspective circle ellipse polygon inset path"},
-    {"CSS 4", "hwb lab lch oklab oklch color color-mix device-cmyk light-dark clamp env conic-gradient "
-              "repeating-conic-gradient image-set cross-fade"},
+    {"SVG 2", u"child"},
+    {"CSS 3", u"rgba hsl hsla calc var linear-gradient radial-gradient repeating-linear-gradient "
+              u"repeating-radial-gradient blur brightness contrast drop-shadow grayscale hue-rotate invert opacity "
+              u"saturate sepia translateX translateY translateZ translate3d scaleX scaleY scaleZ scale3d rotateX "
+              u"rotateY rotateZ rotate3d skew matrix3d perspective circle ellipse polygon inset path"},
+    {"CSS 4", u"hwb lab lch oklab oklch color color-mix device-cmyk light-dark clamp env conic-gradient "
+              u"repeating-conic-gradient image-set cross-fade"},
 };
 // XSL-FO has functions of these names.
-constexpr Words newSvgFunctions[] = {{"CSS 4", "min max round mod rem abs"}};
+constexpr Words newSvgFunctions[] = {{"CSS 4", u"min max round mod rem abs"}};
 // Those of SVG 1.1 take plain numbers.
-constexpr std::string_view transforms = "translate scale rotate skewX skewY";
+constexpr Words transforms[] = {{"SVG 1.1", u"translate scale rotate skewX skewY"}};
 
 constexpr Words newUnits[] = {
-    {"CSS 3", "rem vw vh vmin vmax ch q turn dpi dpcm dppx fr"},
-    {"CSS 4", "lh rlh vi vb ic cap rex rch ric rcap svw svh lvw lvh dvw dvh"},
+    {"CSS 3", u"rem vw vh vmin vmax ch q turn dpi dpcm dppx fr"},
+    {"CSS 4", u"lh rlh vi vb ic cap rex rch ric rcap svw svh lvw lvh dvw dvh"},
 };
 
-bool hasWord(std::string_view words, std::u16string_view word) {
-    while (!words.empty()) {
-        std::string_view const known = words.substr(0, words.find(' '));
-        if (equalsWord(word, known, true)) return true;
-        words.remove_prefix(std::min(known.size() + 1, words.size()));
-    }
-    return false;
+constexpr std::u16string_view takeFirst(std::u16string_view& words) {
+    std::u16string_view const word = words.substr(0, words.find(u' '));
+    words.remove_prefix(std::min(word.size() + 1, words.size()));
+    return word;
 }
 
-template <std::size_t count> std::string_view find(Words const (&tables)[count], std::u16string_view word) {
-    for (Words const& table : tables)
-        if (hasWord(table.words, word)) return table.recommendation;
-    return {};
+template <auto const& lists>
+constexpr auto rowsOf = [] {
+    constexpr std::size_t count = [] {
+        std::size_t words = 0;
+        for (Words list : lists)
+            for (; !list.words.empty(); ++words) takeFirst(list.words);
+        return words;
+    }();
+    std::array<Core::WordRow<std::string_view>, count> rows{};
+    std::size_t next = 0;
+    for (Words list : lists)
+        while (!list.words.empty()) rows[next++] = {takeFirst(list.words), list.recommendation};
+    return rows;
+}();
+
+// The recommendation that has the word; empty when none has.
+template <auto const& lists> std::string_view find(std::u16string_view word) {
+    return Core::WordTable<rowsOf<lists>, Core::Case::Any>::find(word).value_or(std::string_view());
 }
 
 bool belongsToWord(char16_t unit) {
@@ -111,22 +125,22 @@ private:
         std::u16string_view const unit = takeWord();
         bool const isExponent = unit.size() > 1 && Core::toLower(unit[0]) == u'e' && !belongsToUnit(unit[1]);
         if (isTransform && (isPercentage || (!unit.empty() && belongsToUnit(unit[0]) && !isExponent))) return "CSS 3";
-        return Xml::find(newUnits, unit);
+        return Xml::find<newUnits>(unit);
     }
 
     static bool belongsToUnit(char16_t unit) { return Core::toLower(unit) >= u'a' && Core::toLower(unit) <= u'z'; }
 
     std::string_view word(std::u16string_view word) {
         if (index == text.size() || text[index] != u'(')
-            return word == u"currentcolor" ? "CSS 4" : Xml::find(newWords, word);
+            return word == u"currentcolor" ? "CSS 4" : Xml::find<newWords>(word);
         if (equalsWord(word, "url", true)) {
             index = std::min(text.find(u')', index), text.size());
             return {};
         }
         if (equalsWord(word, "rgb", true)) return components();
-        isTransform = isSvg && hasWord(transforms, word);
-        std::string_view const found = Xml::find(newFunctions, word);
-        return found.empty() && isSvg ? Xml::find(newSvgFunctions, word) : found;
+        isTransform = isSvg && !Xml::find<transforms>(word).empty();
+        std::string_view const found = Xml::find<newFunctions>(word);
+        return found.empty() && isSvg ? Xml::find<newSvgFunctions>(word) : found;
     }
 
     // rgb() with blanks instead of commas, or with a fourth part.

@@ -1,7 +1,7 @@
 #include "xmlattr/catalogue/grammar/SvgComparison.h"
 
-#include "xmlattr/catalogue/grammar/SvgUnits.h"
 #include "xmlattr/core/Format.h"
+#include "xmlattr/measures/Units.h"
 
 #include <string>
 
@@ -14,10 +14,9 @@ std::string heldText(double held) {
 std::string heldText(SLength const& held) {
     if (held.getUnit() == SLength::Percent) return heldText(double{held.getSize()} * 100) + '%';
     std::string out = Core::Format::toShortest(held.getSize()).toUtf8();
-    for (SvgUnit const& unit : svgUnits)
-        if (unit.unit == held.getUnit() && unit.unit != SLength::UserUnit)
-            out.append(unit.word.begin(), unit.word.end());
-    return out;
+    if (held.getUnit() == SLength::UserUnit) return out;
+    std::u16string_view const unit = Units::word(rowOfUnit(held.getUnit()));
+    return out.append(unit.begin(), unit.end());
 }
 
 } // namespace Xml

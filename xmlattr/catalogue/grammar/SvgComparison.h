@@ -20,6 +20,9 @@ public:
 
     bool differs() const { return reading.outcome == SvgReading::Outcome::Differs; }
 
+    void differ(std::u16string_view part, std::string held) {
+        differ(part.data(), part.data() + part.size(), std::move(held));
+    }
     void differ(char16_t const* begin, char16_t const* end, std::string held) {
         if (differs()) return;
         reading.outcome = SvgReading::Outcome::Differs;

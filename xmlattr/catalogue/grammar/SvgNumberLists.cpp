@@ -1,6 +1,6 @@
 // Lists of numbers and of lengths by SVG 1.1, section 4.2, and the view box, section 7.7.
 #include "xmlattr/catalogue/grammar/SvgRewriter.h"
-#include "xmlattr/catalogue/grammar/SvgUnits.h"
+#include "xmlattr/measures/Units.h"
 
 #include <algorithm>
 #include <cmath>
@@ -75,10 +75,9 @@ private:
         if (after == scanner.at) return true;
         if (!rule.units) return scanner.fail("expected a number without a unit", after);
         std::u16string_view const word(scanner.at, static_cast<std::size_t>(after - scanner.at));
-        auto const* const row = std::ranges::find(svgUnits, word, &SvgUnit::word);
-        if (row == std::end(svgUnits))
+        unit = word == u"%" ? SLength::Percent : findUnit<SLength::Unit>(word);
+        if (unit == noUnit<SLength::Unit>)
             return scanner.fail("expected a unit (em, ex, px, in, cm, mm, pt, pc, %)", after);
-        unit = row->unit;
         scanner.at = after;
         return true;
     }

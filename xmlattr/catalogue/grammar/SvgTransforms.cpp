@@ -1,29 +1,15 @@
 // Transform lists by SVG 1.1, section 7.6. As in SVG 2, nothing has to stand between two transforms.
 #include "xmlattr/catalogue/grammar/SvgRewriter.h"
+#include "xmlattr/core/WordTable.h"
 
 #include <algorithm>
-#include <array>
-#include <iterator>
 
 namespace Xml {
 
 namespace {
 
-struct TransformForm {
-    std::u16string_view word;
-    TransformType type;
-    int most;
-    bool oneOrAll; // how many numbers: one or all, else all
-};
-
-constexpr TransformForm transformForms[] = {
-    {u"matrix", TransformType::Matrix, 6, false}, {u"translate", TransformType::Translate, 2, true},
-    {u"scale", TransformType::Scale, 2, true},    {u"rotate", TransformType::Rotate, 3, true},
-    {u"skewX", TransformType::SkewX, 1, false},   {u"skewY", TransformType::SkewY, 1, false},
-};
-
 struct TransformVisitor {
-    void open(char16_t const* /*at*/, TransformForm const& /*form*/) {}
+    void open(std::u16string_view /*word*/, TransformType /*type*/) {}
     void number(SvgNumber const& /*number*/) {}
     // At the parenthesis.
     void close(char16_t const* /*at*/) {}
@@ -47,33 +33,32 @@ private:
     static constexpr std::string_view expectedTransform = "expected matrix, translate, scale, rotate, skewX or skewY";
 
     template <class TransformVisitor> static bool readTransform(SvgScanner& scanner, TransformVisitor& visitor) {
-        std::u16string_view const rest(scanner.at, static_cast<std::size_t>(scanner.end() - scanner.at));
-        auto const* const form =
-            std::ranges::find_if(transformForms, [&](TransformForm const& row) { return rest.starts_with(row.word); });
-        if (form == std::end(transformForms)) return scanner.fail(expectedTransform);
-        char16_t const* const begin = scanner.at;
-        scanner.at += form->word.size();
+        auto const isLetter = [](char16_t unit) { return (unit | 0x20u) - u'a' < 26; };
+        std::u16string_view const word(scanner.at, std::find_if_not(scanner.at, scanner.end(), isLetter));
+        auto const form = Core::WordTable<transformWords>::find(word);
+        if (!form) return scanner.fail(expectedTransform);
+        scanner.at += word.size();
         scanner.skipSpace();
         if (!scanner.isAt(u'(')) {
-            bool const longerWord = scanner.at == begin + form->word.size() && !scanner.atEnd();
+            bool const longerWord = scanner.at == word.data() + word.size() && !scanner.atEnd();
             if (!longerWord) return scanner.fail("expected \"(\"");
-            scanner.at = begin;
+            scanner.at = word.data();
             return scanner.fail(expectedTransform);
         }
         ++scanner.at;
-        visitor.open(begin, *form);
+        visitor.open(word, form->type);
         return readNumbers(scanner, visitor, *form);
     }
 
     template <class TransformVisitor>
-    static bool readNumbers(SvgScanner& scanner, TransformVisitor& visitor, TransformForm const& form) {
+    static bool readNumbers(SvgScanner& scanner, TransformVisitor& visitor, TransformArguments const& form) {
         scanner.skipSpace();
         for (int count = 1;; ++count) {
             SvgNumber number;
             if (!scanner.takeNumber(number)) return false;
             visitor.number(number);
             bool const comma = scanner.skipSeparator();
-            if (!comma && scanner.isAt(u')') && (count == form.most || (count == 1 && form.oneOrAll))) break;
+            if (!comma && scanner.isAt(u')') && (count == form.most || count == form.least)) break;
             if (count == form.most) return scanner.fail("expected \")\"");
         }
         visitor.close(scanner.at++);
@@ -86,15 +71,15 @@ public:
     TransformsComparison(std::u16string_view text, Core::Vector<Transform> const& held)
         : SvgComparison(text.data()), next(held.data()), end(next + held.size()) {}
 
-    void open(char16_t const* at, TransformForm const& form) {
+    void open(std::u16string_view word, TransformType type) {
         if (differs()) return;
-        if (next == end) return differ(at, at + form.word.size(), "nothing");
+        if (next == end) return differ(word, "nothing");
         current = next++;
         count = 0;
-        begin = at;
+        begin = word.data();
         isIdentity = *current == Transform();
-        isLost = isIdentity && form.type != TransformType::Translate;
-        if (!isIdentity && current->type != form.type) differ(at, at + form.word.size(), wordOf(*current));
+        isLost = isIdentity && type != TransformType::Translate;
+        if (!isIdentity && current->type != type) differ(word, wordOf(*current));
     }
 
     void number(SvgNumber const& number) {
@@ -138,8 +123,9 @@ public:
 
 private:
     static std::string wordOf(Transform const& transform) {
-        auto const* const form = std::ranges::find(transformForms, transform.type, &TransformForm::type);
-        return {form->word.begin(), form->word.end()};
+        auto const* const found =
+            std::ranges::find_if(transformWords, [&](auto const& row) { return row.value.type == transform.type; });
+        return {found->word.begin(), found->word.end()};
     }
 
     Transform const* next;
@@ -158,8 +144,8 @@ class TransformsRewriting : public SvgRewriter {
 public:
     using SvgRewriter::SvgRewriter;
 
-    void open(char16_t const* /*at*/, TransformForm const& of) {
-        form = &of;
+    void open(std::u16string_view /*word*/, TransformType newType) {
+        type = newType;
         previousEnd = nullptr;
     }
     void number(SvgNumber const& number) {
@@ -168,8 +154,7 @@ public:
         else if (previousEnd)
             mendSeparator(previousEnd, number.begin);
         // The other numbers it reads as the recommendation has them.
-        bool const isLength =
-            form->type == TransformType::Translate || (form->type == TransformType::Rotate && previousEnd);
+        bool const isLength = type == TransformType::Translate || (type == TransformType::Rotate && previousEnd);
         if (isLength) mendNumber(number);
         previousEnd = number.end;
     }
@@ -178,7 +163,7 @@ public:
     }
 
 private:
-    TransformForm const* form = nullptr;
+    TransformType type{};
     char16_t const* previousEnd = nullptr;
 };
 

@@ -3,6 +3,7 @@
 #include "xmlattr/catalogue/grammar/SvgLists.h"
 #include "xmlattr/catalogue/grammar/SvgTexts.h"
 #include "xmlattr/core/NumberReader.h"
+#include "xmlattr/measures/Units.h"
 
 #include <algorithm>
 #include <cfloat>
@@ -48,24 +49,25 @@ std::u16string_view takeUnit(ValueCursor& cursor) {
     return cursor.text.substr(first, cursor.index - first);
 }
 
-template <std::size_t count>
-bool isOneOf(std::u16string_view unit, std::string_view const (&units)[count], bool ignoreCase) {
-    return std::ranges::any_of(units, [&](std::string_view known) { return equalsWord(unit, known, ignoreCase); });
+constexpr Core::WordRow<ItemKind> otherUnits[] = {
+    {u"deg", ItemKind::Angle}, {u"grad", ItemKind::Angle},   {u"rad", ItemKind::Angle},     {u"s", ItemKind::Time},
+    {u"ms", ItemKind::Time},   {u"Hz", ItemKind::Frequency}, {u"kHz", ItemKind::Frequency},
+};
+
+template <auto const& rows> auto findUnit(std::u16string_view unit, bool ignoreCase) {
+    return ignoreCase ? Core::WordTable<rows, Core::Case::Any>::find(unit) : Core::WordTable<rows>::find(unit);
 }
 
 // Whether numbers of this kind may have the unit, which may be empty.
 bool takesUnit(ItemKind kind, Item const& item, Dialect dialect) {
-    static constexpr std::string_view lengths[] = {"pt", "px", "mm", "cm", "in", "em", "pc", "ex"};
-    static constexpr std::string_view angles[] = {"deg", "grad", "rad"};
-    static constexpr std::string_view times[] = {"s", "ms"};
-    static constexpr std::string_view frequencies[] = {"Hz", "kHz"};
-    bool const isSvg = dialect != Dialect::Fo, ignoreCase = dialect == Dialect::SvgStyle;
+    bool const mayBeBare = dialect != Dialect::Fo || item.number == 0, ignoreCase = dialect == Dialect::SvgStyle;
     switch (kind) {
-    case ItemKind::Length:
-        return item.unit.empty() ? isSvg || item.number == 0 : isOneOf(item.unit, lengths, ignoreCase);
-    case ItemKind::Angle: return item.unit.empty() ? isSvg || item.number == 0 : isOneOf(item.unit, angles, ignoreCase);
-    case ItemKind::Time: return isOneOf(item.unit, times, ignoreCase);
-    case ItemKind::Frequency: return isOneOf(item.unit, frequencies, true);
+    case ItemKind::Length: return item.unit.empty() ? mayBeBare : findUnit<unitRows>(item.unit, ignoreCase).has_value();
+    case ItemKind::Angle:
+        if (item.unit.empty()) return mayBeBare;
+        [[fallthrough]];
+    case ItemKind::Time: return findUnit<otherUnits>(item.unit, ignoreCase) == kind;
+    case ItemKind::Frequency: return findUnit<otherUnits>(item.unit, true) == kind;
     case ItemKind::Percentage: return item.unit == u"%";
     case ItemKind::Number:
     case ItemKind::Word:

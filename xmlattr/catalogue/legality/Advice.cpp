@@ -7,6 +7,7 @@
 #include "xmlattr/catalogue/text/Words.h"
 
 #include "xmlattr/core/Text.h"
+#include "xmlattr/core/WordTable.h"
 
 #include <algorithm>
 #include <array>
@@ -59,11 +60,8 @@ std::u16string inLowerCase(std::u16string_view text) {
     return lower;
 }
 
-// A unit by its name, or as other programs write it.
-struct UnitName {
-    std::u16string_view written, unit;
-};
-constexpr UnitName unitNames[] = {
+// What authors write for a unit, in lower case.
+constexpr Core::WordRow<std::u16string_view> unitNames[] = {
     {u"inch", u"in"},    {u"inches", u"in"},   {u"\"", u"in"},     {u"point", u"pt"},  {u"points", u"pt"},
     {u"pts", u"pt"},     {u"pixel", u"px"},    {u"pixels", u"px"}, {u"pica", u"pc"},   {u"picas", u"pc"},
     {u"degree", u"deg"}, {u"degrees", u"deg"}, {u"°", u"deg"},     {u"percent", u"%"}, {u"pct", u"%"},
@@ -89,8 +87,7 @@ void addNumbers(std::vector<std::u16string>& guesses, std::u16string_view text) 
     if (std::ranges::any_of(unit, Core::isDigit)) return;
     guesses.push_back(number + unit);
     if (unit.empty()) guesses.push_back(number + u"pt");
-    for (UnitName const& row : unitNames)
-        if (row.written == unit) guesses.push_back(number + std::u16string(row.unit));
+    if (auto const meant = Core::WordTable<unitNames>::find(unit)) guesses.push_back(number + std::u16string(*meant));
 }
 
 void addColors(std::vector<std::u16string>& guesses, std::u16string_view text) {
