@@ -2,6 +2,7 @@
 
 #include "xmlattr/attributes/TextCursor.h"
 #include "xmlattr/color/ColorNames.h"
+#include "xmlattr/core/Append.h"
 #include "xmlattr/core/Format.h"
 #include "xmlattr/core/Log.h"
 #include "xmlattr/core/OSInfo.h"
@@ -23,7 +24,9 @@ using ColorPtr = SmartPtr<Drawing::Color>;
 enum Warning { UnknownSpotColor = 30001, IncompleteICCColor = 30002 };
 
 void warn(Warning id, std::u16string_view argument) {
-    Core::Log::warning(Core::formatText(Core::String::loadString(id), {argument}));
+    Core::StringFormatStream message(Core::String::loadString(id));
+    message << Core::String(argument);
+    Core::Log::warning(message.getString());
 }
 
 // Core::Format::parseHexInt would take an "0x" as well, but that needs a third code unit: of the two
@@ -154,15 +157,16 @@ bool store(bool (*read)(ColorPtr&, std::u16string_view), Core::String const& tex
 }
 
 Core::String printICC(Drawing::ICCColor const& color) {
-    char16_t const* const format = color.getCount() == 1   ? u"rgb-icc({0},{1},{2},#{3},{4})"
-                                   : color.getCount() == 3 ? u"rgb-icc({0},{1},{2},#{3},{4}, {5}, {6})"
-                                   : color.getCount() == 4 ? u"rgb-icc({0},{1},{2},#{3},{4}, {5}, {6}, {7})"
-                                                           : nullptr;
     SmartPtr<Drawing::ICCColorSpace> const space = color.getColorSpace();
-    if (!format || !space) return {};
-    return Core::formatText(format,
-                            {color.getFallBackR(), color.getFallBackG(), color.getFallBackB(), space->getProfileName(),
-                             color.getColor(0), color.getColor(1), color.getColor(2), color.getColor(3)});
+    if (!space) return {};
+    Core::String const start =
+        Core::joined(u"rgb-icc("sv, color.getFallBackR(), u","sv, color.getFallBackG(), u","sv, color.getFallBackB(),
+                     u",#"sv, space->getProfileName(), u","sv, color.getColor(0));
+    if (color.getCount() == 1) return Core::joined(start, u")"sv);
+    Core::String const three = Core::joined(start, u", "sv, color.getColor(1), u", "sv, color.getColor(2));
+    if (color.getCount() == 3) return Core::joined(three, u")"sv);
+    if (color.getCount() == 4) return Core::joined(three, u", "sv, color.getColor(3), u")"sv);
+    return {};
 }
 
 Core::String printSpot(Drawing::SpotColor const& color) {
@@ -171,14 +175,12 @@ Core::String printSpot(Drawing::SpotColor const& color) {
     if (!exponential) return {};
     // Intended: an RGB end prints as cmyk(...) without its fourth number and a CMYK end as rgb(...)
     // without its black; readers of such texts rely on it.
+    Core::String const start = Core::joined(u"spot-color("sv, color.getColorName(), u","sv, color.getTint(), u","sv);
     ColorPtr const end = exponential->getEndColor();
     if (auto const* rgb = dynamic_cast<Drawing::RGBColor const*>(end.get()))
-        return Core::formatText(u"spot-color({0},{1},cmyk({2},{3},{4},{5}))",
-                                {color.getColorName(), color.getTint(), rgb->getR(), rgb->getG(), rgb->getB()});
+        return Core::joined(start, u"cmyk("sv, rgb->getR(), u","sv, rgb->getG(), u","sv, rgb->getB(), u",))"sv);
     if (auto const* cmyk = dynamic_cast<Drawing::CMYKColor const*>(end.get()))
-        return Core::formatText(
-            u"spot-color({0},{1},rgb({2},{3},{4}))",
-            {color.getColorName(), color.getTint(), cmyk->getC(), cmyk->getM(), cmyk->getY(), cmyk->getK()});
+        return Core::joined(start, u"rgb("sv, cmyk->getC(), u","sv, cmyk->getM(), u","sv, cmyk->getY(), u"))"sv);
     return {};
 }
 
@@ -207,9 +209,10 @@ bool AttributeTraits<ColorPtr>::parse(ColorPtr& value, std::u16string_view text)
 Core::String AttributeTraits<ColorPtr>::print(ColorPtr const& value) {
     Drawing::Color const* const color = value.get();
     if (auto const* rgb = dynamic_cast<Drawing::RGBColor const*>(color))
-        return Core::formatText(u"rgb({0},{1},{2})", {rgb->getR(), rgb->getG(), rgb->getB()});
+        return Core::joined(u"rgb("sv, rgb->getR(), u","sv, rgb->getG(), u","sv, rgb->getB(), u")"sv);
     if (auto const* cmyk = dynamic_cast<Drawing::CMYKColor const*>(color))
-        return Core::formatText(u"cmyk({0},{1},{2},{3})", {cmyk->getC(), cmyk->getM(), cmyk->getY(), cmyk->getK()});
+        return Core::joined(u"cmyk("sv, cmyk->getC(), u","sv, cmyk->getM(), u","sv, cmyk->getY(), u","sv, cmyk->getK(),
+                            u")"sv);
     if (auto const* icc = dynamic_cast<Drawing::ICCColor const*>(color)) return printICC(*icc);
     if (auto const* spot = dynamic_cast<Drawing::SpotColor const*>(color)) return printSpot(*spot);
     return {};

@@ -64,6 +64,15 @@ template <class T> void appendNumber(std::u16string& out, T value) {
     append(out, buffer, std::to_chars(buffer, std::end(buffer), value).ptr);
 }
 
+template <class T> char16_t* writeNumber(char16_t* out, T value) {
+    char buffer[32];
+    return std::copy(buffer, std::to_chars(buffer, std::end(buffer), value).ptr, out);
+}
+
+bool isFloat(double value) {
+    return std::abs(value) <= FLT_MAX && static_cast<float>(value) == value;
+}
+
 // What an appending function makes of nothing.
 template <class... Arguments>
 String print(void (*append)(std::u16string&, Arguments...), std::type_identity_t<Arguments>... arguments) {
@@ -172,7 +181,7 @@ void appendShortest(std::u16string& out, float value) {
 }
 
 void appendShortest(std::u16string& out, double value) {
-    if (std::abs(value) <= FLT_MAX && static_cast<float>(value) == value)
+    if (isFloat(value))
         appendNumber(out, static_cast<float>(value));
     else
         appendNumber(out, value);
@@ -180,6 +189,25 @@ void appendShortest(std::u16string& out, double value) {
 
 void appendShortest(std::u16string& out, int value) {
     appendNumber(out, value);
+}
+
+char16_t* write(char16_t* out, std::u16string_view text) {
+    return std::copy(text.begin(), text.end(), out);
+}
+
+char16_t* write(char16_t* out, unsigned char number) {
+    if (number >= 100) *out++ = static_cast<char16_t>(u'0' + number / 100);
+    if (number >= 10) *out++ = static_cast<char16_t>(u'0' + number / 10 % 10);
+    *out++ = static_cast<char16_t>(u'0' + number % 10);
+    return out;
+}
+
+char16_t* write(char16_t* out, int number) {
+    return writeNumber(out, number);
+}
+
+char16_t* write(char16_t* out, double number) {
+    return isFloat(number) ? writeNumber(out, static_cast<float>(number)) : writeNumber(out, number);
 }
 
 String Format::toMeasure(double value, std::u16string_view suffix) {

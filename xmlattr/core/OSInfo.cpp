@@ -1,6 +1,6 @@
 #include "xmlattr/core/OSInfo.h"
 
-#include "xmlattr/core/StringFormatStream.h"
+#include "xmlattr/core/Append.h"
 #include "xmlattr/core/SystemColors.h"
 #include "xmlattr/core/Text.h"
 
@@ -9,6 +9,8 @@
 #include <utility>
 
 namespace Core {
+
+using namespace std::string_view_literals;
 
 namespace {
 
@@ -37,7 +39,8 @@ String OSInfo::getSystemColor(std::u16string_view name) {
     }
     auto const rgb = WordTable<systemColors, Case::Any>::find(name);
     if (!rgb) return {};
-    return formatText(u"rgb({0},{1},{2})", {*rgb >> 16, *rgb >> 8 & 0xFF, *rgb & 0xFF});
+    auto const component = [&](int shift) { return *rgb >> shift & 0xFF; };
+    return joined(u"rgb("sv, component(16), u","sv, component(8), u","sv, component(0), u")"sv);
 }
 
 void OSInfo::setSystemColor(std::u16string_view name, std::u16string_view color) {

@@ -5,7 +5,6 @@
 #include "xmlattr/core/Text.h"
 
 #include <algorithm>
-#include <iterator>
 #include <type_traits>
 
 namespace Core {
@@ -36,7 +35,7 @@ Placeholder readPlaceholder(std::u16string_view text) {
 }
 
 // Texts print as they are, numbers by the pattern.
-template <class Argument> void append(std::u16string& out, Argument const& argument, bool isMeasure) {
+void append(std::u16string& out, StringFormatStream::Argument const& argument, bool isMeasure) {
     std::visit(
         [&](auto const& value) {
             if constexpr (std::is_convertible_v<decltype(value), std::u16string_view>)
@@ -47,40 +46,6 @@ template <class Argument> void append(std::u16string& out, Argument const& argum
                 appendShortest(out, value);
         },
         argument);
-}
-
-// About as much as an argument prints, so that the result is allocated once.
-template <class Argument> std::size_t expectedSize(Argument const& argument) {
-    constexpr std::size_t ofNumber = 12;
-    return std::visit(
-        [](auto const& value) -> std::size_t {
-            if constexpr (std::is_convertible_v<decltype(value), std::u16string_view>)
-                return std::u16string_view(value).size();
-            else
-                return ofNumber;
-        },
-        argument);
-}
-
-template <class Arguments> String fill(std::u16string_view rest, Arguments const& arguments) {
-    std::size_t size = rest.size();
-    for (auto const& argument : arguments) size += expectedSize(argument);
-    std::u16string out;
-    out.reserve(size);
-    while (!rest.empty()) {
-        std::size_t const brace = std::min(rest.find(u'{'), rest.size());
-        out += rest.substr(0, brace);
-        rest.remove_prefix(brace);
-        if (rest.empty()) break;
-        Placeholder const placeholder = readPlaceholder(rest);
-        if (placeholder.length == 0)
-            out += rest.front();
-        else if (placeholder.index < arguments.size())
-            append(out, *std::next(arguments.begin(), static_cast<std::ptrdiff_t>(placeholder.index)),
-                   placeholder.isMeasure);
-        rest.remove_prefix(std::max<std::size_t>(placeholder.length, 1));
-    }
-    return String(std::move(out));
 }
 
 } // namespace
@@ -108,11 +73,20 @@ StringFormatStream& StringFormatStream::operator<<(double argument) {
 }
 
 String StringFormatStream::getString() const {
-    return fill(format, arguments);
-}
-
-String formatText(std::u16string_view format, std::initializer_list<FormatArgument> arguments) {
-    return fill(format, arguments);
+    std::u16string out;
+    for (std::u16string_view rest = format; !rest.empty();) {
+        std::size_t const brace = std::min(rest.find(u'{'), rest.size());
+        out += rest.substr(0, brace);
+        rest.remove_prefix(brace);
+        if (rest.empty()) break;
+        Placeholder const placeholder = readPlaceholder(rest);
+        if (placeholder.length == 0)
+            out += rest.front();
+        else if (placeholder.index < arguments.size())
+            append(out, arguments[placeholder.index], placeholder.isMeasure);
+        rest.remove_prefix(std::max<std::size_t>(placeholder.length, 1));
+    }
+    return String(std::move(out));
 }
 
 } // namespace Core

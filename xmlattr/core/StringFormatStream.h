@@ -3,7 +3,6 @@
 
 #include "xmlattr/core/String.h"
 
-#include <initializer_list>
 #include <variant>
 
 namespace Core {
@@ -30,9 +29,5 @@ private:
     String format;
     Vector<Argument> arguments;
 };
-
-// The same in one call, without copying the format or the arguments.
-using FormatArgument = std::variant<std::u16string_view, int, float, double>;
-XMLATTR_API String formatText(std::u16string_view format, std::initializer_list<FormatArgument> arguments);
 
 } // namespace Core
