@@ -83,7 +83,7 @@ TEST(Command, FindsEachPlantedFault) {
           "font-weight=\"bald\" on fo:block is not legal; write \"bold\" [bad-value]"s,
           "warning: border=\"1q solid red\" on fo:block: \"1q\" is CSS 3, which the formatter does not read ["s,
           "padding=\"1pt 2pt 3pt 4pt 5pt\" on fo:block has more than 4 parts [bad-value]"s,
-          "warning: hyphenate=\"treu\" on fo:block is not legal; write \"true\" [lenient]"s,
+          "warning: hyphenate=\"treu\" on fo:block is not legal, but the formatter takes it; write \"true\" [lenient]"s,
           "warning: margin-left=\"10\" on fo:block is read as 1000%; write \"10pt\" [lenient]"s,
           "warning: fo:blok is no element of its vocabulary; did you mean \"fo:block\"? [unknown-element]"s,
           "warning: widht on fo:block is no known attribute; did you mean \"width\"? [unknown-attribute]"s,

@@ -195,9 +195,11 @@ void Checker::checkValue(Occurrence const& occurrence, Xml::CatalogueEntry const
     finding.attribute = entry.attribute;
     finding.part = toUtf8(judgement->part);
     finding.problem = judgement->problem;
-    if (judgement->part.data() && judgement->part.empty()) finding.problem += " at the end";
+    bool const isMissing = judgement->part.data() && judgement->part.empty();
+    if (isMissing && finding.problem.starts_with("expected")) finding.problem += " at the end";
     finding.newer = judgement->newer;
     finding.held = toUtf8(advice.held);
+    finding.isTaken = verdict != Xml::Verdict::Refused;
     finding.expected = advice.expected;
     finding.replacement = toUtf8(advice.replacement);
     finding.isExact = advice.isExact;

@@ -97,10 +97,10 @@ std::string Finding::message() const {
     if (!part.empty() && part != text) line += ": " + inQuotes(printable(part));
     bool const needsExpected =
         problem.empty() && (fault == Fault::BadValue || fault == Fault::BadWord || fault == Fault::Lenient);
-    if (!problem.empty())
+    if (fault == Fault::NewerValue)
+        line += " is " + newer + (isTaken ? "" : ", which the formatter does not read");
+    else if (!problem.empty())
         line += (problem.starts_with("is ") || problem.starts_with("has ") ? " " : ": ") + problem;
-    else if (fault == Fault::NewerValue)
-        line += " is " + newer + ", which the formatter does not read";
     else if (fault == Fault::Negative)
         line += " is negative";
     else if (fault != Fault::Misread && (fault != Fault::Lenient || held.empty()))
@@ -110,6 +110,8 @@ std::string Finding::message() const {
         line += std::string(isFirst ? " is read as " : ", and is read as ") + shown(held);
     } else if (fault == Fault::Misread) {
         line += " is read otherwise";
+    } else if (isTaken) {
+        line += ", but the formatter takes it";
     }
     if (!replacement.empty())
         line += "; write " + inQuotes(around(replacement, offset, inserted.size()));

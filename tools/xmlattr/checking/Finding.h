@@ -45,6 +45,7 @@ struct Finding {
     std::string part;        // of the text: what is wrong, or held otherwise
     std::string problem;     // what is wrong with it
     std::string held;        // what the value type makes of it
+    bool isTaken = false;    // whether it takes the text at all
     std::string expected;    // what is legal
     std::string newer;       // the recommendation that has it
     std::string replacement; // the whole text to write instead; of a name the name

@@ -108,6 +108,19 @@ std::u16string unquoted(std::u16string_view text) {
     return std::u16string(isQuoted ? text.substr(1, text.size() - 2) : text);
 }
 
+// The parts of a value that has no printer: "size 12pt, pixels 16".
+std::u16string joined(Parts const& parts) {
+    std::u16string out;
+    std::u16string_view before;
+    for (Part const& part : parts.list) {
+        if (part.value == before) continue; // a bare length is its pixels
+        if (!out.empty()) out += u", ";
+        out.append(part.name).append(u" ").append(part.value);
+        before = part.value;
+    }
+    return out;
+}
+
 class Adviser {
 public:
     Adviser(CatalogueEntry const& entry, std::u16string_view text, Notation notation, Judgement const& judgement)
@@ -144,6 +157,7 @@ private:
         AnyAttribute attribute(*type);
         if (!attribute.parseValue(part)) return;
         advice.held = attribute.getValueAsString();
+        if (advice.held.empty() && !type->isEnumeration()) advice.held = joined(attribute.parts());
     }
 
     void guess() {
