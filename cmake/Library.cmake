@@ -87,9 +87,12 @@ function(xmlattr_set_exports target)
     # and gives each symbol the version of its contract.
     set(exports ${PROJECT_BINARY_DIR}/exports.map)
     configure_file(${PROJECT_SOURCE_DIR}/xmlattr/exports.map.in ${exports} @ONLY)
-    # Functions are bound within the library: nobody replaces one, and loading need not look each up by name. What is
-    # not exported by the library that this one needs is missed here, as Windows misses it.
-    target_link_options(${target} PRIVATE -Wl,--version-script=${exports} -Wl,-Bsymbolic-functions -Wl,--no-undefined)
-    set_target_properties(${target} PROPERTIES LINK_DEPENDS ${exports})
+    # Names are bound within the library: nobody replaces one, and loading need not look each up. Only the default
+    # constants are looked up, since a program may hold them itself. What is not exported by the library that this one
+    # needs is missed here, as Windows misses it.
+    set(constants ${PROJECT_SOURCE_DIR}/xmlattr/defaults/constants.list)
+    target_link_options(${target} PRIVATE
+      -Wl,--version-script=${exports} -Wl,--dynamic-list=${constants} -Wl,--no-undefined)
+    set_target_properties(${target} PROPERTIES LINK_DEPENDS "${exports};${constants}")
   endif()
 endfunction()
