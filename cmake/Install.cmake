@@ -18,6 +18,7 @@ set(internal_headers
   catalogue/grammar/NewerRecommendation.h
   "catalogue/grammar/Svg[A-Za-z]+.h"
   catalogue/grammar/TokenReader.h
+  catalogue/grammar/UnitWords.h
   catalogue/legality/Expression.h
   catalogue/legality/ExpressionFunctions.h
   catalogue/legality/Shorthand.h

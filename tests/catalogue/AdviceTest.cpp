@@ -42,6 +42,12 @@ TEST(Advice, WritesWhatIsMisreadAnotherWay) {
         {Svg, "path", "d", u"m1,1l2-3", Read, "", ""},
         {Svg, "g", "transform", u"translate(-1-1)", Misread, "no transform", "translate(-1 -1)", true},
         {Svg, "polygon", "points", u"0,0 1-1", Read, "", ""},
+        {Svg, "svg", "viewBox", u" 0,0,9,9", Misread, "", "0 0 9 9", true},
+        {Svg, "rect", "fill", u"rgb(300,-1,0)", Misread, "rgb(44,255,0)", "rgb(255,0,0)", true},
+        {Svg, "rect", "fill", u"url('#u')", Misread, "url(#u')", "url(#u)", true},
+        {Svg, "rect", "stroke", u"url( #u )", Read, "", ""},
+        {Fo, "block", "space-before", u"0.0", Misread, "", "0", true},
+        {Fo, "block", "background-color", u"rgb(10%,20%,30%)", Read, "", ""},
         {Fo, "block", "hyphenate", u"true ", Misread, "", "true", true},
         {Fo, "external-graphic", "src", u" a.png", Misread, "url( a.png)", "a.png", true},
     });
@@ -51,6 +57,8 @@ TEST(Advice, GuessesOnlyWhatIsLegalAndRead) {
     using enum Verdict;
     expectAdvice({
         {Fo, "block", "margin", u"10", Lenient, "1000%", "10pt"},
+        {Svg, "rect", "opacity", u"50%", Lenient, "0.5", ""},
+        {Svg, "rect", "width", u"1 cm", Lenient, "1cm", "1cm"},
         {Fo, "block", "font-size", u"10", Lenient, "1000%", "10pt"},
         {Fo, "block", "hyphenate", u"treu", Lenient, "", "true"},
         {Fo, "block", "text-align", u"jusitfy", Lenient, "jusitfy", "justify"},
@@ -67,7 +75,7 @@ TEST(Advice, GuessesOnlyWhatIsLegalAndRead) {
         {Fo, "block", "color", u"gray blue", Refused, "", ""},
         {Svg, "rect", "width", u"17,4 %", Refused, "", "17.4%"},
         {Svg, "polygon", "points", u"a b c", Refused, "", ""},
-        {Svg, "g", "transform", u"rotat(45)", Lenient, "", "rotate(45)"},
+        {Svg, "g", "transform", u"rotat(45)", Lenient, "nothing", "rotate(45)"},
     });
 }
 

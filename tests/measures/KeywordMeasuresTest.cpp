@@ -142,7 +142,7 @@ TEST(FontSize, WithoutAValueEqualsNothing) {
     EXPECT_STRNE(sourceThatThrows(FontSize(static_cast<RelativeFontSize>(2))), "nothing is thrown");
 }
 
-TEST(FontSize, KeepsItsWordBehindAMeasure) {
+TEST(FontSize, KeepsItsWordAfterAMeasure) {
     FontSize size(RelativeFontSize::Smaller);
     size = Length(7, Length::Cm);
     EXPECT_TRUE(size == FontSize(seven));

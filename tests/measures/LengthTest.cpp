@@ -4,6 +4,7 @@
 #include "xmlattr/core/Exceptions.h"
 #include "xmlattr/measures/Rectangle.h"
 #include "xmlattr/measures/SLength.h"
+#include "xmlattr/measures/Units.h"
 
 #include <cmath>
 
@@ -147,6 +148,11 @@ TEST(SNullableLength, IsPresentAfterAParse) {
     EXPECT_FALSE(attribute->isNull());
     EXPECT_FALSE(attribute.parseValue(u"x"));
     EXPECT_FALSE(attribute->isNull());
+}
+
+TEST(Length, TellsItsUnitsInItsSyntax) {
+    std::u16string_view const syntax = AttributeTraits<Length>::describe.forms[0];
+    for (auto const& row : unitRows) EXPECT_NE(syntax.find(row.word), std::u16string_view::npos) << narrow(row.word);
 }
 
 TEST(SLengthList, TakesAnySeparators) {

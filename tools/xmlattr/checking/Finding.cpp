@@ -109,7 +109,7 @@ std::string Finding::message() const {
         bool const isFirst = line.ends_with('"') || line.ends_with(element);
         line += std::string(isFirst ? " is read as " : ", and is read as ") + shown(held);
     } else if (fault == Fault::Misread) {
-        line += " is read otherwise";
+        if (problem.empty()) line += " is read otherwise";
     } else if (isTaken) {
         line += ", but the formatter takes it";
     }

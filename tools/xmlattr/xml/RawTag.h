@@ -31,7 +31,7 @@ public:
     // Where the name of the attribute begins.
     Place attribute(std::size_t attribute) const;
     // Where the code point stands that `offset` bytes of the value's UTF-8 precede. Asking for
-    // growing offsets takes time linear in the value. Behind an entity of the document's own, of
+    // growing offsets takes time linear in the value. After an entity of the document's own, of
     // which only the value is known, it is the place of the attribute.
     Place inValue(std::size_t attribute, std::size_t offset);
     // Whether the tag has the attribute's text, with references to none but these entities and what

@@ -34,51 +34,29 @@ bool agrees(Item const& item, Held const& held);
 // The same for every value of the text: the held ones in their order, with nothing left over on either side.
 bool agrees(Meaning const& meaning, std::initializer_list<Held> held);
 
-// The types that hold a measure or one of a few words.
+// The measure of a type that holds one or a word, or just one; nothing of any other type.
+template <class T> auto measureOf(T const& value) {
+    if constexpr (requires { heldOf(value); })
+        return heldOf(value);
+    else if constexpr (requires { heldOf(value.getLengthOrPercent()); })
+        return heldOf(value.getLengthOrPercent());
+    else if constexpr (requires { heldOf(value.getLength()); })
+        return heldOf(value.getLength());
+    else if constexpr (requires { heldOf(value.getSLength()); })
+        return heldOf(value.getSLength());
+    else if constexpr (requires { heldOf(value.getAbsoluteSize()); })
+        return heldOf(value.getAbsoluteSize());
+    else if constexpr (requires { heldOf(value.getAbsoluteStretch()); })
+        return heldOf(value.getAbsoluteStretch());
+}
 template <class T>
-concept HoldsMeasure = requires(T const& value) {
-    heldOf(value);
-};
-template <class T>
-concept HoldsLengthOrPercent = requires(T const& value) {
-    heldOf(value.getLengthOrPercent());
-};
-template <class T>
-concept HoldsLength = requires(T const& value) {
-    heldOf(value.getLength());
-};
-template <class T>
-concept HoldsSLength = requires(T const& value) {
-    heldOf(value.getSLength());
-};
-template <class T>
-concept HoldsAbsoluteSize = requires(T const& value) {
-    heldOf(value.getAbsoluteSize());
-};
-template <class T>
-concept HoldsAbsoluteStretch = requires(T const& value) {
-    heldOf(value.getAbsoluteStretch());
-};
+concept HoldsMeasure = std::is_same_v<decltype(measureOf(std::declval<T const&>())), Held>;
 
 // Every overload: whether a value type, having accepted the text, holds what it means. It does where the text is a
 // word, but for the types that accept every text and might have missed the word.
 
-template <class T>
-requires HoldsMeasure<T> || HoldsLengthOrPercent<T> || HoldsLength<T> || HoldsSLength<T> || HoldsAbsoluteSize<T> ||
-    HoldsAbsoluteStretch<T>
-bool agrees(Meaning const& meaning, T const& value) {
-    if constexpr (HoldsMeasure<T>)
-        return agrees(meaning, {heldOf(value)});
-    else if constexpr (HoldsLengthOrPercent<T>)
-        return agrees(meaning, {heldOf(value.getLengthOrPercent())});
-    else if constexpr (HoldsLength<T>)
-        return agrees(meaning, {heldOf(value.getLength())});
-    else if constexpr (HoldsSLength<T>)
-        return agrees(meaning, {heldOf(value.getSLength())});
-    else if constexpr (HoldsAbsoluteSize<T>)
-        return agrees(meaning, {heldOf(value.getAbsoluteSize())});
-    else
-        return agrees(meaning, {heldOf(value.getAbsoluteStretch())});
+template <HoldsMeasure T> bool agrees(Meaning const& meaning, T const& value) {
+    return agrees(meaning, {measureOf(value)});
 }
 
 // A legal word that an enumeration accepts is its own.

@@ -32,7 +32,7 @@ std::string_view nounOf(Token token, bool isFo) {
     case Token::Reference: return "a reference without blanks";
     case Token::Iri: return "a reference";
     case Token::String: return "a text in quotation marks";
-    case Token::Name: return "a name without blanks";
+    case Token::Name: return "a name, which begins with a letter and has no blanks";
     case Token::Id:
     case Token::IdRef: return "an id, which begins with a letter and has no blanks";
     case Token::Language: return "a language tag such as en-GB";

@@ -1,5 +1,6 @@
 // Lists of numbers and of lengths by SVG 1.1, section 4.2, and the view box, section 7.7.
 #include "xmlattr/catalogue/grammar/SvgRewriter.h"
+#include "xmlattr/catalogue/grammar/UnitWords.h"
 #include "xmlattr/measures/Units.h"
 
 #include <algorithm>
@@ -75,9 +76,10 @@ private:
         if (after == scanner.at) return true;
         if (!rule.units) return scanner.fail("expected a number without a unit", after);
         std::u16string_view const word(scanner.at, static_cast<std::size_t>(after - scanner.at));
-        unit = word == u"%" ? SLength::Percent : findUnit<SLength::Unit>(word);
-        if (unit == noUnit<SLength::Unit>)
+        auto const kind = Core::WordTable<unitWords>::find(word);
+        if (kind != ItemKind::Length && kind != ItemKind::Percentage)
             return scanner.fail("expected a unit (em, ex, px, in, cm, mm, pt, pc, %)", after);
+        unit = kind == ItemKind::Percentage ? SLength::Percent : findUnit<SLength::Unit>(word);
         scanner.at = after;
         return true;
     }

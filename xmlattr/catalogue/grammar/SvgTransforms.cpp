@@ -59,7 +59,7 @@ private:
             visitor.number(number);
             bool const comma = scanner.skipSeparator();
             if (!comma && scanner.isAt(u')') && (count == form.most || count == form.least)) break;
-            if (count == form.most) return scanner.fail("expected \")\"");
+            if (count == form.most) return scanner.fail(comma ? "a comma too many" : "expected \")\"");
         }
         visitor.close(scanner.at++);
         return true;

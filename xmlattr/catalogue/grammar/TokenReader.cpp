@@ -2,8 +2,8 @@
 
 #include "xmlattr/catalogue/grammar/SvgLists.h"
 #include "xmlattr/catalogue/grammar/SvgTexts.h"
+#include "xmlattr/catalogue/grammar/UnitWords.h"
 #include "xmlattr/core/NumberReader.h"
-#include "xmlattr/measures/Units.h"
 
 #include <algorithm>
 #include <cfloat>
@@ -49,33 +49,17 @@ std::u16string_view takeUnit(ValueCursor& cursor) {
     return cursor.text.substr(first, cursor.index - first);
 }
 
-constexpr Core::WordRow<ItemKind> otherUnits[] = {
-    {u"deg", ItemKind::Angle}, {u"grad", ItemKind::Angle},   {u"rad", ItemKind::Angle},     {u"s", ItemKind::Time},
-    {u"ms", ItemKind::Time},   {u"Hz", ItemKind::Frequency}, {u"kHz", ItemKind::Frequency},
-};
-
-template <auto const& rows> auto findUnit(std::u16string_view unit, bool ignoreCase) {
-    return ignoreCase ? Core::WordTable<rows, Core::Case::Any>::find(unit) : Core::WordTable<rows>::find(unit);
-}
-
 // Whether numbers of this kind may have the unit, which may be empty.
 bool takesUnit(ItemKind kind, Item const& item, Dialect dialect) {
-    bool const mayBeBare = dialect != Dialect::Fo || item.number == 0, ignoreCase = dialect == Dialect::SvgStyle;
-    switch (kind) {
-    case ItemKind::Length: return item.unit.empty() ? mayBeBare : findUnit<unitRows>(item.unit, ignoreCase).has_value();
-    case ItemKind::Angle:
-        if (item.unit.empty()) return mayBeBare;
-        [[fallthrough]];
-    case ItemKind::Time: return findUnit<otherUnits>(item.unit, ignoreCase) == kind;
-    case ItemKind::Frequency: return findUnit<otherUnits>(item.unit, true) == kind;
-    case ItemKind::Percentage: return item.unit == u"%";
-    case ItemKind::Number:
-    case ItemKind::Word:
-    case ItemKind::Color:
-    case ItemKind::Uri:
-    case ItemKind::Text: break;
+    bool const mayBeBare = dialect != Dialect::Fo || item.number == 0;
+    if (item.unit.empty()) {
+        bool const isScaled = kind == ItemKind::Percentage || kind == ItemKind::Time || kind == ItemKind::Frequency;
+        return kind == ItemKind::Length || kind == ItemKind::Angle ? mayBeBare : !isScaled;
     }
-    return item.unit.empty();
+    bool const ignoresCase = dialect == Dialect::SvgStyle || kind == ItemKind::Frequency;
+    auto const unit = ignoresCase ? Core::WordTable<unitWords, Core::Case::Any>::find(item.unit)
+                                  : Core::WordTable<unitWords>::find(item.unit);
+    return unit == kind;
 }
 
 bool readMeasure(Item& item, ItemKind kind, GrammarStep const& step, ValueCursor& cursor) {

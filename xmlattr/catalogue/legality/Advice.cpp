@@ -54,12 +54,6 @@ std::size_t sharedEnds(std::u16string_view a, std::u16string_view b) {
     return static_cast<std::size_t>((start - a.begin()) + (end - restA.rbegin()));
 }
 
-std::u16string inLowerCase(std::u16string_view text) {
-    std::u16string lower(text);
-    std::ranges::transform(lower, lower.begin(), Core::toLower);
-    return lower;
-}
-
 // What authors write for a unit, in lower case.
 constexpr Core::WordRow<std::u16string_view> unitNames[] = {
     {u"inch", u"in"},    {u"inches", u"in"},   {u"\"", u"in"},     {u"point", u"pt"},  {u"points", u"pt"},
@@ -83,7 +77,7 @@ void addNumbers(std::vector<std::u16string>& guesses, std::u16string_view text) 
     if (!hasDigits && !hasPoint) return;
     std::u16string number(text.substr(0, i));
     if (hasPoint) number[point] = u'.';
-    std::u16string const unit = inLowerCase(trimXmlSpace(text.substr(i)));
+    std::u16string const unit = toLower(trimXmlSpace(text.substr(i)));
     if (std::ranges::any_of(unit, Core::isDigit)) return;
     guesses.push_back(number + unit);
     if (unit.empty()) guesses.push_back(number + u"pt");
@@ -106,19 +100,6 @@ void addJoined(std::vector<std::u16string>& guesses, std::u16string_view text) {
 std::u16string unquoted(std::u16string_view text) {
     bool const isQuoted = text.size() > 2 && (text[0] == u'"' || text[0] == u'\'') && text.back() == text[0];
     return std::u16string(isQuoted ? text.substr(1, text.size() - 2) : text);
-}
-
-// The parts of a value that has no printer: "size 12pt, pixels 16".
-std::u16string joined(Parts const& parts) {
-    std::u16string out;
-    std::u16string_view before;
-    for (Part const& part : parts.list) {
-        if (part.value == before) continue; // a bare length is its pixels
-        if (!out.empty()) out += u", ";
-        out.append(part.name).append(u" ").append(part.value);
-        before = part.value;
-    }
-    return out;
 }
 
 class Adviser {
@@ -157,7 +138,7 @@ private:
         AnyAttribute attribute(*type);
         if (!attribute.parseValue(part)) return;
         advice.held = attribute.getValueAsString();
-        if (advice.held.empty() && !type->isEnumeration()) advice.held = joined(attribute.parts());
+        if (advice.held.empty()) advice.held = heldWithoutPrinter(*type, part);
     }
 
     void guess() {
@@ -227,7 +208,7 @@ std::vector<std::u16string> variantsOf(std::u16string_view text) {
     text = trimXmlSpace(text);
     std::vector<std::u16string> variants{std::u16string(text)};
     addNumbers(variants, text);
-    variants.push_back(inLowerCase(text));
+    variants.push_back(toLower(text));
     variants.push_back(unquoted(text));
     addColors(variants, text);
     addJoined(variants, text);

@@ -46,9 +46,7 @@ Judgement judge(CatalogueEntry const& entry, std::u16string_view text, Notation 
         // The exponents of attributes came to style sheets with CSS 3.
         if (judgeIn(Dialect::SvgAttribute, entry, text).verdict == Verdict::Read) return {Verdict::Read};
         // CSS has no case; the value types read attributes, which have one.
-        std::u16string lower(text);
-        std::ranges::transform(lower, lower.begin(), Core::toLower);
-        Verdict const verdict = judgeIn(dialect, entry, lower).verdict;
+        Verdict const verdict = judgeIn(dialect, entry, toLower(text)).verdict;
         if (!isFault(verdict)) return {verdict == Verdict::Read ? Verdict::PassedOver : verdict};
     }
     judgement.isNegative = isNegative(entry, dialect, text);

@@ -16,7 +16,7 @@ enum class Verdict : std::uint8_t {
     Read,       // legal, and the value type holds what it means; in a shorthand, of one part at least
     PassedOver, // legal, but the formatter's business and no value type's: "inherit", an expression of XSL-FO
     FreeText,   // a name, a reference or free text, as the recommendation allows it
-    Misread,    // legal, but the value type holds something else
+    Misread,    // legal, but the value type holds something else, or refuses what it reads in another text
     Lenient,    // not legal, but the value type takes it
     Refused,    // not legal, and no value type takes it
     NotCovered  // nothing is known to judge by
@@ -38,7 +38,7 @@ struct Judgement {
     std::vector<AttributeType const*> tried{};
     // Of a fault that is not just another value: what is wrong, "is empty" or "expected a number".
     std::string problem{};
-    // Of a misread list: what is held for the part.
+    // Of a list that is not read as written: what is held for the part, or of an illegal one what is held at all.
     std::string held{};
     // Of a lenient or refused text: the newer recommendation that has it, "SVG 2" or "CSS 3"; empty when none has.
     std::string_view newer{};
@@ -50,7 +50,7 @@ struct Judgement {
 enum class Notation : std::uint8_t { Attribute, Declaration };
 
 // White space of XML around the text is no fault where the value type refuses it and reads the rest.
-// Takes time linear in the text; allocates for lists, shorthands and faults only; throws nothing but bad_alloc.
+// Colours of which the value type warns go to Core::Log. Takes time linear in the text; allocates for lists, shorthands and faults only; throws nothing but bad_alloc.
 [[nodiscard]] XMLATTR_API Judgement judge(CatalogueEntry const& entry, std::u16string_view text,
                                           Notation notation = Notation::Attribute);
 

@@ -1,5 +1,6 @@
 #include "xmlattr/catalogue/legality/TypeReading.h"
 
+#include "xmlattr/catalogue/AttributeType.h"
 #include "xmlattr/catalogue/grammar/Agrees.h"
 #include "xmlattr/catalogue/text/Words.h"
 
@@ -20,6 +21,12 @@ using Points = Core::Vector<Point>;
 using Transforms = Core::Vector<Transform>;
 using Lengths = Core::Vector<SLength>;
 
+// "nothing", "1 point", "2 points".
+std::string counted(std::size_t number, std::string_view noun) {
+    if (number == 0) return "nothing";
+    return std::to_string(number).append(" ").append(noun).append(number == 1 ? "" : "s");
+}
+
 // The lists that have a comparison of their own, which keeps no items.
 SvgReading compareWith(Grammar const& /*grammar*/, std::u16string_view text, PathData const& held) {
     return compare(text, held);
@@ -35,6 +42,25 @@ SvgReading compareWith(Grammar const& /*grammar*/, std::u16string_view text, Vie
 }
 SvgReading compareWith(Grammar const& grammar, std::u16string_view text, Lengths const& held) {
     return compare(text, held, listRuleOf(grammar));
+}
+
+// What is held of an illegal list.
+std::string heldOfIllegal(PathData const& held) {
+    return counted(held.size(), "command");
+}
+std::string heldOfIllegal(Points const& held) {
+    return counted(held.size(), "point");
+}
+std::string heldOfIllegal(Lengths const& held) {
+    return counted(held.size(), "number");
+}
+// What cannot be read is an identity.
+std::string heldOfIllegal(Transforms const& held) {
+    auto const isRead = [](Transform const& transform) { return !(transform == Transform()); };
+    return counted(static_cast<std::size_t>(std::ranges::count_if(held, isRead)), "transform");
+}
+std::string heldOfIllegal(ViewBox const& /*held*/) {
+    return {};
 }
 
 std::optional<std::u16string> rewriteAs(Grammar const& /*grammar*/, std::u16string_view text, PathData const*) {
@@ -68,6 +94,7 @@ template <class T> TypeReading readAs(Grammar const& grammar, Dialect dialect, s
     result.isAccepted = AttributeTraits<T>::parse(value, text);
     if constexpr (HasComparison<T>) {
         result.reading = compareWith(grammar, text, value);
+        if (result.isAccepted && !result.isLegal()) result.reading.held = heldOfIllegal(value);
     } else if constexpr (HasAgreement<T>) {
         Meaning meaning;
         if (!readMeaning(meaning, grammar, dialect, text))
@@ -78,17 +105,39 @@ template <class T> TypeReading readAs(Grammar const& grammar, Dialect dialect, s
     return result;
 }
 
-// The values of the text in the plainest form of their numbers: "+.5e1" as "5". Nothing where there are others.
-std::optional<std::u16string> inPlainNumbers(Grammar const& grammar, Dialect dialect, std::u16string_view text) {
+// A value in its plainest form: "+.5e1" as "5", "rgb(300,-1,0)" as "rgb(255,0,0)", "url( 'a' )" as "url(a)". Nothing for
+// others, and for a colour that is no whole number of its kind.
+std::optional<std::u16string> inPlainForm(Item const& item) {
+    switch (item.kind) {
+    case ItemKind::Number:
+    case ItemKind::Length:
+    case ItemKind::Percentage: return std::u16string(Core::Format::toShortest(item.number)).append(item.unit);
+    case ItemKind::Color: {
+        if (item.number != 0) break;
+        auto const component = [&](int shift) { return static_cast<unsigned char>(item.rgb >> shift); };
+        Core::String const plain =
+            ColorParse::getColorAsString(new Drawing::RGBColor(component(16), component(8), component(0)));
+        return std::u16string(std::u16string_view(plain));
+    }
+    case ItemKind::Uri: return std::u16string(u"url(").append(item.text).append(u")");
+    case ItemKind::Word:
+    case ItemKind::Angle:
+    case ItemKind::Time:
+    case ItemKind::Frequency:
+    case ItemKind::Text: break;
+    }
+    return std::nullopt;
+}
+
+std::optional<std::u16string> inPlainForm(Grammar const& grammar, Dialect dialect, std::u16string_view text) {
     Meaning meaning;
     if (!readMeaning(meaning, grammar, dialect, text)) return std::nullopt;
     std::u16string plain;
     for (Item const& item : meaning.values()) {
-        bool const isNumber =
-            item.kind == ItemKind::Number || item.kind == ItemKind::Length || item.kind == ItemKind::Percentage;
-        if (!isNumber) return std::nullopt;
+        auto const form = inPlainForm(item);
+        if (!form) return std::nullopt;
         if (!plain.empty()) plain += u' ';
-        plain.append(std::u16string_view(Core::Format::toShortest(item.number))).append(item.unit);
+        plain += *form;
     }
     return plain;
 }
@@ -100,19 +149,53 @@ std::optional<std::u16string> rewriteFor(Grammar const& grammar, Dialect dialect
         return rewriteAs(grammar, trimmed, static_cast<T const*>(nullptr));
     } else {
         if (readAs<T>(grammar, dialect, trimmed).isReadAsWritten()) return std::u16string(trimmed);
-        auto plain = inPlainNumbers(grammar, dialect, text);
+        auto plain = inPlainForm(grammar, dialect, text);
         return plain && readAs<T>(grammar, dialect, *plain).isReadAsWritten() ? plain : std::nullopt;
+    }
+}
+
+// The parts of a value: "underline", "2pt 0, 0".
+std::u16string joined(Parts const& parts) {
+    std::u16string out;
+    for (Part const& part : parts.list) out.append(out.empty() ? u"" : u", ").append(part.value);
+    return out;
+}
+
+std::u16string textOf(SColor const& paint) {
+    switch (paint.getType()) {
+    case SColor::None: return u"none";
+    case SColor::Url: return std::u16string(u"url(").append(std::u16string_view(paint.getUrl())).append(u")");
+    case SColor::Color: return std::u16string(std::u16string_view(ColorParse::getColorAsString(paint.getColor())));
+    }
+    return {};
+}
+
+template <class T> std::u16string heldAs(std::u16string_view text) {
+    T value{};
+    if (KeywordEnumeration<T> || !AttributeTraits<T>::parse(value, text)) return {};
+    if constexpr (std::is_base_of_v<SColor, T>) {
+        return textOf(value);
+    } else if constexpr (HoldsMeasure<T>) {
+        Held const held = measureOf(value);
+        return std::u16string(Core::Format::toShortest(held.number)).append(held.unit);
+    } else if constexpr (HasParts<T>) {
+        Parts parts;
+        AttributeTraits<T>::parts(value, parts);
+        return joined(parts);
+    } else {
+        return {};
     }
 }
 
 struct Readers {
     TypeReading (*read)(Grammar const& grammar, Dialect dialect, std::u16string_view text);
     std::optional<std::u16string> (*rewrite)(Grammar const& grammar, Dialect dialect, std::u16string_view text);
+    std::u16string (*held)(std::u16string_view text);
 };
 
 // By the number of the type.
 constexpr Readers readers[] = {
-#define XMLATTR_PUBLIC_VALUE(...) {readAs<__VA_ARGS__>, rewriteFor<__VA_ARGS__>},
+#define XMLATTR_PUBLIC_VALUE(...) {readAs<__VA_ARGS__>, rewriteFor<__VA_ARGS__>, heldAs<__VA_ARGS__>},
 #define XMLATTR_INTERNAL_VALUE(...) XMLATTR_PUBLIC_VALUE(__VA_ARGS__)
 #include "xmlattr/ValueTypes.inc"
 };
@@ -179,6 +262,10 @@ TypeReading readTyped(CatalogueEntry const& entry, Dialect dialect, std::u16stri
 
 std::optional<std::u16string> rewriteTyped(CatalogueEntry const& entry, Dialect dialect, std::u16string_view text) {
     return readers[entry.typeNumber].rewrite(entry.grammar, dialect, text);
+}
+
+std::u16string heldWithoutPrinter(AttributeType const& type, std::u16string_view text) {
+    return readers[&type - AttributeType::all().data()].held(text);
 }
 
 } // namespace Xml

@@ -21,6 +21,16 @@ Judgement faultOf(Verdict verdict, CatalogueEntry const& entry, std::u16string_v
     return judgement;
 }
 
+// What is legal but refused: a word that is the formatter's business, unless the type reads the same in another text.
+// CSS has no case; the value types read attributes, which have one.
+Judgement judgeRefused(CatalogueEntry const& entry, Dialect dialect, std::u16string_view text) {
+    bool const isOfCase = dialect == Dialect::SvgStyle && readTyped(entry, dialect, toLower(text)).isReadAsWritten();
+    if (isOfCase || !rewriteTyped(entry, dialect, text)) return {Verdict::PassedOver};
+    Judgement judgement = faultOf(Verdict::Misread, entry, {}, {});
+    judgement.problem = "is not read";
+    return judgement;
+}
+
 } // namespace
 
 Dialect dialectOf(CatalogueEntry const& entry, Notation notation) {
@@ -42,11 +52,11 @@ Judgement judgeValue(CatalogueEntry const& entry, Dialect dialect, std::u16strin
     if (found.isReadAsWritten()) return {Verdict::Read};
     if (found.isLegal() && !found.isAccepted) {
         std::u16string_view const trimmed = trimXmlSpace(text);
-        if (trimmed.size() == text.size()) return {Verdict::PassedOver};
+        if (trimmed.size() == text.size()) return judgeRefused(entry, dialect, text);
         text = trimmed;
         found = readTyped(entry, dialect, text);
         if (found.isReadAsWritten()) return {Verdict::Read};
-        if (!found.isAccepted) return {Verdict::PassedOver};
+        if (!found.isAccepted) return judgeRefused(entry, dialect, text);
     }
     if (found.isLegal()) return faultOf(Verdict::Misread, entry, text, std::move(found.reading));
     if (isComputed(entry, text)) return {Verdict::PassedOver};

@@ -26,6 +26,12 @@ std::string toLower(std::string_view text) {
     return lower;
 }
 
+std::u16string toLower(std::u16string_view text) {
+    std::u16string lower(text);
+    std::ranges::transform(lower, lower.begin(), [](char16_t unit) { return Core::toLower(unit); });
+    return lower;
+}
+
 bool equalsNoCase(std::string_view a, std::string_view b) {
     return std::ranges::equal(a, b, {}, lowerLetter, lowerLetter);
 }

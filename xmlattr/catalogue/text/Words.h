@@ -15,6 +15,7 @@ std::u16string_view trimXmlSpace(std::u16string_view text);
 
 // The letters of ASCII in lower case, all else as it is.
 std::string toLower(std::string_view text);
+std::u16string toLower(std::u16string_view text);
 bool equalsNoCase(std::string_view a, std::string_view b);
 
 // Whether the text is this ASCII word.
