@@ -9,22 +9,108 @@
 namespace Xml {
 namespace {
 
-TEST(Expression, IsMoreThanAValue) {
+constexpr int isUnknown = -9;
+
+TEST(Expression, GivesAKindOfValue) {
+    struct Row {
+        char16_t const* text;
+        Expression::Kind kind;
+        int power = isUnknown;
+    };
+    using enum Expression::Kind;
+    for (Row const& row : {
+             Row{u"1em + 2pt", Numeric, 1},
+             Row{u"2.5cm -3pt", Numeric, 1},
+             Row{u"1pt+1pt", Numeric, 1},
+             Row{u"5 mod 3 * 7.5pt", Numeric, 1},
+             Row{u"5pt mod 3pt", Numeric, 1},
+             Row{u"5cm * 1cm", Numeric, 2},
+             Row{u"(5cm * 1cm) div 2cm", Numeric, 1},
+             Row{u"1 div 2cm", Numeric, -1},
+             Row{u"3cm div 2cm", Numeric, 0},
+             Row{u"abs(-30cm + .3cm)", Numeric, 1},
+             Row{u"max(1pt,min(2pt, 3%))", Numeric, 1},
+             Row{u"max(3%, 4%)", Numeric},
+             Row{u"floor(1.4in div 1.0in) * 1.0in", Numeric, 1},
+             Row{u"round(5%)", Numeric, 0},
+             Row{u"- (1pt)", Numeric, 1},
+             Row{u"label-end() - 1pt", Numeric, 1},
+             Row{u"inherit * 2", Numeric},
+             Row{u"from-parent(font-size) + 1pt", Numeric, 1},
+             Row{u"-from-parent(start-indent)", Numeric},
+             Row{u"inherited-property-value( keep-together.within-line ) div 2", Numeric},
+             Row{u"proportional-column-width(2)", Share, 1},
+             Row{u"2pt + proportional-column-width(2)", Share, 1},
+             Row{u"rgb-icc(0, 0, 0, 'profile', 1)", Color},
+             Row{u"rgb-icc(0, 0, 0, #CMYK, 0, 0, 0, 1)", Color},
+             Row{u"(#fff)", Color},
+             Row{u"system-font(caption)", Font},
+             Row{u"system-font(caption, font-size)", Any},
+             Row{u"from-parent( font-size )", Any},
+             Row{u"inherited-property-value()", Any},
+             Row{u"from-parent(space-before.optimum)", Any},
+             Row{u"(auto)", Text},
+             Row{u"('auto')", Text},
+         }) {
+        auto const expression = readExpression(row.text);
+        ASSERT_TRUE(expression) << narrow(row.text);
+        EXPECT_EQ(expression->kind, row.kind) << narrow(row.text);
+        EXPECT_EQ(expression->power.value_or(isUnknown), row.power) << narrow(row.text);
+    }
+}
+
+TEST(Expression, IsMoreThanAValueAndWellFormed) {
     for (char16_t const* const text :
-         {u"1em + 2pt", u"5 mod 3 * 7.5pt", u"(5cm * 1cm) div 2cm", u"abs(-30cm + .3cm)", u"from-parent( font-size )",
-          u"inherited-property-value()", u"2.5cm -3pt", u"max(1pt,min(2pt, 3%))", u"- (1pt)", u"label-end() - 1pt",
-          u"rgb-icc(0, 0, 0, 'profile', 1)", u"1pt+1pt", u"from-parent(space-before.optimum)",
-          u"inherited-property-value( keep-together.within-line ) div 2"})
-        EXPECT_TRUE(isExpression(text)) << narrow(text);
-    for (char16_t const* const text : {u"", u"12pt", u"-1pt", u"12 q", u"1em + ", u"1em 2pt", u"+", u"(1pt", u"1pt)",
-                                       u"round()", u"round(1,2)", u"rgb(1,2)", u"from-parrent(color)", u"even-page",
-                                       u"5modx 3", u"'a' 'b'", u"'a", u"from-parent(.a)", u"from-parent(a.b c)"})
-        EXPECT_FALSE(isExpression(text)) << narrow(text);
-    EXPECT_FALSE(isExpression(std::u16string(1'000'000, u'('))) << "nesting has a limit";
-    EXPECT_TRUE(isCopy(u" from-parent(break-before) "));
-    EXPECT_TRUE(isCopy(u"from-parent(keep-together.within-page)"));
-    EXPECT_FALSE(isCopy(u"from-parent() + 1"));
-    EXPECT_FALSE(isCopy(u"round(1)")) << "no keyword comes from there";
+         {u"", u"12pt", u"-1pt", u"12 q", u"1em + ", u"1em 2pt", u"+", u"(1pt", u"1pt)", u"round()", u"round(1,2)",
+          u"rgb(1,2)", u"from-parrent(color)", u"even-page", u"5modx 3", u"'a' 'b'", u"'a", u"from-parent(.a)",
+          u"from-parent(a.b c)", u"inherit",
+          // operands that do not go together
+          u"1pt + 2", u"3pt mod 2", u"max(1pt, 2)", u"10pt + indent", u"2 * red", u"-#fff * 2", u"rgb(1,2,3) + 1",
+          u"round(1.5pt)", u"abs(auto)", u"proportional-column-width(1pt)",
+          // units that there are not
+          u"12q + 1pt", u"1pt + 2ptx", u"1PT + 1PT"})
+        EXPECT_FALSE(readExpression(text)) << narrow(text);
+    EXPECT_FALSE(readExpression(std::u16string(1'000'000, u'('))) << "nesting has a limit";
+}
+
+TEST(Expression, StandsForAValueOfItsKind) {
+    struct Row {
+        char const* attribute;
+        char16_t const* text;
+        bool stands;
+    };
+    for (Row const& row : {
+             Row{"font-size", u"rgb(1,2,3)", false},
+             Row{"color", u"1pt + 2pt", false},
+             Row{"color", u"system-color(window)", true},
+             Row{"space-before", u"system-color(x)", false},
+             Row{"margin-left", u"10 + 5", false},
+             Row{"margin-left", u"10% + 5%", true},
+             Row{"margin-left", u"5cm * 5cm", false},
+             Row{"margin-left", u"(auto)", true},
+             Row{"margin-left", u"(always)", false},
+             Row{"intrinsic-scale-value", u"10% + 5%", true},
+             Row{"intrinsic-scale-value", u"1pt + 1pt", false},
+             Row{"widows", u"1 + 1", true},
+             Row{"widows", u"1pt + 1pt", false},
+             Row{"keep-together", u"1 + 2", true},
+             Row{"maximum-repeats", u"1 + 1", true},
+             Row{"reference-orientation", u"45 * 2", true},
+             Row{"font-weight", u"100 + 100", true},
+             Row{"line-height", u"1.2 * 1.5", true},
+             Row{"span", u"1 + 1", false},
+             Row{"span", u"from-parent(span)", true},
+             Row{"span", u"system-font(caption)", false},
+             Row{"hyphenate", u"1 + 1", false},
+             Row{"font", u"system-font(caption)", true},
+             Row{"font", u"1pt + 2pt", false},
+             Row{"text-indent", u"proportional-column-width(1)", false},
+             Row{"column-width", u"proportional-column-width(1) + 2pt", true},
+             Row{"column-width", u"1 + 2", false},
+             Row{"clip", u"1pt + 2pt", false},
+         })
+        EXPECT_EQ(isExpressionFor(*Catalogue::find(Vocabulary::Fo, "*", row.attribute), row.text), row.stands)
+            << row.attribute << ": " << narrow(row.text);
 }
 
 TEST(Shorthand, SplitsBetweenBlanksAndKeepsExpressions) {
@@ -52,6 +138,9 @@ TEST(Shorthand, LetsTheTypesOfItsPartsRead) {
              Row{Vocabulary::Fo, "border", u"1q solid red", Refused, "1q"},
              Row{Vocabulary::Fo, "border", u"inherit", PassedOver},
              Row{Vocabulary::Fo, "border", u"from-parent(border)", PassedOver},
+             Row{Vocabulary::Fo, "border", u"1pt inherit", Refused, "inherit"},
+             Row{Vocabulary::Fo, "padding", u"inherit inherit", Refused, "inherit"},
+             Row{Vocabulary::Fo, "font", u"inherit 12pt Arial", Refused, "inherit"},
              Row{Vocabulary::Fo, "border", u" ", Refused, "is empty"},
              Row{Vocabulary::Fo, "background", u"url(a.png) no-repeat fixed center", Read},
              Row{Vocabulary::Fo, "background", u"url(a b.png) fixed", Lenient, "url(a b.png)"},

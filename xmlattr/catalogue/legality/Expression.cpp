@@ -1,9 +1,13 @@
 #include "xmlattr/catalogue/legality/Expression.h"
 
+#include "xmlattr/catalogue/grammar/Meaning.h"
 #include "xmlattr/catalogue/legality/ExpressionFunctions.h"
 #include "xmlattr/catalogue/text/Words.h"
 
 #include "xmlattr/core/Text.h"
+#include "xmlattr/measures/Units.h"
+
+#include <algorithm>
 
 namespace Xml {
 
@@ -13,98 +17,151 @@ class Parser {
 public:
     explicit Parser(std::u16string_view text) : text(text) {}
 
-    bool whole() { return sum() && (skipBlanks(), index == text.size()) && isMoreThanValue; }
-    bool wholeCopy() { return primary() && (skipBlanks(), index == text.size()) && copyEnd == index; }
+    bool whole(Expression& value) { return sum(value) && (skipBlanks(), index == text.size()) && isMoreThanValue; }
 
 private:
     static constexpr int maxDepth = 100;
 
-    bool sum() {
-        if (!product()) return false;
-        while (take(u"+") || take(u"-"))
-            if (!operand()) return false;
-        return true;
-    }
-
-    bool product() {
-        if (!factor()) return false;
-        while (take(u"*") || takeWord(u"div") || takeWord(u"mod")) {
-            isMoreThanValue = true;
-            if (!factor()) return false;
+    bool sum(Expression& value) {
+        if (!product(value)) return false;
+        while (take(u"+") || take(u"-")) {
+            Expression right;
+            if (!product(right) || !add(value, right)) return false;
         }
         return true;
     }
 
-    bool operand() {
+    bool product(Expression& value) {
+        if (!factor(value)) return false;
+        for (;;) {
+            Expression right;
+            if (take(u"*")) {
+                if (!factor(right) || !multiply(value, right, 1)) return false;
+            } else if (takeWord(u"div")) {
+                if (!factor(right) || !multiply(value, right, -1)) return false;
+            } else if (takeWord(u"mod")) {
+                if (!factor(right) || !add(value, right)) return false;
+            } else {
+                return true;
+            }
+        }
+    }
+
+    // What is copied may be numeric.
+    static bool makeNumeric(Expression& value) {
+        if (value.kind == Expression::Any || value.kind == Expression::Font) value = {.kind = Expression::Numeric};
+        return value.kind == Expression::Numeric || value.kind == Expression::Share;
+    }
+
+    bool combine(Expression& value, Expression& right) {
         isMoreThanValue = true;
-        return product();
+        if (!makeNumeric(value) || !makeNumeric(right)) return false;
+        if (right.kind == Expression::Share) value.kind = Expression::Share;
+        return true;
     }
 
-    bool factor() {
-        while (take(u"-") || take(u"+")) {
-        }
-        return primary();
+    // Differences, remainders and the least of two are like sums: of one power.
+    bool add(Expression& value, Expression right) {
+        if (!combine(value, right)) return false;
+        if (!value.power) value.power = right.power;
+        return !right.power || value.power == right.power;
     }
 
-    bool primary() {
+    bool multiply(Expression& value, Expression right, int sign) {
+        if (!combine(value, right)) return false;
+        value.power = value.power && right.power ? std::optional(*value.power + sign * *right.power) : std::nullopt;
+        return true;
+    }
+
+    bool factor(Expression& value) {
+        bool isSigned = false;
+        while (take(u"-") || take(u"+")) isSigned = true;
+        return primary(value) && (!isSigned || makeNumeric(value));
+    }
+
+    bool primary(Expression& value) {
         skipBlanks();
         if (index == text.size() || depth > maxDepth) return false;
         char16_t const unit = text[index];
-        if (unit == u'(') return group();
-        if (unit == u'"' || unit == u'\'') return literal(unit);
-        if (Core::isDigit(unit) || unit == u'.') return number();
+        if (unit == u'(') return group(value);
+        if (unit == u'"' || unit == u'\'') return literal(value, unit);
+        if (Core::isDigit(unit) || unit == u'.') return number(value);
         if (unit == u'#') {
             ++index;
+            value.kind = Expression::Color;
             return !name().empty();
         }
         std::u16string_view const word = name();
-        return !word.empty() && (index == text.size() || text[index] != u'(' || call(word));
+        if (index < text.size() && text[index] == u'(') return call(value, word);
+        if (word != u"inherit") value = {.kind = Expression::Text, .text = word};
+        return !word.empty();
     }
 
-    bool group() {
+    bool group(Expression& value) {
         ++index;
         ++depth;
         isMoreThanValue = true;
-        bool const closes = sum() && take(u")");
+        bool const closes = sum(value) && take(u")");
         --depth;
         return closes;
     }
 
-    bool literal(char16_t quote) {
-        std::size_t const end = text.find(quote, index + 1);
+    bool literal(Expression& value, char16_t quote) {
+        std::size_t const first = index, end = text.find(quote, index + 1);
         if (end == std::u16string_view::npos) return false;
         index = end + 1;
+        value = {.kind = Expression::Text, .text = text.substr(first, index - first)};
         return true;
     }
 
-    bool number() {
+    bool number(Expression& value) {
         std::size_t const digits = skip(Core::isDigit);
         std::size_t const decimals = index < text.size() && text[index] == u'.' ? (++index, skip(Core::isDigit)) : 0;
         if (digits + decimals == 0) return false;
-        if (index < text.size() && text[index] == u'%')
+        value.kind = Expression::Numeric;
+        if (index < text.size() && text[index] == u'%') {
             ++index;
-        else
-            skip([](char16_t unit) { return isLetter(unit); });
-        return true;
+            return true;
+        }
+        std::size_t const first = index;
+        value.power = skip(isLetter) > 0 ? 1 : 0;
+        return value.power == 0 || Units::find(text.substr(first, index - first)).has_value();
     }
 
-    bool call(std::u16string_view word) {
+    bool call(Expression& value, std::u16string_view word) {
         auto const function = Core::WordTable<expressionFunctions>::find(word);
         if (!function) return false;
         ++index;
         ++depth;
-        int arguments = 0;
+        int count = 0;
+        Expression arguments; // as if they were added
+        bool areNumeric = true;
         if (!take(u")")) {
             do {
-                if (!sum()) return false;
-                ++arguments;
+                Expression argument;
+                if (!sum(argument)) return false;
+                if (count++ == 0) arguments = argument;
+                areNumeric = areNumeric && (count == 1 ? makeNumeric(arguments) : add(arguments, argument));
             } while (take(u","));
             if (!take(u")")) return false;
         }
         --depth;
         isMoreThanValue = true;
-        if (function->copiesValue) copyEnd = index;
-        return arguments >= function->least && arguments <= function->most;
+        if (count < function->least || count > function->most) return false;
+        switch (function->result) {
+        case ExpressionFunction::Argument: value = arguments; return areNumeric;
+        case ExpressionFunction::Number:
+            value = {.kind = Expression::Numeric, .power = 0};
+            return areNumeric && arguments.power.value_or(0) == 0;
+        case ExpressionFunction::Length: value = {.kind = Expression::Numeric, .power = 1}; break;
+        case ExpressionFunction::Share:
+            value = {.kind = Expression::Share, .power = 1};
+            return areNumeric && arguments.power.value_or(0) == 0;
+        case ExpressionFunction::Color: value.kind = Expression::Color; break;
+        case ExpressionFunction::Font: value.kind = count == 1 ? Expression::Font : Expression::Any; break;
+        case ExpressionFunction::Copy: break;
+        }
+        return true;
     }
 
     std::u16string_view name() {
@@ -145,19 +202,64 @@ private:
     }
 
     std::u16string_view text;
-    std::size_t index = 0, copyEnd = 0;
+    std::size_t index = 0;
     int depth = 0;
     bool isMoreThanValue = false;
 };
 
-} // namespace
-
-bool isExpression(std::u16string_view text) {
-    return Parser(text).whole();
+// Whether the grammar has such a step outside of calls, whose steps stand from their end to their beginning.
+template <class Suits> bool hasStep(Grammar const& grammar, Suits suits) {
+    int depth = 0;
+    return std::ranges::any_of(grammar.steps(), [&](GrammarStep const& step) {
+        if (step.kind == GrammarStep::Mark && step.word == ")") ++depth;
+        if (step.kind == GrammarStep::Call) --depth;
+        return depth == 0 && suits(step);
+    });
 }
 
-bool isCopy(std::u16string_view text) {
-    return Parser(trimXmlSpace(text)).wholeCopy();
+bool hasToken(Grammar const& grammar, Token token) {
+    return hasStep(grammar,
+                   [&](GrammarStep const& step) { return step.kind == GrammarStep::Value && step.token == token; });
+}
+
+// Some numbers are words of their grammar: the weights of fonts.
+bool hasNumber(Grammar const& grammar) {
+    return hasToken(grammar, Token::Number) || hasToken(grammar, Token::Integer) ||
+           hasStep(grammar, [](GrammarStep const& step) {
+               return step.kind == GrammarStep::Word && Core::isDigit(static_cast<unsigned char>(step.word[0]));
+           });
+}
+
+bool takesPower(Grammar const& grammar, std::optional<int> power) {
+    bool const mayBeNumber = power.value_or(0) == 0, mayBeLength = power.value_or(1) == 1;
+    return (mayBeNumber && hasNumber(grammar)) || (mayBeLength && hasToken(grammar, Token::Length)) ||
+           (!power && hasToken(grammar, Token::Percentage));
+}
+
+} // namespace
+
+std::optional<Expression> readExpression(std::u16string_view text) {
+    Expression value;
+    return Parser(text).whole(value) ? std::optional(value) : std::nullopt;
+}
+
+bool isExpressionFor(CatalogueEntry const& entry, std::u16string_view text) {
+    auto const expression = readExpression(text);
+    if (!expression) return false;
+    Grammar const& grammar = entry.grammar;
+    switch (expression->kind) {
+    case Expression::Numeric: return !entry.isFont && takesPower(grammar, expression->power);
+    case Expression::Share:
+        return hasStep(grammar, [](GrammarStep const& step) { return step.word == "proportional-column-width"; });
+    case Expression::Color: return hasToken(grammar, Token::Color);
+    case Expression::Font: return entry.attribute.starts_with("font") || entry.attribute.starts_with("line-height");
+    case Expression::Text: {
+        Meaning meaning;
+        return readMeaning(meaning, grammar, Dialect::Fo, expression->text);
+    }
+    case Expression::Any: return true;
+    }
+    return false;
 }
 
 } // namespace Xml

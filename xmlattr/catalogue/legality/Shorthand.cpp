@@ -1,7 +1,6 @@
 #include "xmlattr/catalogue/legality/Shorthand.h"
 
 #include "xmlattr/catalogue/AttributeType.h"
-#include "xmlattr/catalogue/legality/Expression.h"
 #include "xmlattr/catalogue/legality/ValueOfRow.h"
 #include "xmlattr/catalogue/text/Words.h"
 
@@ -40,7 +39,7 @@ public:
     Judgement asFont(std::vector<std::u16string_view> const& parts) {
         auto const styles = entry.longhands.first(3), size = entry.longhands.subspan(3, 1),
                    height = entry.longhands.subspan(5);
-        if (parts.size() == 1 && (isWord(parts[0]) || isCopy(parts[0]))) return {Verdict::PassedOver};
+        if (parts.size() == 1 && isWord(parts[0])) return {Verdict::PassedOver};
         std::size_t i = 0;
         while (i < parts.size() && mayBeStyle(parts[i]) && isOneOf(styles, parts[i])) ++i;
         if (i == parts.size()) return refusal("has no font size");
@@ -69,6 +68,7 @@ private:
         bool hasPassed = false;
         std::optional<Judgement> taken;
         tried.clear();
+        if (equalsWord(part, "inherit", dialect != Dialect::Fo)) return false; // only the whole can be inherited
         for (CatalogueEntry const* const longhand : longhands) {
             // Of what may be any text, only these two forms are a value among others.
             bool const isOther = !part.starts_with(u"url(") && part != u"none";

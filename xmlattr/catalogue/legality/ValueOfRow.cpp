@@ -1,6 +1,5 @@
 #include "xmlattr/catalogue/legality/ValueOfRow.h"
 
-#include "xmlattr/catalogue/AttributeType.h"
 #include "xmlattr/catalogue/legality/Expression.h"
 #include "xmlattr/catalogue/legality/TypeReading.h"
 #include "xmlattr/catalogue/text/Words.h"
@@ -42,9 +41,7 @@ bool isComputed(CatalogueEntry const& entry, std::u16string_view text) {
     text = trimXmlSpace(text);
     bool const isFo = entry.vocabulary == Vocabulary::Fo;
     if (equalsWord(text, "inherit", !isFo)) return isFo || entry.isPresentation;
-    if (!isFo) return false;
-    AttributeType const* const type = entry.type();
-    return type && type->isEnumeration() ? isCopy(text) : isExpression(text);
+    return isFo && isExpressionFor(entry, text);
 }
 
 Judgement judgeValue(CatalogueEntry const& entry, Dialect dialect, std::u16string_view text) {
