@@ -187,6 +187,7 @@ TEST(SvgTransformsGrammar, TellsWhatIsIllegal) {
         {u"scale(1,)", "scale(1,[)]: expected a number"},
         {u"scale(1 2 3)", "scale(1 2 [3]: expected \")\""},
         {u"rotate(45deg)", "rotate(45[deg]: expected a number"},
+        {u"rotate3d(1,1,1,4)", "[rotate3d]: expected matrix, translate, scale, rotate, skewX or skewY"},
         {u"rotate(45 1)", "rotate(45 1[)]: expected a number"},
         {u"matrix(1 0 0 1)", "matrix(1 0 0 1[)]: expected a number"},
         {u"scale(1))", "scale(1)[)]: expected matrix, translate, scale, rotate, skewX or skewY"},

@@ -1,5 +1,6 @@
 #include "xmlattr/catalogue/grammar/NewerRecommendation.h"
 
+#include "xmlattr/catalogue/grammar/GrammarCompiler.h"
 #include "xmlattr/catalogue/text/Words.h"
 #include "xmlattr/core/Text.h"
 #include "xmlattr/core/WordTable.h"
@@ -10,6 +11,53 @@
 namespace Xml {
 
 namespace {
+
+// What attributes of SVG 1.1 may be by a newer recommendation, where words of the lists below cannot tell: "auto" is
+// new for some and an old word of others. The names are separated by blanks. What is legal in SVG 1.1 may be left out.
+struct NewValues {
+    std::string_view attributes;
+    Grammar grammar;
+    std::string_view recommendation;
+};
+
+constexpr NewValues newValues[] = {
+    {"d", "none"_grammar, "SVG 2"},
+    {"height width rx ry", "auto"_grammar, "SVG 2"},
+    {"id", "<reference>"_grammar, "SVG 2"},
+    {"pointer-events", "auto | bounding-box"_grammar, "SVG 2"},
+    {"refX", "left | center | right"_grammar, "SVG 2"},
+    {"refY", "top | center | bottom"_grammar, "SVG 2"},
+    {"alignment-baseline dominant-baseline", "text-top | text-bottom"_grammar, "CSS 3"},
+    {"alignment-baseline baseline-shift", "top | center | bottom"_grammar, "CSS 3"},
+    {"color fill flood-color lighting-color stop-color stroke", "currentColor | transparent"_grammar, "CSS 3"},
+    {"cursor",
+     "[ <uri> [ <number>{2} ]? , ]* [ auto | default | none | context-menu | help | pointer | progress | wait | cell | "
+     "crosshair | text | vertical-text | alias | copy | move | no-drop | not-allowed | grab | grabbing | e-resize | "
+     "n-resize | ne-resize | nw-resize | s-resize | se-resize | sw-resize | w-resize | ew-resize | ns-resize | "
+     "nesw-resize | nwse-resize | col-resize | row-resize | all-scroll | zoom-in | zoom-out ]"_grammar,
+     "CSS 3"},
+    {"font-variant",
+     "none | [ common-ligatures | no-common-ligatures | discretionary-ligatures | no-discretionary-ligatures | "
+     "historical-ligatures | no-historical-ligatures | contextual | no-contextual | small-caps | all-small-caps | "
+     "petite-caps | all-petite-caps | unicase | titling-caps | lining-nums | oldstyle-nums | proportional-nums | "
+     "tabular-nums | diagonal-fractions | stacked-fractions | ordinal | slashed-zero | jis78 | jis83 | jis90 | jis04 | "
+     "simplified | traditional | full-width | proportional-width | ruby | historical-forms | sub | super ]+"_grammar,
+     "CSS 3"},
+    {"gradientTransform patternTransform transform", "none"_grammar, "CSS 3"},
+    {"image-rendering", "smooth | high-quality | pixelated | crisp-edges"_grammar, "CSS 3"},
+    {"operator", "lighter"_grammar, "CSS 3"},
+    {"overflow", "[ visible | hidden | clip | scroll | auto ]{1,2}"_grammar, "CSS 3"},
+    {"text-decoration",
+     "[ none | [ underline || overline || line-through || blink ] ] || [ solid | double | dotted | dashed | wavy ] || "
+     "[ "
+     "<color> | currentColor | transparent ] || [ auto | from-font | <length> | <percentage> ]"_grammar,
+     "CSS 3"},
+    {"fill-opacity flood-opacity opacity stop-opacity stroke-opacity", "<percentage>"_grammar, "CSS 4"},
+    {"font-stretch", "<percentage [0,]>"_grammar, "CSS 4"},
+    {"font-style", "oblique <angle [-90,90]>"_grammar, "CSS 4"},
+    {"font-weight", "<number [1,1000]>"_grammar, "CSS 4"},
+    {"letter-spacing word-spacing", "<percentage>"_grammar, "CSS 4"},
+};
 
 // The words between blanks are of the recommendation; those of colours and units are in CSS Color and CSS Values.
 struct Words {
@@ -49,10 +97,16 @@ constexpr Words newUnits[] = {
     {"CSS 4", u"lh rlh vi vb ic cap rex rch ric rcap svw svh lvw lvh dvw dvh"},
 };
 
-constexpr std::u16string_view takeFirst(std::u16string_view& words) {
-    std::u16string_view const word = words.substr(0, words.find(u' '));
+template <class Unit> constexpr std::basic_string_view<Unit> takeFirst(std::basic_string_view<Unit>& words) {
+    std::basic_string_view<Unit> const word = words.substr(0, words.find(Unit{' '}));
     words.remove_prefix(std::min(word.size() + 1, words.size()));
     return word;
+}
+
+bool isAmong(std::string_view words, std::string_view word) {
+    while (!words.empty())
+        if (takeFirst(words) == word) return true;
+    return false;
 }
 
 template <auto const& lists>
@@ -160,7 +214,12 @@ private:
 
 } // namespace
 
-std::string_view newerRecommendation(Dialect dialect, std::u16string_view text) {
+std::string_view newerRecommendation(Dialect dialect, std::string_view attribute, std::u16string_view text) {
+    Meaning meaning;
+    if (dialect != Dialect::Fo)
+        for (NewValues const& row : newValues)
+            if (isAmong(row.attributes, attribute) && readMeaning(meaning, row.grammar, dialect, text))
+                return row.recommendation;
     return Scanner(dialect, text).find();
 }
 

@@ -50,7 +50,7 @@ Judgement judge(CatalogueEntry const& entry, std::u16string_view text, Notation 
         if (!isFault(verdict)) return {verdict == Verdict::Read ? Verdict::PassedOver : verdict};
     }
     judgement.isNegative = isNegative(entry, dialect, text);
-    if (!judgement.isNegative) judgement.newer = newerRecommendation(dialect, trimXmlSpace(text));
+    if (!judgement.isNegative) judgement.newer = newerRecommendation(dialect, entry.attribute, trimXmlSpace(text));
     return judgement;
 }
 

@@ -68,7 +68,7 @@ private:
         bool hasPassed = false;
         std::optional<Judgement> taken;
         tried.clear();
-        if (equalsWord(part, "inherit", dialect != Dialect::Fo)) return false; // only the whole can be inherited
+        if (isInherit(part)) return false;
         for (CatalogueEntry const* const longhand : longhands) {
             // Of what may be any text, only these two forms are a value among others.
             bool const isOther = !part.starts_with(u"url(") && part != u"none";
@@ -91,7 +91,11 @@ private:
         return true;
     }
 
-    Judgement refusal(std::u16string_view part) const { return {Verdict::Refused, part, tried}; }
+    bool isInherit(std::u16string_view part) const { return equalsWord(part, "inherit", dialect != Dialect::Fo); }
+
+    Judgement refusal(std::u16string_view part) const {
+        return {Verdict::Refused, part, tried, isInherit(part) ? "is legal only by itself" : ""};
+    }
     static Judgement refusal(std::string problem) { return {Verdict::Refused, {}, {}, std::move(problem)}; }
     Judgement accepted() {
         if (fault) return std::move(*fault);
