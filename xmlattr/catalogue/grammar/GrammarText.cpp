@@ -40,13 +40,14 @@ std::string_view nounOf(Token token, bool isFo) {
     case Token::Script: return "a script of four letters";
     case Token::Character: return "one character";
     case Token::FamilyName: return "names of fonts";
+    case Token::UnicodeRange: return "code points such as U+20-7E";
+    case Token::ContentType: return "content-type:TYPE/SUBTYPE or namespace-prefix:PREFIX";
     case Token::Text: return "a text";
     case Token::Empty: return "nothing";
     case Token::PathData: return "path data";
     case Token::Points: return "pairs of numbers";
     case Token::TransformList: return "transforms such as translate(10 20)";
     case Token::TimingList: return "times such as 1s or button.click";
-    case Token::UnicodeRange: return "code points such as U+20-7E";
     }
     return {};
 }

@@ -52,37 +52,30 @@ bool takeTiming(TextCursor& cursor) {
     return !takeSign(cursor) || takeClockValue(cursor);
 }
 
-// One code point, all those that differ in the digits "?" only, or those from the first to the second.
-bool takeUnicodeRange(TextCursor& cursor) {
+} // namespace
+
+bool readTimingList(std::u16string_view text) {
+    TextCursor cursor{text};
+    do {
+        skipXmlSpace(cursor);
+        if (!takeTiming(cursor)) return false;
+        skipXmlSpace(cursor);
+    } while (cursor.take(u';'));
+    return cursor.atEnd();
+}
+
+bool readUnicodeRange(std::u16string_view text) {
+    TextCursor cursor{text};
     auto const isHexDigit = [](char16_t unit) { return Core::hexDigit(unit) >= 0; };
     if ((!cursor.take(u'U') && !cursor.take(u'u')) || !cursor.take(u'+')) return false;
     std::size_t const digits = cursor.takeWhile(isHexDigit).size();
     std::size_t const wildcards = cursor.takeWhile([](char16_t unit) { return unit == u'?'; }).size();
     if (digits + wildcards == 0 || digits + wildcards > 6) return false;
-    if (wildcards > 0 || !cursor.take(u'-')) return true;
-    std::size_t const lastDigits = cursor.takeWhile(isHexDigit).size();
-    return lastDigits > 0 && lastDigits <= 6;
-}
-
-// Whether the text is a list of what `takeItem` takes.
-template <class TakeItem> bool isList(std::u16string_view text, char16_t separator, TakeItem takeItem) {
-    TextCursor cursor{text};
-    do {
-        skipXmlSpace(cursor);
-        if (!takeItem(cursor)) return false;
-        skipXmlSpace(cursor);
-    } while (cursor.take(separator));
+    if (wildcards == 0 && cursor.take(u'-')) {
+        std::size_t const lastDigits = cursor.takeWhile(isHexDigit).size();
+        if (lastDigits == 0 || lastDigits > 6) return false;
+    }
     return cursor.atEnd();
-}
-
-} // namespace
-
-bool readTimingList(std::u16string_view text) {
-    return isList(text, u';', takeTiming);
-}
-
-bool readUnicodeRanges(std::u16string_view text) {
-    return isList(text, u',', takeUnicodeRange);
 }
 
 } // namespace Xml

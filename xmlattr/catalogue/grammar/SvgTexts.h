@@ -9,7 +9,8 @@ namespace Xml {
 // names of events and of what they happen to are not known: "zzz+1s" is one.
 bool readTimingList(std::u16string_view text);
 
-// The code points of a font, by CSS 2, section 15.3.2: "U+20-7E, U+4??".
-bool readUnicodeRanges(std::u16string_view text);
+// Code points of a font, by CSS 2, section 15.3.2: one like "U+26", those that differ in the digits "?" only, or those
+// from the first to the second, like "U+20-7E".
+bool readUnicodeRange(std::u16string_view text);
 
 } // namespace Xml

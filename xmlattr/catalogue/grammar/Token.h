@@ -37,8 +37,9 @@ enum class Token : std::uint8_t {
     PathData,   // the rest, as SvgLists.h has it; likewise the next two
     Points,
     TransformList,
-    TimingList, // the rest, as SvgTexts.h has it; likewise the next one
-    UnicodeRange,
+    TimingList,   // the rest, as SvgTexts.h has it
+    UnicodeRange, // one, as SvgTexts.h has it
+    ContentType,  // content-type:text/xml or namespace-prefix:svg (XSL-FO)
 };
 
 namespace TokenTables {
@@ -76,6 +77,7 @@ inline constexpr Name names[] = {
     {"transform-list", Token::TransformList},
     {"timing-list", Token::TimingList},
     {"unicode-range", Token::UnicodeRange},
+    {"content-type", Token::ContentType},
 };
 
 struct Production {

@@ -181,6 +181,13 @@ bool readRest(Item& item, ValueCursor& cursor) {
     return true;
 }
 
+// A media type, or the prefix of a namespace, which the default one does not have.
+bool readContentType(Item& item, ValueCursor& cursor) {
+    if (cursor.takeWord("namespace-prefix:")) return cursor.atBoundary() || readRun(item, cursor, isName);
+    return cursor.takeWord("content-type:") && readRest(item, cursor) &&
+           item.text.find(u'/') != std::u16string_view::npos;
+}
+
 } // namespace
 
 bool readNumber(float& number, ValueCursor& cursor, bool* isInteger) {
@@ -239,6 +246,8 @@ bool readValue(Item& item, GrammarStep const& step, ValueCursor& cursor) {
     case Token::Script: return readRun(item, cursor, [](auto text) { return isLetters(text, 4, 4); });
     case Token::Character: return readCharacter(item, cursor);
     case Token::FamilyName: return readFamilyName(item, cursor);
+    case Token::UnicodeRange: return readRun(item, cursor, readUnicodeRange);
+    case Token::ContentType: return readContentType(item, cursor);
     case Token::Iri: item.kind = ItemKind::Uri; return readRest(item, cursor);
     case Token::Text: return readRest(item, cursor);
     case Token::Empty: return cursor.atEnd();
@@ -246,7 +255,6 @@ bool readValue(Item& item, GrammarStep const& step, ValueCursor& cursor) {
     case Token::Points: return readPoints(cursor.rest()) && readRest(item, cursor);
     case Token::TransformList: return readTransformList(cursor.rest()) && readRest(item, cursor);
     case Token::TimingList: return readTimingList(cursor.rest()) && readRest(item, cursor);
-    case Token::UnicodeRange: return readUnicodeRanges(cursor.rest()) && readRest(item, cursor);
     }
     return false;
 }

@@ -1,11 +1,11 @@
 #include "xmlattr/catalogue/legality/Expression.h"
 
 #include "xmlattr/catalogue/grammar/Meaning.h"
+#include "xmlattr/catalogue/grammar/UnitWords.h"
 #include "xmlattr/catalogue/legality/ExpressionFunctions.h"
 #include "xmlattr/catalogue/text/Words.h"
 
 #include "xmlattr/core/Text.h"
-#include "xmlattr/measures/Units.h"
 
 #include <algorithm>
 
@@ -125,7 +125,8 @@ private:
         }
         std::size_t const first = index;
         value.power = skip(isLetter) > 0 ? 1 : 0;
-        return value.power == 0 || Units::find(text.substr(first, index - first)).has_value();
+        return value.power == 0 ||
+               Core::WordTable<unitWords>::find(text.substr(first, index - first)) == ItemKind::Length;
     }
 
     bool call(Expression& value, std::u16string_view word) {
