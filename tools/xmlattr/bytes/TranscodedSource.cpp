@@ -20,19 +20,15 @@ namespace {
 constexpr std::string_view ownEncodings[] = {"utf-8",      "utf-16",   "utf-16be",     "utf-16le",
                                              "iso-8859-1", "us-ascii", "windows-1252", "cp1252"};
 
-std::string_view afterBlanks(std::string_view text) {
-    return text.substr(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
-}
-
 // What the XML declaration of an ASCII text says; empty when it says nothing.
 std::string_view declaredEncoding(std::string_view start) {
     if (!start.starts_with("<?xml")) return {};
     std::string_view const declaration = start.substr(0, start.find("?>"));
     std::size_t const at = declaration.find("encoding");
     if (at == std::string_view::npos) return {};
-    std::string_view rest = afterBlanks(declaration.substr(at + std::string_view("encoding").size()));
+    std::string_view rest = Xml::trimXmlSpaceStart(declaration.substr(at + std::string_view("encoding").size()));
     if (!rest.starts_with('=')) return {};
-    rest = afterBlanks(rest.substr(1));
+    rest = Xml::trimXmlSpaceStart(rest.substr(1));
     if (!rest.starts_with('"') && !rest.starts_with('\'')) return {};
     std::size_t const end = rest.find(rest[0], 1);
     return end == std::string_view::npos ? std::string_view() : rest.substr(1, end - 1);

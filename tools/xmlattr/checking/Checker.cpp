@@ -33,7 +33,7 @@ struct Checker::Occurrence {
     std::string_view element; // empty when it is not known
     std::size_t number;       // of the attribute in its tag
     std::string_view name, value;
-    std::size_t offset = 0; // in the attribute's value
+    std::optional<std::size_t> offset{}; // in the attribute's value; none where all of it is meant
     Xml::Notation notation = Xml::Notation::Attribute;
     Place place{}; // without a tag
 
@@ -116,8 +116,8 @@ bool Checker::wantsText(XmlElement const& /*element*/) {
 void Checker::text(XmlText const& text) {
     if (!made || !text.isWhole) return;
     ++counts.attributes;
-    check({nullptr, made->vocabulary, made->element, 0, made->attribute, text.text, 0, Xml::Notation::Attribute,
-           text.place});
+    check({.tag = nullptr, .vocabulary = made->vocabulary, .element = made->element, .number = 0,
+           .name = made->attribute, .value = text.text, .place = text.place});
 }
 
 void Checker::finish() {
@@ -214,9 +214,34 @@ void Checker::checkStyle(Occurrence const& occurrence) {
     Xml::blankComments(style);
     for (Xml::Declaration const& declaration : Xml::splitStyle(style)) {
         ++counts.declarations;
-        check({occurrence.tag, occurrence.vocabulary, occurrence.element, occurrence.number, declaration.property,
-               declaration.value, declaration.offset, Xml::Notation::Declaration, occurrence.place});
+        Occurrence piece = occurrence;
+        piece.offset = declaration.offset;
+        if (!declaration.fault.empty()) {
+            findFault(piece, declaration);
+            continue;
+        }
+        piece.name = declaration.property;
+        piece.value = declaration.value;
+        piece.notation = Xml::Notation::Declaration;
+        check(piece);
     }
+}
+
+void Checker::findFault(Occurrence const& piece, Xml::Declaration const& declaration) {
+    if (!piece.isWhole()) {
+        ++counts.unread;
+        return;
+    }
+    ++counts.refused;
+    if (!isReported(Fault::BadWord)) return;
+    Finding finding;
+    finding.fault = Fault::BadWord;
+    finding.attribute = piece.name;
+    finding.part = piece.value.substr(declaration.offset, declaration.text.size());
+    finding.problem = std::string("is no declaration: ").append(declaration.fault);
+    finding.offset = declaration.offset;
+    finding.length = declaration.text.size();
+    find(piece, std::move(finding));
 }
 
 bool Checker::isReported(Fault fault) {
@@ -230,11 +255,12 @@ void Checker::find(Occurrence const& occurrence, Finding finding) {
     finding.element = madeElement;
     if (occurrence.tag) {
         RawTag& tag = occurrence.tag->raw();
-        finding.place = occurrence.isDeclaration() ? tag.inValue(occurrence.number, occurrence.offset)
-                                                   : tag.attribute(occurrence.number);
+        finding.place = occurrence.offset ? tag.inValue(occurrence.number, *occurrence.offset)
+                                          : tag.attribute(occurrence.number);
         finding.element = tag.elementName();
         if (finding.element.empty()) finding.element = occurrence.element;
     }
+    finding.isDeclaration = occurrence.isDeclaration();
     finding.text = occurrence.value;
     report(finding);
 }

@@ -8,6 +8,7 @@
 #include "checking/VerdictCache.h"
 #include "xml/XmlReader.h"
 #include "xmlattr/catalogue/legality/Judge.h"
+#include "xmlattr/catalogue/legality/StyleAttribute.h"
 
 #include <cstdint>
 #include <functional>
@@ -61,6 +62,7 @@ private:
     void findMisplaced(Occurrence const& occurrence);
     void checkValue(Occurrence const& occurrence, Xml::CatalogueEntry const& entry);
     void checkStyle(Occurrence const& occurrence);
+    void findFault(Occurrence const& piece, Xml::Declaration const& declaration);
     void find(Occurrence const& occurrence, Finding finding);
     void find(ReferenceFault const& fault);
     // Counts a finding; whether it is to be reported.

@@ -3,6 +3,7 @@
 #include "text/Text.h"
 #include "xmlattr/catalogue/legality/StyleAttribute.h"
 #include "xmlattr/catalogue/text/Words.h"
+#include "xmlattr/core/Text.h"
 #include "xmlattr/core/WordTable.h"
 
 #include <algorithm>
@@ -32,22 +33,13 @@ std::uint64_t placed(std::uint64_t id, std::uint64_t where) {
     return mixed(id ^ mixed(where)) | 1;
 }
 
-std::string_view trimmed(std::string_view text) {
-    std::size_t const first = text.find_first_not_of(" \t\r\n");
-    return first == std::string_view::npos ? std::string_view()
-                                           : text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1);
-}
-
-int hexDigit(char c) {
-    return c >= '0' && c <= '9' ? c - '0' : (c | 0x20) >= 'a' && (c | 0x20) <= 'f' ? (c | 0x20) - 'a' + 10 : -1;
-}
-
 // The id in a fragment of a URL, where "%20" is a blank.
 std::string withoutEscapes(std::string_view fragment) {
+    auto const digit = [&](std::size_t at) { return Core::hexDigit(static_cast<unsigned char>(fragment[at])); };
     std::string id;
     for (std::size_t i = 0; i < fragment.size(); ++i) {
-        int const high = fragment[i] == '%' && i + 2 < fragment.size() ? hexDigit(fragment[i + 1]) : -1;
-        int const low = high < 0 ? -1 : hexDigit(fragment[i + 2]);
+        int const high = fragment[i] == '%' && i + 2 < fragment.size() ? digit(i + 1) : -1;
+        int const low = high < 0 ? -1 : digit(i + 2);
         id += low < 0 ? fragment[i] : static_cast<char>(high * 16 + low);
         if (low >= 0) i += 2;
     }
@@ -162,7 +154,7 @@ void References::addId(Occurrence const& occurrence, Report const& report) {
         knowsAllIds = false;
         return;
     }
-    std::string_view const id = trimmed(occurrence.text);
+    std::string_view const id = Xml::trimXmlSpace(occurrence.text);
     if (id.empty() || isFull) return;
     if (ids.size() + 2 > limits.ids) {
         isFull = true;
@@ -179,7 +171,7 @@ bool References::isKnown(std::uint64_t id) const {
 }
 
 void References::addReference(Occurrence const& occurrence, std::string_view id) {
-    id = trimmed(id);
+    id = Xml::trimXmlSpace(id);
     std::uint64_t const hash = hashOf(id);
     if (id.empty() || !knowsAllIds || isFull || isKnown(hash)) return;
     if (!occurrence.tag.isWhole(occurrence.number)) return;
@@ -194,7 +186,7 @@ void References::makeRoom() {
 }
 
 void References::addFragment(Occurrence const& occurrence, std::string_view reference) {
-    reference = trimmed(reference);
+    reference = Xml::trimXmlSpace(reference);
     if (!reference.starts_with('#')) return;
     std::string const id = withoutEscapes(reference.substr(1));
     // Links to "#top" are the habit of another language.
@@ -208,9 +200,9 @@ void References::addUrls(Occurrence const& occurrence, std::string_view text, bo
         ++at;
         std::size_t const end = text.find(')', at);
         if (end == std::string_view::npos) return;
-        std::string_view url = trimmed(text.substr(at, end - at));
+        std::string_view url = Xml::trimXmlSpace(text.substr(at, end - at));
         at = end + 1;
-        if (!isUrl || (mayFallBack && !trimmed(text.substr(at)).empty())) continue;
+        if (!isUrl || (mayFallBack && !Xml::trimXmlSpace(text.substr(at)).empty())) continue;
         bool const isQuoted =
             url.size() >= 2 && (url.front() == '"' || url.front() == '\'') && url.back() == url.front();
         addFragment(occurrence, isQuoted ? url.substr(1, url.size() - 2) : url);

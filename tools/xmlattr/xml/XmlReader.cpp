@@ -237,8 +237,8 @@ private:
     // A line end comes alone.
     void collect(std::string_view text) {
         if (collected.depth == 0) return;
-        std::size_t const blanks = text.find_first_not_of(" \t\r\n");
-        if (!collected.place && blanks != std::string_view::npos) {
+        std::size_t const blanks = text.size() - Xml::trimXmlSpaceStart(text).size();
+        if (!collected.place && blanks < text.size()) {
             collected.place = here();
             collected.place->column += blanks;
         }

@@ -8,21 +8,6 @@ namespace Xml {
 
 namespace {
 
-bool isBlank(char c) {
-    return isXmlSpace(static_cast<unsigned char>(c));
-}
-
-std::string_view trimStart(std::string_view text) {
-    while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
-    return text;
-}
-
-std::string_view trim(std::string_view text) {
-    text = trimStart(text);
-    while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
-    return text;
-}
-
 // The length of the string, the comment or the url() without quotation marks that may begin with
 // this text, or else 1.
 std::size_t tokenLength(std::string_view text) {
@@ -33,7 +18,7 @@ std::size_t tokenLength(std::string_view text) {
     if (text.starts_with('"') || text.starts_with('\'')) return through(text.substr(0, 1), 1);
     if (text.starts_with("/*")) return through("*/", 2);
     if (!equalsNoCase(text.substr(0, 4), "url(")) return 1;
-    std::string_view const reference = trimStart(text.substr(4));
+    std::string_view const reference = trimXmlSpaceStart(text.substr(4));
     bool const isString = reference.starts_with('"') || reference.starts_with('\'');
     return isString ? 1 : through(")", 4);
 }
@@ -58,8 +43,31 @@ std::size_t findOutside(std::string_view text, char mark) {
 
 std::string_view withoutPriority(std::string_view value) {
     std::size_t const mark = value.rfind('!');
-    bool const isPriority = mark != std::string_view::npos && equalsNoCase(trim(value.substr(mark + 1)), "important");
-    return isPriority ? trim(value.substr(0, mark)) : value;
+    bool const isPriority = mark != std::string_view::npos && equalsNoCase(trimXmlSpace(value.substr(mark + 1)), "important");
+    return isPriority ? trimXmlSpace(value.substr(0, mark)) : value;
+}
+
+// Whether a text has no other characters than the names of CSS.
+bool isName(std::string_view text) {
+    auto const isOfName = [](char c) {
+        bool const isPlain = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
+        return isPlain || c == '-' || c == '_' || c == '\\' || static_cast<unsigned char>(c) >= 0x80;
+    };
+    return !text.empty() && std::ranges::all_of(text, isOfName);
+}
+
+Declaration declarationOf(std::string_view text, std::size_t offset) {
+    std::size_t const colon = findOutside(text, ':');
+    Declaration declaration{.text = text, .offset = offset, .property = {}, .value = {}, .fault = {}};
+    if (colon == text.size()) {
+        declaration.fault = "it has no colon";
+    } else if (std::string_view const name = trimXmlSpace(text.substr(0, colon)); isName(name)) {
+        declaration.property = name;
+        declaration.value = withoutPriority(trimXmlSpace(text.substr(colon + 1)));
+    } else {
+        declaration.fault = "no name stands before its colon";
+    }
+    return declaration;
 }
 
 } // namespace
@@ -78,12 +86,9 @@ std::vector<Declaration> splitStyle(std::string_view text) {
     std::vector<Declaration> declarations;
     for (std::string_view rest = text; !rest.empty();) {
         std::size_t const end = findOutside(rest, ';');
-        std::string_view const declaration = trim(rest.substr(0, end));
-        std::size_t const colon = declaration.find(':');
-        if (colon != std::string_view::npos)
-            declarations.push_back({trim(declaration.substr(0, colon)),
-                                    withoutPriority(trim(declaration.substr(colon + 1))),
-                                    static_cast<std::size_t>(declaration.data() - text.data())});
+        std::string_view const piece = trimXmlSpace(rest.substr(0, end));
+        if (!piece.empty())
+            declarations.push_back(declarationOf(piece, static_cast<std::size_t>(piece.data() - text.data())));
         rest.remove_prefix(std::min(end + 1, rest.size()));
     }
     return declarations;

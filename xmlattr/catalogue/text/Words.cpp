@@ -12,12 +12,29 @@ char lowerLetter(char c) {
     return static_cast<char>(Core::toLower(static_cast<unsigned char>(c)));
 }
 
+template <class Unit> std::basic_string_view<Unit> trimStart(std::basic_string_view<Unit> text) {
+    while (!text.empty() && isXmlSpace(static_cast<char32_t>(text.front()))) text.remove_prefix(1);
+    return text;
+}
+
+template <class Unit> std::basic_string_view<Unit> trim(std::basic_string_view<Unit> text) {
+    text = trimStart(text);
+    while (!text.empty() && isXmlSpace(static_cast<char32_t>(text.back()))) text.remove_suffix(1);
+    return text;
+}
+
 } // namespace
 
 std::u16string_view trimXmlSpace(std::u16string_view text) {
-    while (!text.empty() && isXmlSpace(text.front())) text.remove_prefix(1);
-    while (!text.empty() && isXmlSpace(text.back())) text.remove_suffix(1);
-    return text;
+    return trim(text);
+}
+
+std::string_view trimXmlSpace(std::string_view text) {
+    return trim(text);
+}
+
+std::string_view trimXmlSpaceStart(std::string_view text) {
+    return trimStart(text);
 }
 
 std::string toLower(std::string_view text) {

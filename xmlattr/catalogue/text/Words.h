@@ -12,6 +12,8 @@ namespace Xml {
 using Core::isXmlSpace;
 
 std::u16string_view trimXmlSpace(std::u16string_view text);
+std::string_view trimXmlSpace(std::string_view text);
+std::string_view trimXmlSpaceStart(std::string_view text);
 
 // The letters of ASCII in lower case, all else as it is.
 std::string toLower(std::string_view text);
