@@ -248,19 +248,30 @@ TEST(Judge, GivesTheReason) {
 
 TEST(StyleAttribute, SplitsDeclarations) {
     std::string text = "fill : red;;/* a; */stroke:url(a;b) ! important; font:'x;/*y' 3px;junk;;x:;"
-                       "Y:url( 'a)/*;' ) /* ) */ !Important;z:url(//a/*b);w:1/**/2/*";
+                       "Y:url( 'a)/*;' ) /* ) */ !Important; : b ;{z:url(//a/*b);--z:url(//a/*b);f=url(c:d);w:1/**/2/*";
     blankComments(text);
     auto const declarations = splitStyle(text);
     struct Row {
-        char const *property, *value;
+        char const *text, *property, *value, *fault = "";
     };
-    Row const rows[] = {{"fill", "red"},         {"stroke", "url(a;b)"}, {"font", "'x;/*y' 3px"}, {"x", ""},
-                        {"Y", "url( 'a)/*;' )"}, {"z", "url(//a/*b)"},   {"w", "1    2"}};
+    Row const rows[] = {{"fill : red", "fill", "red"},
+                        {"stroke:url(a;b) ! important", "stroke", "url(a;b)"},
+                        {"font:'x;/*y' 3px", "font", "'x;/*y' 3px"},
+                        {"junk", "", "", "it has no colon"},
+                        {"x:", "x", ""},
+                        {"Y:url( 'a)/*;' )           !Important", "Y", "url( 'a)/*;' )"},
+                        {": b", "", "", "no name stands before its colon"},
+                        {"{z:url(//a/*b)", "", "", "no name stands before its colon"},
+                        {"--z:url(//a/*b)", "--z", "url(//a/*b)"},
+                        {"f=url(c:d)", "", "", "it has no colon"},
+                        {"w:1    2", "w", "1    2"}};
     ASSERT_EQ(declarations.size(), std::size(rows));
     for (std::size_t i = 0; i < std::size(rows); ++i) {
+        EXPECT_EQ(declarations[i].text, rows[i].text);
         EXPECT_EQ(declarations[i].property, rows[i].property);
         EXPECT_EQ(declarations[i].value, rows[i].value);
-        EXPECT_EQ(text.substr(declarations[i].offset, 1), std::string_view(rows[i].property).substr(0, 1));
+        EXPECT_EQ(declarations[i].fault, rows[i].fault);
+        EXPECT_EQ(text.substr(declarations[i].offset, declarations[i].text.size()), rows[i].text);
     }
     for (std::string open : {"", "/*", "a:/*", "'", "a:'", "a:(", ";", "/", "a:url(", "a:url( '", "a:!"}) {
         blankComments(open);

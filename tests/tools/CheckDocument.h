@@ -16,6 +16,7 @@ struct Outcome {
     Counts counts;
     Place last;             // of the findings
     std::string attributes; // that were refused, each followed by a blank
+    std::string messages;   // each with its column before and a line end after it
 };
 
 inline Outcome checkDocument(std::string_view document) {
@@ -26,6 +27,7 @@ inline Outcome checkDocument(std::string_view document) {
     Checker checker(outcome.counts, [&](Finding const& finding) {
         outcome.last = finding.place;
         outcome.attributes += finding.attribute + " ";
+        outcome.messages += std::to_string(finding.place.column) + " " + finding.message() + "\n";
     });
     if (auto const failure = readXml(file.get(), checker))
         outcome.failure = std::string(failure->id) + ": " + failure->message;

@@ -71,6 +71,64 @@ TEST(Checker, ReadsStyleAsCss) {
         << "an attribute has a case";
 }
 
+TEST(Checker, TellsWhatIsNoDeclaration) {
+    struct Row {
+        char const *style, *messages;
+    };
+    for (Row const& row :
+         {Row{"fill red; stroke: blue",
+              "48 style=\"fill red; stroke: blue\" on g: \"fill red\" is no declaration: it has no colon\n"},
+          Row{" fill=red", "49 style=\" fill=red\" on g: \"fill=red\" is no declaration: it has no colon\n"},
+          Row{"fill:red;/*x*/a/*y*/",
+              "62 style=\"fill:red;/*x*/a/*y*/\" on g: \"a\" is no declaration: it has no colon\n"},
+          Row{":red", "48 style=\":red\" on g is no declaration: no name stands before its colon\n"},
+          Row{"points: 1 2", "48 points on g is no known property\n"},
+          Row{"fil:red", "48 fil on g is no known property; did you mean \"fill\"?\n"}, Row{"; ;/* x */;", ""}}) {
+        Outcome const outcome = checkDocument(svg + "><g style='" + row.style + "'/></svg>");
+        EXPECT_EQ(outcome.messages, row.messages);
+    }
+    Outcome const outcome = checkDocument("<!DOCTYPE svg SYSTEM 'x.dtd'>" + svg + "style='fill&colon;red'/>");
+    EXPECT_EQ(outcome.messages, "") << "an entity may have the colon";
+    EXPECT_EQ(outcome.counts.unread, 1u);
+}
+
+TEST(Checker, JudgesWhatStylesheetsMake) {
+    struct Row {
+        char const *content, *messages;
+        std::uint64_t templates = 0;
+    };
+    for (Row const& row :
+         {Row{"<f:b><x:attribute name='span' select='al'/></f:b>", ""},
+          Row{"<f:block><x:attribute name='span'>al</x:attribute></f:block>", "35 span=\"al\" on f:block"},
+          Row{"<x:element name='f:block'><x:attribute name='span'>al</x:attribute></x:element>",
+              "52 span=\"al\" on f:block"},
+          Row{"<x:attribute-set><x:attribute name='span'>al</x:attribute></x:attribute-set>",
+              "43 span=\"al\" on x:attribute-set"},
+          Row{"<x:template><x:attribute name='span'>al</x:attribute></x:template>", "38 span=\"al\" on x:attribute"},
+          Row{"<x:element name='f:blok'/>", "12 f:blok is no element of its vocabulary; did you mean \"f:block\"?"},
+          Row{"<x:element name='blok' namespace='http://www.w3.org/1999/XSL/Format'/>",
+              "12 blok is no element of its vocabulary; did you mean \"block\"?"},
+          Row{"<x:element name='f:{a}'/><x:element name='blok'/>", ""},
+          Row{"<x:attribute name='span'>{a}</x:attribute>", "26 span=\"{a}\" on x:attribute"},
+          Row{"<x:attribute name='span' expand-text='yes'>{a}</x:attribute>", "", 1},
+          Row{"<f:block x:expand-text=' 1 '><x:attribute name='span'>{a}</x:attribute></f:block>", "", 1},
+          Row{"<f:block expand-text='yes'><x:attribute name='span'>{a}</x:attribute></f:block>",
+              "19 expand-text on f:block is no known attribute"},
+          Row{"<x:template expand-text='true'><x:if expand-text='no'><x:attribute name='span'>{a}</x:attribute></x:if>"
+              "<x:attribute name='span'>{a}</x:attribute></x:template>",
+              "80 span=\"{a}\" on x:attribute", 1},
+          Row{"<x:template expand-text='yes'/><x:attribute name='span'>{a}</x:attribute>",
+              "57 span=\"{a}\" on x:attribute"},
+          Row{"<x:attribute name='span' expand-text='yes'>{{a}}</x:attribute>", "44 span=\"{a}\" on x:attribute"}}) {
+        Outcome const outcome = checkDocument(
+            "<x:stylesheet xmlns:x='http://www.w3.org/1999/XSL/Transform' xmlns:f='http://www.w3.org/1999/XSL/Format'>\n"s +
+            row.content + "</x:stylesheet>");
+        EXPECT_EQ(outcome.messages.substr(0, std::string_view(row.messages).size()), row.messages) << row.content;
+        EXPECT_EQ(outcome.messages.empty(), *row.messages == 0) << row.content << outcome.messages;
+        EXPECT_EQ(outcome.counts.templates, row.templates) << row.content;
+    }
+}
+
 TEST(Checker, RefusesNoTextOfWhichAPartIsNotRead) {
     struct Row {
         std::string document;

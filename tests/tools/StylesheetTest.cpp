@@ -24,19 +24,17 @@ TEST(Stylesheet, TellsTemplatesFromTexts) {
 // What each wanted text of a stylesheet is: "fo:block@color=red 3:4;".
 class Recorder final : public XmlHandler {
 public:
-    void startElement(XmlElement const& element, Tag&) override {
-        stylesheet.startElement(element);
-        made = stylesheet.made(element);
-    }
-    bool wantsText(XmlElement const&) override { return made.has_value(); }
+    void startElement(XmlElement const& element, Tag& tag) override { stylesheet.startElement(element, tag); }
+    bool wantsText(XmlElement const& element) override { return stylesheet.isMade(element); }
     void text(XmlText const& text) override {
+        std::optional<MadeAttribute> const& made = stylesheet.made();
+        ASSERT_TRUE(made);
         all += std::string(Xml::Catalogue::name(made->vocabulary)) + ":" + made->element + "@" + made->attribute + "=" +
                std::string(text.text) + (text.isWhole ? " " : "? ") + std::to_string(text.place.line) + ":" +
                std::to_string(text.place.column) + ";";
     }
 
     Stylesheet stylesheet;
-    std::optional<MadeAttribute> made;
     std::string all;
 };
 
@@ -81,6 +79,32 @@ TEST(Stylesheet, TellsTheAttributesThatItMakes) {
         madeIn(attribute("a", "&pt;") + attribute("b", "1&px;"), "xmlns:f='http://www.w3.org/1999/XSL/Format'", dtd),
         "fo:@a=1pt 2:23;fo:@b=1? 2:63;");
     EXPECT_EQ(madeIn(attribute("a", std::string(70'000, 'x'))), "") << "longer than any value";
+    EXPECT_EQ(madeIn("<f:b><t:attribute name='a' select='1'/>" + attribute("b", "2") + "</f:b>"), "fo:b@b=2 2:63;");
+}
+
+TEST(Stylesheet, TellsTheValuesOfBranches) {
+    struct Row {
+        char const *content, *values;
+    };
+    for (Row const& row :
+         {Row{"<t:text>1</t:text>", "1 2:31;"}, Row{"\n <t:text>1</t:text><!-- -->\n ", "1 3:10;"},
+          Row{"<t:text> </t:text>", "  2:41;"}, Row{"<t:text/>", " 2:32;"},
+          Row{"<t:text/>1<t:text> </t:text>\n", "1  2:32;"}, Row{"<t:if>1</t:if>", "1 2:29;"},
+          Row{"<t:choose>\n<t:when>1</t:when><t:when>\n2</t:when><t:otherwise/></t:choose>\n", "1 3:9;\n2 4:1;"},
+          Row{"<t:choose><t:when><t:if><t:text>1</t:text></t:if></t:when><t:otherwise>2</t:otherwise></t:choose>",
+              "1 2:55;2 2:94;"},
+          Row{"<t:choose><t:when>1<t:value-of/></t:when><t:otherwise>2</t:otherwise></t:choose>", "2 2:77;"},
+          Row{"<t:choose><t:when><t:x>1</t:x></t:when><t:x><t:when>2</t:when></t:x></t:choose>", ""},
+          Row{"<t:if>1</t:if><t:if>2</t:if>", ""}, Row{"<t:if>1</t:if>2", ""},
+          Row{"1 <t:choose><t:when>2</t:when></t:choose>", ""},
+          Row{"<t:choose><t:when>1</t:when></t:choose><t:value-of/>", ""}, Row{"<t:value-of/><t:text>1</t:text>", ""},
+          Row{"<t:for-each><t:if>1</t:if></t:for-each>", ""}, Row{"<t:if><t:if>1</t:if>2</t:if>", ""}}) {
+        std::string values = madeIn("<f:b>" + attribute("", row.content) + "</f:b>");
+        EXPECT_EQ(values, "") << "without a name";
+        values = madeIn(attribute("a", row.content));
+        for (std::size_t at = 0; (at = values.find("fo:@a=", at)) != std::string::npos;) values.erase(at, 6);
+        EXPECT_EQ(values, row.values) << row.content;
+    }
 }
 
 } // namespace

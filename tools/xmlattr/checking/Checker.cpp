@@ -24,6 +24,13 @@ Fault faultOf(Xml::CatalogueEntry const& entry, Xml::Judgement const& judgement)
     return isTyped ? Fault::BadValue : judgement.isNegative ? Fault::Negative : Fault::BadWord;
 }
 
+// What is known of the name of an element that the vocabulary, and those after it, do not have.
+std::optional<Xml::NameFact> unknownElement(Xml::Vocabulary vocabulary, std::string_view element) {
+    if (Xml::Elements::isKnown(vocabulary, element)) return std::nullopt;
+    Xml::NameFact const fact = Xml::Names::ofElement(vocabulary, element);
+    return fact.standing == Xml::NameStanding::Unknown ? std::optional(fact) : std::nullopt;
+}
+
 } // namespace
 
 // An attribute of a tag, a declaration in one, or what an xsl:attribute holds.
@@ -35,7 +42,9 @@ struct Checker::Occurrence {
     std::string_view name, value;
     std::optional<std::size_t> offset{}; // in the attribute's value; none where all of it is meant
     Xml::Notation notation = Xml::Notation::Attribute;
-    Place place{}; // without a tag
+    // Without a tag: where the text stands, and the element as the document names it.
+    Place place{};
+    std::string_view named{};
 
     bool isDeclaration() const { return notation == Xml::Notation::Declaration; }
     bool isWhole() const { return !tag || tag->isWhole(number); }
@@ -50,30 +59,18 @@ struct Checker::Occurrence {
 
 void Checker::startElement(XmlElement const& element, Tag& tag) {
     if (element.depth == 0) isPlainSvg = element.space.empty() && element.name == "svg";
-    stylesheet.startElement(element);
-    made = stylesheet.made(element);
-    if (made) madeElement = made->element.empty() ? std::string(element.name) : made->element;
+    stylesheet.startElement(element, tag);
     counts.attributes += element.attributes.size();
     auto vocabulary = Xml::Catalogue::vocabularyOf(element.space);
     if (!vocabulary && isPlainSvg && element.space.empty()) vocabulary = Xml::Vocabulary::Svg;
     references.startElement(element, vocabulary, tag, [this](ReferenceFault const& fault) { find(fault); });
     if (!vocabulary) {
         counts.foreign += element.attributes.size();
+        if (std::optional<MadeElement> const made = elementMadeBy(element)) checkMade(*made, element, tag);
         return;
     }
-    if (!Xml::Elements::isKnown(*vocabulary, element.name)) {
-        Xml::NameFact const fact = Xml::Names::ofElement(*vocabulary, element.name);
-        if (fact.standing == Xml::NameStanding::Unknown && isReported(Fault::UnknownElement)) {
-            Finding finding;
-            finding.fault = Fault::UnknownElement;
-            finding.place = tag.raw().place();
-            finding.element = tag.raw().elementName();
-            if (finding.element.empty()) finding.element = element.name;
-            if (!fact.text.empty())
-                finding.replacement = finding.element.substr(0, finding.element.find(':') + 1).append(fact.text);
-            report(finding);
-        }
-    }
+    if (std::optional<Xml::NameFact> const fact = unknownElement(*vocabulary, element.name))
+        findUnknown(*fact, nameInDocument(element.name, tag), tag.raw().place());
     bool const isSvg = *vocabulary == Xml::Vocabulary::Svg;
     std::optional<std::size_t> const missing = isSvg ? filterResults.startElement(element) : std::nullopt;
     if (missing && !element.namespaces.hasXslt() && tag.isWhole(*missing) && isReported(Fault::DanglingReference)) {
@@ -109,15 +106,43 @@ void Checker::startElement(XmlElement const& element, Tag& tag) {
     }
 }
 
-bool Checker::wantsText(XmlElement const& /*element*/) {
-    return made.has_value();
+void Checker::checkMade(MadeElement const& made, XmlElement const& element, Tag& tag) {
+    std::optional<Xml::NameFact> const fact = unknownElement(made.vocabulary, made.local);
+    if (fact && tag.isWhole(made.number))
+        findUnknown(*fact, std::string(element.attributes[made.number].value), tag.raw().attribute(made.number));
+}
+
+void Checker::findUnknown(Xml::NameFact const& fact, std::string const& element, Place place) {
+    if (!isReported(Fault::UnknownElement)) return;
+    Finding finding;
+    finding.fault = Fault::UnknownElement;
+    finding.place = place;
+    finding.element = element;
+    if (!fact.text.empty()) finding.replacement = element.substr(0, element.find(':') + 1).append(fact.text);
+    report(finding);
+}
+
+bool Checker::wantsText(XmlElement const& element) {
+    return stylesheet.isMade(element);
 }
 
 void Checker::text(XmlText const& text) {
+    std::optional<MadeAttribute> const& made = stylesheet.made();
     if (!made || !text.isWhole) return;
     ++counts.attributes;
-    check({.tag = nullptr, .vocabulary = made->vocabulary, .element = made->element, .number = 0,
-           .name = made->attribute, .value = text.text, .place = text.place});
+    if (made->hasTextTemplates && isTemplate(text.text)) {
+        ++counts.templates;
+        return;
+    }
+    std::string const value = made->hasTextTemplates ? templateText(text.text) : std::string(text.text);
+    check({.tag = nullptr,
+           .vocabulary = made->vocabulary,
+           .element = made->element,
+           .number = 0,
+           .name = made->attribute,
+           .value = value,
+           .place = text.place,
+           .named = made->named});
 }
 
 void Checker::finish() {
@@ -252,13 +277,12 @@ bool Checker::isReported(Fault fault) {
 
 void Checker::find(Occurrence const& occurrence, Finding finding) {
     finding.place = occurrence.place;
-    finding.element = madeElement;
+    finding.element = occurrence.named;
     if (occurrence.tag) {
         RawTag& tag = occurrence.tag->raw();
-        finding.place = occurrence.offset ? tag.inValue(occurrence.number, *occurrence.offset)
-                                          : tag.attribute(occurrence.number);
-        finding.element = tag.elementName();
-        if (finding.element.empty()) finding.element = occurrence.element;
+        finding.place =
+            occurrence.offset ? tag.inValue(occurrence.number, *occurrence.offset) : tag.attribute(occurrence.number);
+        finding.element = nameInDocument(occurrence.element, *occurrence.tag);
     }
     finding.isDeclaration = occurrence.isDeclaration();
     finding.text = occurrence.value;

@@ -7,6 +7,7 @@
 #include "checking/Stylesheet.h"
 #include "checking/VerdictCache.h"
 #include "xml/XmlReader.h"
+#include "xmlattr/catalogue/Names.h"
 #include "xmlattr/catalogue/legality/Judge.h"
 #include "xmlattr/catalogue/legality/StyleAttribute.h"
 
@@ -57,6 +58,8 @@ public:
 private:
     struct Occurrence;
 
+    void checkMade(MadeElement const& made, XmlElement const& element, Tag& tag);
+    void findUnknown(Xml::NameFact const& fact, std::string const& element, Place place);
     void check(Occurrence const& occurrence);
     void checkName(Occurrence const& occurrence);
     void findMisplaced(Occurrence const& occurrence);
@@ -75,10 +78,8 @@ private:
     References references;
     FilterResults filterResults;
     Stylesheet stylesheet;
-    std::optional<MadeAttribute> made; // by the xsl:attribute at hand
-    std::string madeElement;           // as the document names it
-    std::u16string utf16;              // of the attribute at hand, kept for its memory
-    std::string style;                 // the style attribute at hand, likewise
+    std::u16string utf16; // of the attribute at hand, kept for its memory
+    std::string style;    // the style attribute at hand, likewise
     std::string prefixed;
     bool isPlainSvg = false; // an SVG document that declares no namespace
 };

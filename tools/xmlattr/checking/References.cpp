@@ -98,10 +98,8 @@ struct References::Occurrence {
     std::string_view text;
 
     ReferenceFault fault(ReferenceFault::Kind kind, std::string_view id) const {
-        RawTag const& raw = tag.raw();
-        std::string name = raw.elementName();
-        if (name.empty()) name = element.name;
-        return {kind, raw.attribute(number), std::move(name), std::string(attribute), std::string(id)};
+        return {kind, tag.raw().attribute(number), nameInDocument(element.name, tag), std::string(attribute),
+                std::string(id)};
     }
 };
 

@@ -1,6 +1,9 @@
 #include "checking/Stylesheet.h"
 
+#include "xmlattr/catalogue/text/Words.h"
+
 #include <algorithm>
+#include <utility>
 
 namespace Command {
 
@@ -9,10 +12,15 @@ namespace {
 constexpr std::string_view foNamespace = "http://www.w3.org/1999/XSL/Format";
 constexpr std::string_view svgNamespace = "http://www.w3.org/2000/svg";
 
-std::optional<std::string_view> attributeOf(XmlElement const& element, std::string_view name) {
+std::optional<std::string_view> attributeOf(XmlElement const& element, std::string_view name,
+                                            std::string_view space = {}) {
     for (XmlAttributeText const& attribute : element.attributes)
-        if (attribute.space.empty() && attribute.name == name) return attribute.value;
+        if (attribute.space == space && attribute.name == name) return attribute.value;
     return std::nullopt;
+}
+
+bool isInstruction(XmlElement const& element, std::string_view name) {
+    return element.space == xsltNamespace && element.name == name;
 }
 
 struct QualifiedName {
@@ -50,25 +58,60 @@ std::string templateText(std::string_view text) {
     return plain;
 }
 
-void Stylesheet::startElement(XmlElement const& element) {
-    while (!results.empty() && results.back().depth >= element.depth) results.pop_back();
+std::optional<MadeElement> elementMadeBy(XmlElement const& element) {
+    if (!isInstruction(element, "element")) return std::nullopt;
+    std::optional<QualifiedName> const name = nameMadeBy(element, true);
+    auto const vocabulary = name ? Xml::Catalogue::vocabularyOf(name->space) : std::nullopt;
+    if (!vocabulary) return std::nullopt;
+    auto const names = [](XmlAttributeText const& attribute) {
+        return attribute.space.empty() && attribute.name == "name";
+    };
+    auto const found = std::ranges::find_if(element.attributes, names);
+    return MadeElement{*vocabulary, name->local, static_cast<std::size_t>(found - element.attributes.begin())};
+}
+
+void Stylesheet::startElement(XmlElement const& element, XmlHandler::Tag& tag) {
+    auto const forget = [&](auto& enclosing) {
+        while (!enclosing.empty() && enclosing.back().depth >= element.depth) enclosing.pop_back();
+    };
+    forget(owners);
+    forget(expansions);
+    if (attribute && element.depth <= attributeDepth) attribute.reset();
     if (!element.namespaces.hasXslt()) return;
-    if (element.space != xsltNamespace) {
-        results.push_back({element.depth, Xml::Catalogue::vocabularyOf(element.space), std::string(element.name)});
+    noteExpansion(element);
+    if (attribute) {
+        attribute->hasTextTemplates |= hasTextTemplates();
+    } else if (element.space != xsltNamespace) {
+        owners.push_back({element.depth, false, Xml::Catalogue::vocabularyOf(element.space), std::string(element.name),
+                          nameInDocument(element.name, tag)});
     } else if (element.name == "element") {
-        Result& result = results.emplace_back();
-        result.depth = element.depth;
-        if (std::optional<QualifiedName> const name = nameMadeBy(element, true)) {
-            result.vocabulary = Xml::Catalogue::vocabularyOf(name->space);
-            result.name = name->local;
+        Owner owner{element.depth, false};
+        if (std::optional<MadeElement> const made = elementMadeBy(element)) {
+            owner.vocabulary = made->vocabulary;
+            owner.local = made->local;
+            owner.named = element.attributes[made->number].value;
         }
+        owners.push_back(std::move(owner));
+    } else if (element.name == "attribute-set") {
+        owners.push_back({element.depth, true, std::nullopt, {}, nameInDocument(element.name, tag)});
+    } else if (element.name == "attribute") {
+        attribute = makes(element, tag);
+        attributeDepth = element.depth;
     }
 }
 
-std::optional<MadeAttribute> Stylesheet::made(XmlElement const& element) const {
-    if (element.space != xsltNamespace || element.name != "attribute") return std::nullopt;
+// Of an instruction the attribute has no namespace, of a literal element that of XSLT.
+void Stylesheet::noteExpansion(XmlElement const& element) {
+    bool const isLiteral = element.space != xsltNamespace;
+    auto const value = attributeOf(element, "expand-text", isLiteral ? xsltNamespace : std::string_view());
+    if (!value) return;
+    std::string_view const word = Xml::trimXmlSpace(*value);
+    expansions.push_back({element.depth, word == "yes" || word == "true" || word == "1"});
+}
+
+std::optional<MadeAttribute> Stylesheet::makes(XmlElement const& element, XmlHandler::Tag& tag) const {
     std::optional<QualifiedName> const name = nameMadeBy(element, false);
-    if (!name) return std::nullopt;
+    if (!name || attributeOf(element, "select")) return std::nullopt;
     MadeAttribute made;
     if (name->space == xmlNamespace)
         made.attribute = "xml:";
@@ -77,10 +120,13 @@ std::optional<MadeAttribute> Stylesheet::made(XmlElement const& element) const {
     else if (!name->space.empty())
         return std::nullopt;
     made.attribute += name->local;
-    if (!results.empty()) {
-        if (!results.back().vocabulary) return std::nullopt;
-        made.vocabulary = *results.back().vocabulary;
-        made.element = results.back().name;
+    made.hasTextTemplates = hasTextTemplates();
+    if (!owners.empty() && !owners.back().isSet) {
+        Owner const& owner = owners.back();
+        if (!owner.vocabulary) return std::nullopt;
+        made.vocabulary = *owner.vocabulary;
+        made.element = owner.local;
+        made.named = owner.named;
         return made;
     }
     // An attribute set, or a template that adds to whatever calls it: it belongs to the vocabulary of the
@@ -88,6 +134,7 @@ std::optional<MadeAttribute> Stylesheet::made(XmlElement const& element) const {
     bool const isFo = element.namespaces.has(foNamespace), isSvg = element.namespaces.has(svgNamespace);
     if (isFo == isSvg) return std::nullopt;
     made.vocabulary = isFo ? Xml::Vocabulary::Fo : Xml::Vocabulary::Svg;
+    made.named = owners.empty() ? nameInDocument(element.name, tag) : owners.back().named;
     return made;
 }
 

@@ -4,6 +4,7 @@
 #include "bytes/TranscodedSource.h"
 #include "text/Text.h"
 #include "xml/Encoding.h"
+#include "xml/TextValues.h"
 
 #include "xmlattr/catalogue/text/Words.h"
 
@@ -11,6 +12,7 @@
 #include <exception>
 #include <memory>
 #include <set>
+#include <utility>
 #include <vector>
 
 #define XML_DTD // declares the limits on entities
@@ -22,7 +24,6 @@ namespace {
 
 constexpr int maxDepth = 10'000;
 constexpr std::int64_t maxTag = 32 << 20;
-constexpr std::size_t maxText = 64 << 10;
 constexpr int blockSize = 64 << 10;
 constexpr std::size_t longestDeclaration = 1 << 10; // of XML, where it names an encoding
 constexpr char separator = '\x1F';                  // between a namespace and a name; no document can contain it
@@ -111,7 +112,8 @@ private:
     static void XMLCALL onEnd(void* self, XML_Char const*) { static_cast<Reader*>(self)->end(); }
 
     static void XMLCALL onText(void* self, XML_Char const* text, int length) {
-        static_cast<Reader*>(self)->collect({text, static_cast<std::size_t>(length)});
+        Reader& reader = *static_cast<Reader*>(self);
+        reader.guarded([&] { reader.content->text({text, static_cast<std::size_t>(length)}, reader.here()); });
     }
 
     static void XMLCALL onNamespace(void* self, XML_Char const* prefix, XML_Char const* space) {
@@ -196,18 +198,15 @@ private:
         last = {};
         guarded([&] {
             handler.startElement(element, *this);
-            if (collected.depth > 0 && (element.space != xsltNamespace || element.name != "text")) stopCollecting();
-            if (collected.depth == 0 && handler.wantsText(element)) startCollecting();
+            if (content)
+                content->startElement(element);
+            else if (handler.wantsText(element))
+                startContent();
         });
     }
 
     void end() {
-        if (collected.depth == depth && !failure && !thrown) {
-            Place const place = collected.place.value_or(here());
-            bool const isWhole = collected.isWhole;
-            stopCollecting();
-            guarded([&] { handler.text({collected.text, place, isWhole}); });
-        }
+        if (content && !failure && !thrown) guarded([&] { endInContent(); });
         --depth;
     }
 
@@ -221,33 +220,21 @@ private:
         }
     }
 
-    void startCollecting() {
-        collected.depth = depth;
-        collected.text.clear();
-        collected.place.reset();
-        collected.isWhole = true;
+    void startContent() {
+        content.emplace();
+        hasAllContent = true;
         XML_SetCharacterDataHandler(parser.get(), onText);
     }
 
-    void stopCollecting() {
-        collected.depth = 0;
+    void endInContent() {
+        if (content->endElement(here())) return;
+        TextValues const ended = *std::exchange(content, std::nullopt);
         XML_SetCharacterDataHandler(parser.get(), nullptr);
-    }
-
-    // A line end comes alone.
-    void collect(std::string_view text) {
-        if (collected.depth == 0) return;
-        std::size_t const blanks = text.size() - Xml::trimXmlSpaceStart(text).size();
-        if (!collected.place && blanks < text.size()) {
-            collected.place = here();
-            collected.place->column += blanks;
-        }
-        collected.text += text;
-        if (collected.text.size() > maxText) stopCollecting();
+        for (TextValues::Value const& value : ended.values()) handler.text({value.text, value.place, hasAllContent});
     }
 
     void missContent() {
-        collected.isWhole = false;
+        hasAllContent = false;
         guarded([&] { handler.missingContent(); });
     }
 
@@ -345,12 +332,8 @@ private:
     bool hasUnreadDeclarations = false;
     std::set<std::string> knownEntities;
     Namespaces namespaces;
-    struct {
-        int depth = 0; // of the element whose text is wanted, counted from 1; 0 for none
-        std::string text;
-        std::optional<Place> place;
-        bool isWhole = true;
-    } collected;
+    std::optional<TextValues> content; // of the element whose text is wanted
+    bool hasAllContent = true;         // false when an entity left something out of it
     struct {
         std::size_t attribute = SIZE_MAX;
         bool isWhole = false;
@@ -360,6 +343,12 @@ private:
 };
 
 } // namespace
+
+std::string nameInDocument(std::string_view local, XmlHandler::Tag& tag) {
+    std::string name = tag.raw().elementName();
+    if (name.empty()) name = local;
+    return name;
+}
 
 std::optional<XmlFailure> readXml(ByteSource& source, XmlHandler& handler) {
     PeekedSource peeked(source);

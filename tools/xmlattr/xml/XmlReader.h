@@ -26,7 +26,7 @@ struct XmlElement {
     Namespaces const& namespaces;                 // in scope
 };
 
-// What an element holds when it holds nothing but text, its xsl:text elements taken for theirs.
+// All that an element of a stylesheet holds, or may hold by one of its branches: TextValues.h tells what that is.
 struct XmlText {
     std::string_view text; // UTF-8
     Place place;           // of the first character that is no white space; of the end when there is none
@@ -54,13 +54,15 @@ public:
         (void)element;
         return false;
     }
-    // Called at the end of an element whose text is wanted, unless it holds other elements than xsl:text, or
-    // more than 64 KiB.
+    // Called at the end of an element whose text is wanted, once for each text that it may hold.
     virtual void text(XmlText const& text) { (void)text; }
 
     // Called when the content of an entity that is not read is missing: there may be elements in it.
     virtual void missingContent() {}
 };
+
+// The name of the element at hand as the document has it, prefix included; the local one where an entity has the tag.
+std::string nameInDocument(std::string_view local, XmlHandler::Tag& tag);
 
 // Why a document was not read to its end.
 struct XmlFailure {

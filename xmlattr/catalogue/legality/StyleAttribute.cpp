@@ -43,7 +43,8 @@ std::size_t findOutside(std::string_view text, char mark) {
 
 std::string_view withoutPriority(std::string_view value) {
     std::size_t const mark = value.rfind('!');
-    bool const isPriority = mark != std::string_view::npos && equalsNoCase(trimXmlSpace(value.substr(mark + 1)), "important");
+    bool const isPriority =
+        mark != std::string_view::npos && equalsNoCase(trimXmlSpace(value.substr(mark + 1)), "important");
     return isPriority ? trimXmlSpace(value.substr(0, mark)) : value;
 }
 
