@@ -259,7 +259,7 @@ TEST(StyleAttribute, SplitsDeclarations) {
                         {"font:'x;/*y' 3px", "font", "'x;/*y' 3px"},
                         {"junk", "", "", "it has no colon"},
                         {"x:", "x", ""},
-                        {"Y:url( 'a)/*;' )           !Important", "Y", "url( 'a)/*;' )"},
+                        {"Y:url( 'a)/*;' )         !Important", "Y", "url( 'a)/*;' )"},
                         {": b", "", "", "no name stands before its colon"},
                         {"{z:url(//a/*b)", "", "", "no name stands before its colon"},
                         {"--z:url(//a/*b)", "--z", "url(//a/*b)"},

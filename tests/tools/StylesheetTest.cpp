@@ -79,7 +79,7 @@ TEST(Stylesheet, TellsTheAttributesThatItMakes) {
         madeIn(attribute("a", "&pt;") + attribute("b", "1&px;"), "xmlns:f='http://www.w3.org/1999/XSL/Format'", dtd),
         "fo:@a=1pt 2:23;fo:@b=1? 2:63;");
     EXPECT_EQ(madeIn(attribute("a", std::string(70'000, 'x'))), "") << "longer than any value";
-    EXPECT_EQ(madeIn("<f:b><t:attribute name='a' select='1'/>" + attribute("b", "2") + "</f:b>"), "fo:b@b=2 2:63;");
+    EXPECT_EQ(madeIn("<f:b><t:attribute name='a' select='1'/>" + attribute("b", "2") + "</f:b>"), "fo:b@b=2 2:62;");
 }
 
 TEST(Stylesheet, TellsTheValuesOfBranches) {
@@ -99,9 +99,7 @@ TEST(Stylesheet, TellsTheValuesOfBranches) {
           Row{"1 <t:choose><t:when>2</t:when></t:choose>", ""},
           Row{"<t:choose><t:when>1</t:when></t:choose><t:value-of/>", ""}, Row{"<t:value-of/><t:text>1</t:text>", ""},
           Row{"<t:for-each><t:if>1</t:if></t:for-each>", ""}, Row{"<t:if><t:if>1</t:if>2</t:if>", ""}}) {
-        std::string values = madeIn("<f:b>" + attribute("", row.content) + "</f:b>");
-        EXPECT_EQ(values, "") << "without a name";
-        values = madeIn(attribute("a", row.content));
+        std::string values = madeIn(attribute("a", row.content));
         for (std::size_t at = 0; (at = values.find("fo:@a=", at)) != std::string::npos;) values.erase(at, 6);
         EXPECT_EQ(values, row.values) << row.content;
     }

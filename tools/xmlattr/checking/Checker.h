@@ -18,8 +18,8 @@
 
 namespace Command {
 
-// Each attribute, each declaration of a style attribute and each literal xsl:attribute is counted in one class: a
-// verdict, or a reason why it has none.
+// Each attribute, each declaration of a style attribute and each literal value of an xsl:attribute is counted in one
+// class: a verdict, or a reason why it has none.
 struct Counts {
     std::uint64_t files = 0, failedFiles = 0;
     std::uint64_t attributes = 0, declarations = 0;

@@ -19,10 +19,6 @@ std::optional<std::string_view> attributeOf(XmlElement const& element, std::stri
     return std::nullopt;
 }
 
-bool isInstruction(XmlElement const& element, std::string_view name) {
-    return element.space == xsltNamespace && element.name == name;
-}
-
 struct QualifiedName {
     std::string_view space, local;
 };
@@ -59,7 +55,7 @@ std::string templateText(std::string_view text) {
 }
 
 std::optional<MadeElement> elementMadeBy(XmlElement const& element) {
-    if (!isInstruction(element, "element")) return std::nullopt;
+    if (element.space != xsltNamespace || element.name != "element") return std::nullopt;
     std::optional<QualifiedName> const name = nameMadeBy(element, true);
     auto const vocabulary = name ? Xml::Catalogue::vocabularyOf(name->space) : std::nullopt;
     if (!vocabulary) return std::nullopt;

@@ -64,8 +64,8 @@ bool TextValues::endElement(Place place) {
     endNode();
     Open ended = std::move(open.back());
     open.pop_back();
-    bool const isWhole = open.empty() && ended.content == Content::Nothing;
-    if (ended.content == Content::Text || isWhole)
+    bool const isEmpty = open.empty() && ended.content == Content::Nothing; // the element itself, and not a branch
+    if (ended.content == Content::Text || isEmpty)
         found.push_back({std::move(ended.text), ended.place.value_or(place)});
     else if (ended.content == Content::More)
         found.resize(ended.before);

@@ -12,7 +12,7 @@
 
 namespace Command {
 
-// Follows what stands in an element, which is an xsl:attribute most of the time. A text is one of its values when it is
+// Follows what stands in an element, such as an xsl:attribute. A text is one of its values when it is
 // all that the element holds, or all that a branch holds of an xsl:choose or xsl:if that is itself all that stands
 // there. What has another instruction beside it is but a part of a value, and is not told.
 class TextValues {
@@ -38,6 +38,7 @@ private:
         Text,     // an xsl:text
         Other     // whose text is known only when the stylesheet runs
     };
+    // What a sequence has; the branches are those of a single instruction.
     enum class Content : std::uint8_t { Nothing, Text, Branches, More };
 
     struct Open {
