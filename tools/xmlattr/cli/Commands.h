@@ -48,7 +48,8 @@ int check(CheckOptions const& options);
 int show(ShowOptions const& options);
 int types(TypesOptions const& options);
 int properties(PropertiesOptions const& options);
-// What a message with this id means, and what to do about it.
+// What findings with this id mean, and what to do about them.
 int explain(std::string const& id);
+std::vector<std::string> explainedIds();
 
 } // namespace Command

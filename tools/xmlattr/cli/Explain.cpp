@@ -3,7 +3,6 @@
 
 #include <iterator>
 #include <string_view>
-#include <vector>
 
 namespace Command {
 
@@ -27,20 +26,31 @@ constexpr Explanation explanations[] = {
                    "without zlib.\n"},
 };
 
-} // namespace
-
-int explain(std::string const& id) {
+// Of findings, and of what keeps a file from being read.
+std::vector<Explanation> allExplanations() {
     std::vector<Explanation> all;
     for (FaultKind const& kind : faultKinds()) all.push_back({kind.id, kind.explanation});
     all.insert(all.end(), std::begin(explanations), std::end(explanations));
-    for (Explanation const& explanation : all) {
+    return all;
+}
+
+} // namespace
+
+std::vector<std::string> explainedIds() {
+    std::vector<std::string> ids;
+    for (Explanation const& explanation : allExplanations()) ids.emplace_back(explanation.id);
+    return ids;
+}
+
+int explain(std::string const& id) {
+    for (Explanation const& explanation : allExplanations()) {
         if (explanation.id != id) continue;
         print(id + "\n\n" + std::string(explanation.text));
         flushOutput();
         return 0;
     }
     std::string ids;
-    for (Explanation const& explanation : all) ids.append(" ").append(explanation.id);
+    for (std::string const& known : explainedIds()) ids += " " + known;
     printError("xmlattr: no message has the id \"" + id + "\"; there are:" + ids + "\n");
     return 2;
 }

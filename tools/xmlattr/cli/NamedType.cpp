@@ -6,16 +6,22 @@
 
 #include "xmlattr/catalogue/text/Words.h"
 
+#include <algorithm>
+
 namespace Command {
 
 namespace {
 
-bool isCalled(Xml::AttributeType const& type, std::string_view name) {
+// Without "SmartPtr<...>" and the namespace.
+std::string_view bareName(Xml::AttributeType const& type) {
     std::string_view bare = type.name();
     if (bare.starts_with("SmartPtr<")) bare = bare.substr(9, bare.size() - 10);
-    std::size_t const space = bare.rfind(':');
-    return Xml::equalsNoCase(name, type.name()) || Xml::equalsNoCase(name, bare) ||
-           (space != std::string_view::npos && Xml::equalsNoCase(name, bare.substr(space + 1)));
+    return bare.substr(bare.rfind(':') + 1);
+}
+
+bool isCalled(Xml::AttributeType const& type, std::string_view name) {
+    std::string_view const known[] = {type.name(), bareName(type)};
+    return std::ranges::any_of(known, [&](std::string_view each) { return Xml::equalsNoCase(name, each); });
 }
 
 } // namespace
@@ -31,6 +37,14 @@ Xml::AttributeType const* findNamedType(std::string_view name) {
     printError("xmlattr: no value type is called " + inQuotes(printable(name)) +
                (nearest.empty() ? "" : "; did you mean " + inQuotes(toUtf8(nearest)) + "?") + "\n");
     return nullptr;
+}
+
+std::vector<std::string> typeNames() {
+    std::vector<std::string> names;
+    for (Xml::AttributeType const& type : Xml::AttributeType::all())
+        if (std::string_view const name = bareName(type); name.find('<') == std::string_view::npos)
+            names.emplace_back(name);
+    return names;
 }
 
 } // namespace Command

@@ -1,11 +1,14 @@
 // The command xmlattr: checks the attributes of documents.
 
 #include "cli/Commands.h"
+#include "cli/NamedType.h"
+#include "interface/Interface.h"
 #include "text/Text.h"
 #include "xmlattr/core/Version.h"
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstring>
@@ -17,35 +20,38 @@ using namespace Command;
 
 template <class T> using Choices = std::vector<std::pair<std::string, T>>;
 
-// An option that takes one of a few words.
+// An option or an argument that takes one of a few words, which the help shows in place of a placeholder.
 template <class T, class Value>
-void addChoice(CLI::App& app, std::string const& name, Value& value, std::string const& placeholder,
-               Choices<T> const& choices, std::string const& help) {
+CLI::Option* addChoice(CLI::App& app, std::string const& name, Value& value, Choices<T> const& choices,
+                       std::string const& help) {
+    std::vector<std::string> words;
+    for (auto const& [word, chosen] : choices) words.push_back(word);
     auto const choose = [&value, choices](std::string const& text) {
         for (auto const& [word, chosen] : choices)
             if (word == text) value = chosen;
     };
-    auto const check = [choices](std::string const& text) {
-        std::vector<std::string> words;
-        for (auto const& [word, chosen] : choices) {
-            if (word == text) return std::string();
-            words.push_back(word);
-        }
-        return inQuotes(printable(text)) + " is not " + joinWith(words, "or");
+    auto const check = [words](std::string const& text) {
+        bool const isWord = std::find(words.begin(), words.end(), text) != words.end();
+        return isWord ? "" : inQuotes(printable(text)) + " is not " + joinWith(words, "or");
     };
-    app.add_option_function<std::string>(name, choose, help)->check(check)->type_name(placeholder);
+    return app.add_option_function<std::string>(name, choose, help)
+        ->check(check)
+        ->type_name(CLI::detail::join(words, "|"));
 }
 
 void addFormat(CLI::App& app, OutputFormat& format) {
-    addChoice<OutputFormat>(app, "--format", format, "FORMAT",
-                            {{"text", OutputFormat::Text}, {"json", OutputFormat::Json}},
-                            "text, or json: one object a line");
+    addChoice<OutputFormat>(app, "--format", format, {{"text", OutputFormat::Text}, {"json", OutputFormat::Json}},
+                            "Print text, or as json one object a line (default: text)");
+}
+
+void addExplain(CLI::App& app, std::string& id) {
+    app.add_option("--explain", id, "Print what findings with this id mean, and exit")->type_name("ID");
 }
 
 void addColor(CLI::App& app, ColorMode& color) {
-    addChoice<ColorMode>(app, "--color", color, "WHEN",
+    addChoice<ColorMode>(app, "--color", color,
                          {{"auto", ColorMode::Auto}, {"always", ColorMode::Always}, {"never", ColorMode::Never}},
-                         "auto, always or never");
+                         "Print in colour; auto does on a terminal, unless NO_COLOR is set (default: auto)");
 }
 
 std::string checkCount(std::string const& text) {
@@ -54,55 +60,78 @@ std::string checkCount(std::string const& text) {
 }
 
 int run(int argc, char** argv) {
-    CLI::App app("Checks the attribute values of XSL-FO and SVG documents.", "xmlattr");
-    app.set_version_flag("--version", std::string("xmlattr ") + Core::version());
+    CLI::App app("Check the attributes of XSL-FO and SVG documents", "xmlattr");
+    app.set_help_flag("-h,--help", "Print this help and exit");
+    app.set_version_flag("--version", std::string("xmlattr ") + Core::version(), "Print the version and exit");
     app.require_subcommand(0, 1);
     app.get_formatter()->label("REQUIRED", ""); // the usage shows it
+    app.get_formatter()->label("Positionals", "Arguments");
     std::string explained;
-    app.add_option("--explain", explained, "What messages with this id mean")->type_name("ID");
+    addExplain(app, explained);
 
     CheckOptions checking;
     CLI::App* const checkCommand =
         app.add_subcommand("check", "Report each attribute that is not read as it is written");
     checkCommand
-        ->add_option("FILE", checking.paths,
-                     "Documents; directories, for their documents and stylesheets; - for standard input")
+        ->add_option("FILE", checking.paths, "Documents, stylesheets, directories of both, or - for standard input")
         ->type_name("");
-    checkCommand->add_option("--files-from", checking.filesFrom, "Read paths from this file, one a line")
+    checkCommand->add_option("--files-from", checking.filesFrom, "Check also what this file names, one path a line")
         ->type_name("FILE");
-    checkCommand->add_option("--stdin-name", checking.stdinName, "What to call standard input")->type_name("NAME");
+    checkCommand
+        ->add_option("--stdin-name", checking.stdinName, "Call standard input so in findings (default: <stdin>)")
+        ->type_name("NAME");
     addFormat(*checkCommand, checking.format);
     addColor(*checkCommand, checking.color);
-    checkCommand->add_flag("-q,--quiet", checking.isQuiet, "No summary and no progress");
+    checkCommand->add_flag("-q,--quiet", checking.isQuiet, "Print no summary and no progress");
     checkCommand->add_flag("--strict", checking.isStrict,
-                           "Report attributes on elements that do not have them, and fail for warnings too");
-    checkCommand->add_option("--max-findings", checking.maxFindings, "Show no more findings than this")
+                           "Report attributes on elements that do not have them too, and fail for warnings too");
+    checkCommand->add_option("--max-findings", checking.maxFindings, "Print no more findings than this (default: all)")
         ->check(checkCount)
         ->type_name("N");
-    checkCommand->add_option("--explain", explained, "What messages with this id mean")->type_name("ID");
+    addExplain(*checkCommand, explained);
+    checkCommand->footer("The exit code is 0 without an error, 1 with one, and 2 when a file could not be read.");
 
     ShowOptions showing;
     CLI::App* const showCommand = app.add_subcommand("show", "Show what a value type makes of a text");
-    showCommand->add_option("TYPE", showing.type, "The value type")->required()->type_name("");
+    showCommand->add_option("TYPE", showing.type, "A value type, as the command types lists them")
+        ->required()
+        ->type_name("");
     CLI::Option const* const textOption =
-        showCommand->add_option("TEXT", showing.text, "The text; after -- when it could be an option")->type_name("");
+        showCommand->add_option("TEXT", showing.text, "The text, after -- where it begins like an option")
+            ->type_name("");
     showCommand->allow_extras(); // a text may begin like an option: -.5pt
-    showCommand->add_option("--equal", showing.other, "Also compare with this text")->type_name("TEXT");
+    showCommand->add_option("--equal", showing.other, "Compare the value with this text too")->type_name("TEXT");
     addFormat(*showCommand, showing.format);
     addColor(*showCommand, showing.color);
+    showCommand->footer("The exit code is 0 when the type accepts the text, and 1 when it refuses it.");
 
     TypesOptions typing;
     CLI::App* const typesCommand = app.add_subcommand("types", "List the value types with their syntax");
-    typesCommand->add_option("NAME", typing.name, "Only types whose name contains this")->type_name("");
+    typesCommand->add_option("NAME", typing.name, "A part of the names; without it, all are listed")->type_name("");
     addFormat(*typesCommand, typing.format);
 
     PropertiesOptions listing;
-    CLI::App* const propertiesCommand = app.add_subcommand("properties", "List the catalogue of attributes");
-    propertiesCommand->add_option("NAME", listing.name, "Only attributes whose name contains this")->type_name("");
-    addChoice<Xml::Vocabulary>(*propertiesCommand, "--vocabulary", listing.vocabulary, "NAME",
-                               {{"fo", Xml::Vocabulary::Fo}, {"svg", Xml::Vocabulary::Svg}}, "Only fo or only svg");
-    propertiesCommand->add_option("--type", listing.type, "Only attributes of this value type")->type_name("TYPE");
+    CLI::App* const propertiesCommand =
+        app.add_subcommand("properties", "List the attributes with their value types and grammars");
+    propertiesCommand->add_option("NAME", listing.name, "A part of the names; without it, all are listed")
+        ->type_name("");
+    addChoice<Xml::Vocabulary>(*propertiesCommand, "--vocabulary", listing.vocabulary,
+                               {{"fo", Xml::Vocabulary::Fo}, {"svg", Xml::Vocabulary::Svg}},
+                               "List only attributes of XSL-FO or only those of SVG");
+    propertiesCommand->add_option("--type", listing.type, "List only attributes of this value type")->type_name("TYPE");
     addFormat(*propertiesCommand, listing.format);
+
+    // For the build, so it is not shown.
+    InterfaceForm form{};
+    CLI::App* const interfaceCommand = app.add_subcommand("interface", "Print completions or the manual's list");
+    interfaceCommand->group("");
+    addChoice<InterfaceForm>(*interfaceCommand, "FORM", form,
+                             {{"bash", InterfaceForm::Bash},
+                              {"zsh", InterfaceForm::Zsh},
+                              {"fish", InterfaceForm::Fish},
+                              {"manual", InterfaceForm::Manual}},
+                             "Print completions for this shell, or the options as mdoc")
+        ->required();
 
     try {
         app.parse(argc, argv);
@@ -132,6 +161,11 @@ int run(int argc, char** argv) {
     }
     if (*typesCommand) return types(typing);
     if (*propertiesCommand) return properties(listing);
+    if (*interfaceCommand) {
+        print(describeInterface(app, form, {{"TYPE", typeNames()}, {"ID", explainedIds()}}));
+        flushOutput();
+        return 0;
+    }
     return usage("no command given");
 }
 
