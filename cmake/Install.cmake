@@ -1,4 +1,5 @@
-# What an installation holds beside the libraries: the public headers, the CMake package and the files of pkg-config.
+# What an installation holds beside the libraries: the public headers, documents, the CMake package and the files of
+# pkg-config.
 # Nothing in it names the folder that it was installed to.
 
 # Headers that only the library itself includes; every other one is public, compiles alone and declares nothing that
@@ -39,6 +40,12 @@ list(TRANSFORM internal_headers PREPEND "/xmlattr/")
 list(JOIN internal_headers "$|" internal_headers)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/xmlattr DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development
   FILES_MATCHING PATTERN "*.h" PATTERN "*.inc" REGEX "${internal_headers}$" EXCLUDE)
+
+# What a stranger reads first, with the documents that it leads to.
+install(FILES ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md
+  DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development
+  FILES_MATCHING PATTERN "*.md")
 
 include(CMakePackageConfigHelpers)
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/xmlattr)

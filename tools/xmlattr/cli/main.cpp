@@ -109,6 +109,7 @@ int run(int argc, char** argv) {
     CLI::App* const typesCommand = app.add_subcommand("types", "List the value types with their syntax");
     typesCommand->add_option("NAME", typing.name, "A part of the names; without it, all are listed")->type_name("");
     addFormat(*typesCommand, typing.format);
+    typesCommand->footer("A line has the name of the type, and what it reads.");
 
     PropertiesOptions listing;
     CLI::App* const propertiesCommand =
@@ -120,6 +121,10 @@ int run(int argc, char** argv) {
                                "List only attributes of XSL-FO or only those of SVG");
     propertiesCommand->add_option("--type", listing.type, "List only attributes of this value type")->type_name("TYPE");
     addFormat(*propertiesCommand, listing.format);
+    propertiesCommand->footer(
+        "A line has the vocabulary, the element or *, the attribute, its value type or what it is "
+        "instead, whether it is\ninherited, the constant with its default, and the grammar that "
+        "the recommendation has for it.");
 
     // For the build, so it is not shown.
     InterfaceForm form{};
