@@ -95,8 +95,8 @@ TEST(Stylesheet, TellsTheValuesOfBranches) {
               "1 2:55;2 2:94;"},
           Row{"<t:choose><t:when>1<t:value-of/></t:when><t:otherwise>2</t:otherwise></t:choose>", "2 2:77;"},
           Row{"<t:choose><t:when><t:x>1</t:x></t:when><t:x><t:when>2</t:when></t:x></t:choose>", ""},
-          Row{"<t:if>1</t:if><t:if>2</t:if>", ""}, Row{"<t:if>1</t:if>2", ""},
-          Row{"1 <t:choose><t:when>2</t:when></t:choose>", ""},
+          Row{"<t:choose><t:when>1</t:when><x/></t:choose>", ""}, Row{"<t:if>1</t:if><t:if>2</t:if>", ""},
+          Row{"<t:if>1</t:if>2", ""}, Row{"1 <t:choose><t:when>2</t:when></t:choose>", ""},
           Row{"<t:choose><t:when>1</t:when></t:choose><t:value-of/>", ""}, Row{"<t:value-of/><t:text>1</t:text>", ""},
           Row{"<t:for-each><t:if>1</t:if></t:for-each>", ""}, Row{"<t:if><t:if>1</t:if>2</t:if>", ""}}) {
         std::string values = madeIn(attribute("a", row.content));

@@ -28,6 +28,7 @@ TextValues::Role TextValues::roleIn(Role parent, XmlElement const& element) {
 
 void TextValues::startElement(XmlElement const& element) {
     endNode();
+    if (element.space != xsltNamespace) holdsResults = true;
     Open& parent = open.back();
     Role const role = roleIn(parent.role, element);
     bool const isInstruction = parent.role == Role::Sequence && role != Role::Text;
@@ -69,7 +70,7 @@ bool TextValues::endElement(Place place) {
         found.push_back({std::move(ended.text), ended.place.value_or(place)});
     else if (ended.content == Content::More)
         found.resize(ended.before);
-    if (open.empty() && size > maxText) found.clear();
+    if (open.empty() && (size > maxText || holdsResults)) found.clear();
     return !open.empty();
 }
 

@@ -28,7 +28,7 @@ public:
     // False when it is the end of the element itself, after which its values are known.
     bool endElement(Place place);
 
-    // In the order of the document; none when there is more than 64 KiB of text.
+    // In the order of the document; none when there is more than 64 KiB of text or an element of the result.
     std::vector<Value> const& values() const { return found; }
 
 private:
@@ -56,7 +56,8 @@ private:
     std::vector<Open> open{{Role::Sequence, 0}};
     std::string node; // the text since the last tag
     std::optional<Place> nodePlace;
-    std::size_t size = 0; // of all text
+    std::size_t size = 0;      // of all text
+    bool holdsResults = false; // elements that are no instructions
     std::vector<Value> found;
 };
 
