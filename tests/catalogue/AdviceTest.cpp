@@ -58,25 +58,54 @@ TEST(Advice, GuessesOnlyWhatIsLegalAndRead) {
     expectAdvice({
         {Fo, "block", "margin", u"10", Lenient, "1000%", "10pt"},
         {Svg, "rect", "opacity", u"50%", Lenient, "0.5", ""},
-        {Svg, "rect", "width", u"1 cm", Lenient, "1cm", "1cm"},
+        {Svg, "rect", "width", u"1 cm", Lenient, "1cm", "1cm", true},
         {Fo, "block", "font-size", u"10", Lenient, "1000%", "10pt"},
         {Fo, "block", "hyphenate", u"treu", Lenient, "", "true"},
         {Fo, "block", "text-align", u"jusitfy", Lenient, "jusitfy", "justify"},
-        {Fo, "block", "space-before", u"1,5pt", Refused, "", "1.5pt"},
-        {Fo, "block", "space-before", u"12 PT", Refused, "", "12pt"},
+        {Fo, "block", "space-before", u"1,5pt", Refused, "", "1.5pt", true},
+        {Fo, "block", "space-before", u"12 PT", Refused, "", "12pt", true},
         {Fo, "block", "space-before", u"2 inches", Refused, "", "2in"},
         {Fo, "block", "border", u"1pt solid rde", Refused, "", "1pt solid red"},
         {Fo, "block", "color", u"light blue", Refused, "", "lightblue"},
         {Fo, "block", "writing-mode", u"lr_tb", Refused, "", ""},
         {Fo, "block", "white-space", u"prre", Refused, "", "pre"},
-        {Svg, "feBlend", "mode", u"Multiply", Refused, "", "multiply"},
+        {Svg, "feBlend", "mode", u"Multiply", Refused, "", "multiply", true},
         // Nothing is put together, and no word is made of another.
         {Fo, "block", "orphans", u"20 20", Refused, "", ""},
         {Fo, "block", "color", u"gray blue", Refused, "", ""},
-        {Svg, "rect", "width", u"17,4 %", Refused, "", "17.4%"},
+        {Svg, "rect", "width", u"17,4 %", Refused, "", "17.4%", true},
         {Svg, "polygon", "points", u"a b c", Refused, "", ""},
         {Svg, "g", "transform", u"rotat(45)", Lenient, "nothing", "rotate(45)"},
+        // One part after the other.
+        {Fo, "block", "border", u"1PT SOLID red", Refused, "", "1pt solid red", true},
+        {Fo, "block", "border", u"1PT sold RED", Refused, "", "1pt solid RED"},
+        {Fo, "block", "border", u"1PT sold rrrr", Refused, "", ""},
+        // That comma may separate thousands.
+        {Fo, "block", "space-before", u"1,500pt", Refused, "", "1.500pt"},
+        {Fo, "block", "space-before", u"1,500,0pt", Refused, "", ""},
     });
+}
+
+TEST(Advice, WritesNewerColorsAsTheyAreRead) {
+    struct Case {
+        char16_t const* text;
+        char const* replacement;
+        bool isExact;
+    };
+    for (Case const& row :
+         {Case{u"#abc8", "#aabbcc", false}, Case{u"#aabbccFF", "#aabbcc", true}, Case{u"#aabbcc0", "", false},
+          Case{u"rgb(10% 20% 30%)", "#1a334d", true}, Case{u"rgb(0 127.6 255 / 1)", "#0080ff", true},
+          Case{u"rgba(1,2,3,100%)", "#010203", true}, Case{u"RGBA(1, 2, 3, .5)", "#010203", false},
+          Case{u"rgb(1.5,2,3)", "#020203", true}, Case{u"hsl(120deg 100% 25%)", "#008000", true},
+          Case{u"hsla(-240,100%,25%,50%)", "#008000", false}, Case{u"hsl(.5turn 50% 50% / 100%)", "#40bfbf", true},
+          Case{u"hwb(90 50% 100%)", "#555555", true}, Case{u"hwb(0 20% 40%)", "#993333", true},
+          Case{u"rebeccapurple", "#663399", true}, Case{u"rgb(1 2 3 4)", "", false}, Case{u"rgb(1 2% 3)", "", false},
+          Case{u"hsl(1px 2% 3%)", "", false}, Case{u"hsl(1 2 3)", "", false}, Case{u"lab(1 2 3)", "", false}}) {
+        CatalogueEntry const& entry = *Catalogue::find(Svg, "path", "stroke");
+        Advice const advice = advise(entry, row.text, Notation::Attribute, judge(entry, row.text));
+        EXPECT_EQ(Core::String(advice.replacement).toUtf8(), row.replacement) << narrow(row.text);
+        EXPECT_EQ(advice.isExact, row.isExact) << narrow(row.text);
+    }
 }
 
 TEST(Judge, TellsNegativeAndNewerValues) {

@@ -2,6 +2,7 @@
 
 #include "xmlattr/catalogue/AttributeType.h"
 #include "xmlattr/catalogue/grammar/GrammarText.h"
+#include "xmlattr/catalogue/legality/NewerColor.h"
 #include "xmlattr/catalogue/legality/TypeReading.h"
 #include "xmlattr/catalogue/legality/ValueOfRow.h"
 #include "xmlattr/catalogue/text/Words.h"
@@ -102,6 +103,19 @@ std::u16string unquoted(std::u16string_view text) {
     return std::u16string(isQuoted ? text.substr(1, text.size() - 2) : text);
 }
 
+// What texts have in common that differ only in the case of their letters, in blanks around them or before a unit, and
+// in the mark of the decimals. A comma before three digits may be one of thousands.
+std::u16string spelling(std::u16string_view text) {
+    std::u16string lower = toLower(trimXmlSpace(text));
+    if (lower.empty() || lower.find_first_of(u"0123456789") > lower.find_first_not_of(u"+-.,")) return lower;
+    std::erase_if(lower, isXmlSpace);
+    std::size_t const comma = lower.find(u',');
+    if (comma == std::u16string::npos) return lower;
+    auto const afterComma = lower.begin() + static_cast<std::ptrdiff_t>(comma) + 1;
+    if (std::find_if_not(afterComma, lower.end(), Core::isDigit) - afterComma != 3) lower[comma] = u'.';
+    return lower;
+}
+
 class Adviser {
 public:
     Adviser(CatalogueEntry const& entry, std::u16string_view text, Notation notation, Judgement const& judgement)
@@ -123,6 +137,7 @@ public:
         } else if (text.size() <= longestGuess && !judgement.isNegative && judgement.newer.empty()) {
             guess();
         }
+        if (advice.replacement.empty()) writeColor();
         setChange();
         return std::move(advice);
     }
@@ -146,8 +161,28 @@ private:
         if (trimmed.empty()) return;
         std::vector<std::u16string> guesses = variantsOf(trimmed);
         addNearest(guesses, trimmed);
-        for (std::u16string const& candidate : guesses)
-            if (candidate != part && take(candidate)) return;
+        // Blanks around the text stay where they do no harm.
+        std::u16string_view const whole = std::exchange(part, trimmed);
+        if (takeFirst(guesses) || whole.size() == trimmed.size()) return;
+        part = whole;
+        takeFirst(guesses);
+    }
+
+    bool takeFirst(std::vector<std::u16string> const& guesses) {
+        for (std::u16string const& candidate : guesses) {
+            if (candidate == part || !take(candidate)) continue;
+            advice.isExact = advice.isExact && spelling(part) == spelling(candidate);
+            return true;
+        }
+        return false;
+    }
+
+    void writeColor() {
+        std::optional<NewerColor> const color = readNewerColor(trimXmlSpace(part));
+        if (!color) return;
+        std::u16string digits = u"#";
+        for (int shift = 20; shift >= 0; shift -= 4) digits += u"0123456789abcdef"[color->rgb >> shift & 0xF];
+        if (take(digits)) advice.isExact = advice.isExact && color->isOpaque;
     }
 
     void addNearest(std::vector<std::u16string>& guesses, std::u16string_view trimmed) const {
@@ -167,19 +202,29 @@ private:
 
     // The text with this in the place of the part.
     std::u16string with(std::u16string_view candidate) const {
-        auto const begin = static_cast<std::size_t>(part.data() - text.data());
+        std::size_t const begin = beginOf(part, text);
         return std::u16string(text.substr(0, begin)).append(candidate).append(text.substr(begin + part.size()));
     }
 
-    bool isRead(std::u16string const& whole) const {
-        Verdict const verdict = judge(entry, whole, notation).verdict;
-        return verdict == Verdict::Read || (!entry.type() && verdict == Verdict::PassedOver);
+    // Where the part begins in the judged text.
+    static std::size_t beginOf(std::u16string_view part, std::u16string_view text) {
+        return part.data() ? static_cast<std::size_t>(part.data() - text.data()) : 0;
     }
 
+    // Tries the text with this in the place of the part: it is to be read as written, or to have no fault before a later
+    // part, of which advice is taken too, if there is any. False when another candidate may be better.
     bool take(std::u16string_view candidate) {
         std::u16string whole = with(candidate);
-        if (!isRead(whole)) return false;
-        advice.replacement = std::move(whole);
+        Judgement const next = judge(entry, whole, notation);
+        if (next.verdict == Verdict::Read || (!entry.type() && next.verdict == Verdict::PassedOver)) {
+            advice.replacement = std::move(whole);
+            advice.isExact = true;
+            return true;
+        }
+        if (!isFault(next.verdict) || beginOf(next.part, whole) <= beginOf(part, text)) return false;
+        Advice rest = Adviser(entry, whole, notation, next).advise();
+        advice.replacement = std::move(rest.replacement);
+        advice.isExact = rest.isExact;
         return true;
     }
 
