@@ -22,6 +22,7 @@ set(internal_headers
   catalogue/grammar/UnitWords.h
   catalogue/legality/Expression.h
   catalogue/legality/ExpressionFunctions.h
+  catalogue/legality/NewerColor.h
   catalogue/legality/Shorthand.h
   catalogue/legality/TypeReading.h
   catalogue/legality/ValueOfRow.h

@@ -250,13 +250,143 @@ TEST(Command, SaysWhatIsWrongWithACall) {
     }
 }
 
+// A drawing with one value to fix and, on demand, one to leave.
+std::string drawing(std::string const& width, std::string const& end = "/>\n") {
+    return "<svg xmlns='http://www.w3.org/2000/svg'\n  width='" + width + "'" + end;
+}
+
+TEST(Command, FixesFilesInPlace) {
+    namespace fs = std::filesystem;
+    std::filesystem::remove_all(scratch);
+    std::string const mixed = drawing("1PX", " height='q'/>\n");
+    struct Row {
+        std::string options, content, fixed, summary;
+        int code;
+    };
+    for (Row const& row :
+         {Row{"", drawing("1PX"), drawing("1px"), "1 file, rewritten 1; values fixed 1 (1 lenient), findings left 0\n",
+              0},
+          Row{"", mixed, drawing("1px", " height='q'/>\n"),
+              "1 file, rewritten 1; values fixed 1 (1 lenient), findings left 1 (1 bad-value)\n", 1},
+          Row{"", drawing("1px"), drawing("1px"), "1 file, rewritten 0; values fixed 0, findings left 0\n", 0},
+          Row{"", drawing("1 inch"), drawing("1 inch"),
+              "1 file, rewritten 0; values fixed 0, findings left 1 (1 bad-value); --suggestions would fix 1\n", 1},
+          Row{"--suggestions ", drawing("1 inch"), drawing("1in"),
+              "1 file, rewritten 1; values fixed 1 (1 bad-value), findings left 0\n", 0},
+          Row{"-n ", drawing("1PX"), drawing("1PX"),
+              "1 file, to be rewritten 1; values fixed 1 (1 lenient), findings left 0\n", 0},
+          Row{"-q ", drawing("1PX"), drawing("1px"), "", 0},
+          Row{"-q ", drawing("1PX", ">"), drawing("1PX", ">"),
+              "drawing.svg:2:15: error: the file ends inside of an element [malformed]\n", 2}}) {
+        std::string const file = write("drawing.svg", row.content);
+        fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write);
+        Result const result = run("fix " + row.options + file);
+        EXPECT_EQ(contentOf(file), row.fixed) << row.content;
+        EXPECT_TRUE(result.errors.ends_with(row.summary)) << result.errors;
+        EXPECT_EQ(result.code, row.code) << row.content;
+        EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    }
+    std::string const left = run("fix -q " + write("drawing.svg", mixed)).output;
+    EXPECT_NE(left.find("drawing.svg:2:15: error: height=\"q\" on svg is not legal; "), std::string::npos) << left;
+    EXPECT_EQ(run("fix").code, 2);
+    EXPECT_EQ(run("fix " + scratch + "/nowhere.svg").code, 2);
+    EXPECT_EQ(run("fix /dev/null").code, 2);
+}
+
+TEST(Command, FixesWhatLinksLeadToAndWritesElsewhere) {
+    namespace fs = std::filesystem;
+    fs::remove_all(scratch);
+    fs::create_directories(scratch + "/tree/below");
+    write("tree/below/a.svg", drawing("1PX"));
+    write("tree/b.svg", drawing("2px"));
+    fs::create_symlink("tree/below/a.svg", scratch + "/link.svg");
+    fs::create_symlink("/dev/full", scratch + "/tree/full");
+
+    EXPECT_EQ(run("fix -o " + scratch + "/out " + scratch + "/tree").code, 0);
+    EXPECT_EQ(contentOf(scratch + "/out/below/a.svg"), drawing("1px"));
+    EXPECT_EQ(contentOf(scratch + "/out/b.svg"), drawing("2px")) << "what has nothing to fix is written too";
+    EXPECT_EQ(contentOf(scratch + "/tree/below/a.svg"), drawing("1PX"));
+    Result const twice = run("fix -o " + scratch + "/out " + scratch + "/tree/b.svg " + scratch + "/out/b.svg");
+    EXPECT_NE(twice.errors.find("another file has the name "), std::string::npos) << twice.errors;
+    EXPECT_EQ(twice.code, 2);
+    Result const under = run("fix -o " + scratch + "/tree/b.svg " + scratch + "/link.svg");
+    EXPECT_NE(under.errors.find("link.svg: error: cannot be written: "), std::string::npos) << under.errors;
+    EXPECT_EQ(under.code, 2);
+
+    EXPECT_EQ(run("fix " + scratch + "/link.svg").code, 0);
+    EXPECT_TRUE(fs::is_symlink(scratch + "/link.svg"));
+    EXPECT_EQ(contentOf(scratch + "/tree/below/a.svg"), drawing("1px"));
+}
+
+TEST(Command, FixesStandardInput) {
+    std::string const file = write("in.svg", drawing("1PX", " height='q'/>"));
+    for (std::string const& input : {"<" + file, "<" + file + " -q"}) {
+        Result const result = run("fix - " + input);
+        EXPECT_EQ(result.output, drawing("1px", " height='q'/>"));
+        EXPECT_EQ(result.errors.find("<stdin>:2:15: error: height="), 0u) << result.errors;
+        EXPECT_EQ(result.code, 1);
+    }
+    EXPECT_EQ(run("--version >/dev/null; cat " + file + " | " XMLATTR_COMMAND " fix -q - 2>/dev/null").output,
+              drawing("1px", " height='q'/>"))
+        << "a pipe is read twice";
+    Result const broken = run("fix -q - <" + write("in.svg", drawing("1PX", ">")));
+    EXPECT_EQ(broken.output, drawing("1px", ">")) << "nothing of it is lost";
+    EXPECT_EQ(broken.code, 2);
+}
+
+TEST(Command, ShowsWhatItWouldFixAsPatchTakesIt) {
+    if (std::system("patch --version >/dev/null 2>&1") != 0) GTEST_SKIP() << "there is no patch";
+    std::string const start = "<svg xmlns='http://www.w3.org/2000/svg'>\n";
+    std::string const plain = "<g/>\n", faulty = "<path d='M0 0l.5.5\n.5.5'/>\n<g/>\n";
+    auto const times = [](int count, std::string const& text) {
+        std::string all;
+        while (count-- > 0) all += text;
+        return all;
+    };
+    auto const inUtf16 = [](std::string const& text) {
+        std::string bytes = "\xFF\xFE";
+        for (char const c : text) bytes += {c, '\0'};
+        return bytes;
+    };
+    auto const inCrLf = [](std::string text) {
+        for (std::size_t at = 0; (at = text.find('\n', at)) != text.npos; at += 2) text.insert(at, 1, '\r');
+        return text;
+    };
+    std::string const some = start + times(2, faulty) + times(3, plain) + faulty + times(6, plain) + faulty +
+                             times(7, plain) + faulty + times(4, plain) + "</svg>";
+    std::size_t number = 0;
+    for (std::string const& content :
+         {some, some + "\n", start + faulty + "</svg>\n", start + times(9, plain) + faulty + "</svg>", inCrLf(some),
+          inUtf16(some), inUtf16(inCrLf(some)), "<svg xmlns='http://www.w3.org/2000/svg' width='1PX'/>"s,
+          start + "<text x='1PX'/></svg>\n"}) {
+        std::filesystem::remove_all(scratch);
+        std::string const name = std::array{"plain.svg", "with blank.svg", "\"odd\\\tone\".svg"}[number++ % 3];
+        write(name, content);
+        std::string const folder = "cd " + scratch + " && ";
+        std::string const quoted = "'" + name + "'";
+        auto const inFolder = [&](std::string const& command) { return std::system((folder + command).c_str()); };
+        inFolder(XMLATTR_COMMAND " fix -q -o out "s + quoted);
+        EXPECT_EQ(contentOf(scratch + "/" + name), content);
+        EXPECT_EQ(inFolder(XMLATTR_COMMAND " fix -q -n "s + quoted + " >diff"), 0);
+        EXPECT_EQ(inFolder("patch -s -p0 <diff"), 0) << contentOf(scratch + "/diff");
+        EXPECT_EQ(contentOf(scratch + "/" + name), contentOf(scratch + "/out/" + name)) << contentOf(scratch + "/diff");
+        EXPECT_NE(contentOf(scratch + "/" + name), content);
+    }
+    std::string const file = write("one.svg", drawing("1PX"));
+    EXPECT_EQ(run("fix -q -n --color always " + file).output,
+              "--- " + file + "\n+++ " + file +
+                  "\n\x1b[36m@@ -1,2 +1,2 @@\x1b[0m\n <svg xmlns='http://www.w3.org/2000/svg'\n"
+                  "\x1b[31m-  width='1PX'/>\x1b[0m\n\x1b[32m+  width='1px'/>\x1b[0m\n");
+}
+
 TEST(Command, HelpsInWordsOfItsUsers) {
     struct Row {
         char const *command, *usage;
     };
-    for (Row const& row : {Row{"", "[OPTIONS] [SUBCOMMAND]\n"}, Row{"check ", "check [OPTIONS] [FILE...]\n"},
-                           Row{"show ", "show [OPTIONS] TYPE [TEXT]\n"}, Row{"types ", "types [OPTIONS] [NAME]\n"},
-                           Row{"properties ", "properties [OPTIONS] [NAME]\n"}}) {
+    for (Row const& row :
+         {Row{"", "[OPTIONS] [SUBCOMMAND]\n"}, Row{"check ", "check [OPTIONS] [FILE...]\n"},
+          Row{"fix ", "fix [OPTIONS] [FILE...]\n"}, Row{"show ", "show [OPTIONS] TYPE [TEXT]\n"},
+          Row{"types ", "types [OPTIONS] [NAME]\n"}, Row{"properties ", "properties [OPTIONS] [NAME]\n"}}) {
         Result const result = run(row.command + "--help"s);
         EXPECT_NE(result.output.find("Usage: xmlattr "s + row.usage), std::string::npos) << result.output;
         for (char const* const internal : {"->", ":{", " :", "REQUIRED", "FILE TEXT"})

@@ -1,4 +1,4 @@
-#include "cli/Hints.h"
+#include "text/Hints.h"
 #include "text/Text.h"
 
 #include <gtest/gtest.h>

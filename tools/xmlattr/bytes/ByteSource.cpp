@@ -12,6 +12,25 @@ std::size_t FileSource::read(std::span<char> buffer) {
     return count;
 }
 
+namespace {
+
+bool seekTo(std::FILE* file, std::uint64_t position) {
+#ifdef _WIN32
+    return _fseeki64(file, static_cast<__int64>(position), SEEK_SET) == 0;
+#else
+    return fseeko(file, static_cast<off_t>(position), SEEK_SET) == 0;
+#endif
+}
+
+} // namespace
+
+std::size_t SharedFileSource::read(std::span<char> buffer) {
+    std::size_t const count = seekTo(file, position) ? std::fread(buffer.data(), 1, buffer.size(), file) : 0;
+    if (count < buffer.size() && !std::feof(file)) failed = SourceFailure{"unreadable", std::strerror(errno)};
+    position += count;
+    return count;
+}
+
 std::size_t MemorySource::read(std::span<char> buffer) {
     std::size_t const count = std::min(rest.size(), buffer.size());
     std::ranges::copy(rest.substr(0, count), buffer.begin());

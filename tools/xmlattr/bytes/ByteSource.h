@@ -42,6 +42,17 @@ private:
     std::FILE* file;
 };
 
+// One of several readers of a file that can be positioned, each of which is somewhere else in it.
+class SharedFileSource final : public ByteSource {
+public:
+    explicit SharedFileSource(std::FILE* file) : file(file) {}
+    std::size_t read(std::span<char> buffer) override;
+
+private:
+    std::FILE* file;
+    std::uint64_t position = 0;
+};
+
 class MemorySource final : public ByteSource {
 public:
     explicit MemorySource(std::string_view bytes) : rest(bytes) {}

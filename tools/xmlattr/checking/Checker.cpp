@@ -286,6 +286,9 @@ void Checker::find(Occurrence const& occurrence, Finding finding) {
     }
     finding.isDeclaration = occurrence.isDeclaration();
     finding.text = occurrence.value;
+    finding.number = occurrence.number;
+    if (occurrence.isDeclaration())
+        finding.textOffset = static_cast<std::size_t>(occurrence.value.data() - style.data());
     report(finding);
 }
 

@@ -55,6 +55,9 @@ struct Finding {
     std::size_t offset = 0, length = 0;
     std::string inserted;
 
+    // Of a value in a tag: the number of its attribute, and how many bytes of that precede the text.
+    std::size_t number = 0, textOffset = 0;
+
     // In one line, without the place.
     std::string message() const;
 };

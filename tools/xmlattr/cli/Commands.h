@@ -25,6 +25,13 @@ struct CheckOptions {
     std::uint64_t maxFindings = UINT64_MAX;
 };
 
+struct FixOptions {
+    std::vector<std::string> paths;
+    std::string output; // the folder for what is written; empty to write in place
+    ColorMode color = ColorMode::Auto;
+    bool isDryRun = false, takesSuggestions = false, isQuiet = false;
+};
+
 struct ShowOptions {
     std::string type, text;
     std::optional<std::string> other;
@@ -45,6 +52,7 @@ struct PropertiesOptions {
 };
 
 int check(CheckOptions const& options);
+int fix(FixOptions const& options);
 int show(ShowOptions const& options);
 int types(TypesOptions const& options);
 int properties(PropertiesOptions const& options);

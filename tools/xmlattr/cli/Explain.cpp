@@ -12,7 +12,7 @@ struct Explanation {
     std::string_view id, text;
 };
 
-// Of what keeps a file from being read to its end.
+// Of what keeps a file from being read to its end, or written.
 constexpr Explanation explanations[] = {
     {"malformed", "The file is no well-formed XML at the place that the message names. What stands before it\n"
                   "was checked; nothing after it was.\n"},
@@ -24,6 +24,8 @@ constexpr Explanation explanations[] = {
               "that expands to more than 1 GiB or, beyond 16 MiB, to more than 200 times its size.\n"},
     {"unreadable", "The file does not exist or may not be read, or it is compressed and the command was built\n"
                    "without zlib.\n"},
+    {"unwritable", "The file, or the folder that it is in, may not be written, or the disk is full. The file is as it\n"
+                   "was.\n"},
 };
 
 // Of findings, and of what keeps a file from being read.

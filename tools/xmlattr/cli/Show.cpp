@@ -1,6 +1,6 @@
 #include "cli/Commands.h"
-#include "cli/Hints.h"
 #include "cli/NamedType.h"
+#include "text/Hints.h"
 #include "text/Text.h"
 
 #include "xmlattr/core/Log.h"

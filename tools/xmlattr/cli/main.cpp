@@ -91,6 +91,26 @@ int run(int argc, char** argv) {
     addExplain(*checkCommand, explained);
     checkCommand->footer("The exit code is 0 without an error, 1 with one, and 2 when a file could not be read.");
 
+    FixOptions fixing;
+    CLI::App* const fixCommand =
+        app.add_subcommand("fix", "Rewrite documents so that their values are read as they are meant");
+    fixCommand
+        ->add_option("FILE", fixing.paths,
+                     "Documents; directories, for their documents and stylesheets; - for standard input")
+        ->type_name("");
+    fixCommand->add_flag("-n,--dry-run", fixing.isDryRun,
+                         "Write nothing; show what would change as a diff for patch -p0");
+    fixCommand->add_option("-o,--output", fixing.output, "Write all documents into this folder, and not in place")
+        ->type_name("DIR");
+    fixCommand->add_flag("--suggestions", fixing.takesSuggestions,
+                         "Also write what is but likely to be meant: a unit, the nearest word");
+    addColor(*fixCommand, fixing.color);
+    fixCommand->add_flag("-q,--quiet", fixing.isQuiet, "No summary");
+    fixCommand->footer(
+        "Values with one right answer are rewritten where they stand; the new text of standard input goes to standard\n"
+        "output. The exit code is 0 when check would report nothing any more, 1 when a finding is left, and 2 when a\n"
+        "file could not be read or written.");
+
     ShowOptions showing;
     CLI::App* const showCommand = app.add_subcommand("show", "Show what a value type makes of a text");
     showCommand->add_option("TYPE", showing.type, "A value type, as the command types lists them")
@@ -156,6 +176,10 @@ int run(int argc, char** argv) {
     if (*checkCommand) {
         if (checking.paths.empty() && checking.filesFrom.empty()) return usage("no file to check");
         return check(checking);
+    }
+    if (*fixCommand) {
+        if (fixing.paths.empty()) return usage("no file to fix");
+        return fix(fixing);
     }
     if (*showCommand) {
         std::vector<std::string> extras = showCommand->remaining();

@@ -12,11 +12,6 @@ std::string location(std::string const& file, Place place) {
     return file + ":" + std::to_string(place.line) + ":" + std::to_string(place.column) + ":";
 }
 
-std::string failureLine(std::string const& file, XmlFailure const& failure) {
-    std::string const where = failure.place ? location(file, *failure.place) : file + ":";
-    return where + " error: " + failure.message + " [" + std::string(failure.id) + "]\n";
-}
-
 // "1 file", "2 files".
 std::string count(std::uint64_t number, std::string_view noun) {
     return std::to_string(number).append(" ").append(noun).append(number == 1 ? "" : "s");
@@ -27,10 +22,7 @@ public:
     explicit TextReporter(bool isColored) : isColored(isColored) {}
 
     void finding(std::string const& file, Finding const& finding) override {
-        FaultKind const& kind = kindOf(finding.fault);
-        print(colored(location(file, finding.place), "1", isColored) + " " +
-              colored(kind.isError ? "error:" : "warning:", kind.isError ? "1;31" : "1;35", isColored) + " " +
-              finding.message() + " [" + std::string(kind.id) + "]\n");
+        print(findingLine(file, finding, isColored));
     }
 
     void failure(std::string const& file, XmlFailure const& failure) override {
@@ -136,6 +128,18 @@ private:
 };
 
 } // namespace
+
+std::string findingLine(std::string const& file, Finding const& finding, bool isColored) {
+    FaultKind const& kind = kindOf(finding.fault);
+    return colored(location(file, finding.place), "1", isColored) + " " +
+           colored(kind.isError ? "error:" : "warning:", kind.isError ? "1;31" : "1;35", isColored) + " " +
+           finding.message() + " [" + std::string(kind.id) + "]\n";
+}
+
+std::string failureLine(std::string const& file, XmlFailure const& failure) {
+    std::string const where = failure.place ? location(file, *failure.place) : file + ":";
+    return where + " error: " + failure.message + " [" + std::string(failure.id) + "]\n";
+}
 
 std::unique_ptr<Reporter> makeTextReporter(bool isColored) {
     return std::make_unique<TextReporter>(isColored);

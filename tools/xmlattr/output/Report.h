@@ -20,6 +20,10 @@ public:
     virtual void summary(Counts const& counts, std::uint64_t shown) = 0;
 };
 
+// For a person, in a line: a finding, and why a file was not read to its end.
+std::string findingLine(std::string const& file, Finding const& finding, bool isColored);
+std::string failureLine(std::string const& file, XmlFailure const& failure);
+
 // GCC style: "file:line:column: warning: ... [id]".
 std::unique_ptr<Reporter> makeTextReporter(bool isColored);
 // An object a line.

@@ -1,5 +1,7 @@
 #include "xml/Encoding.h"
 
+#include "text/Text.h"
+
 #include <array>
 
 namespace Command {
@@ -46,6 +48,53 @@ std::u32string decode(std::string_view bytes, ByteEncoding encoding) {
         break;
     }
     return text;
+}
+
+std::string encode(std::u32string_view text, ByteEncoding encoding) {
+    constexpr unsigned char leads[] = {0, 0, 0xC0, 0xE0, 0xF0}; // of UTF-8
+    std::string bytes;
+    auto const addUnit = [&](char32_t unit) {
+        bool const isBig = encoding == ByteEncoding::Utf16Big;
+        bytes += static_cast<char>(isBig ? unit >> 8 : unit);
+        bytes += static_cast<char>(isBig ? unit : unit >> 8);
+    };
+    for (char32_t const c : text) {
+        std::size_t const length = utf8Length(c);
+        switch (encoding) {
+        case ByteEncoding::Latin1:
+        case ByteEncoding::Windows1252: bytes += static_cast<char>(c); break;
+        case ByteEncoding::Utf8:
+            bytes += static_cast<char>(leads[length] | c >> 6 * (length - 1));
+            for (std::size_t i = length - 1; i-- > 0;) bytes += static_cast<char>(0x80 | (c >> 6 * i & 0x3F));
+            break;
+        case ByteEncoding::Utf16Big:
+        case ByteEncoding::Utf16Little:
+            if (c < 0x10000) {
+                addUnit(c);
+            } else {
+                addUnit(0xD800 + ((c - 0x10000) >> 10));
+                addUnit(0xDC00 + (c & 0x3FF));
+            }
+            break;
+        }
+    }
+    return bytes;
+}
+
+std::size_t encodedLength(std::u32string_view text, ByteEncoding encoding) {
+    std::size_t length = 0;
+    switch (encoding) {
+    case ByteEncoding::Latin1:
+    case ByteEncoding::Windows1252: return text.size();
+    case ByteEncoding::Utf8:
+        for (char32_t const c : text) length += utf8Length(c);
+        break;
+    case ByteEncoding::Utf16Big:
+    case ByteEncoding::Utf16Little:
+        for (char32_t const c : text) length += c < 0x10000 ? 2 : 4;
+        break;
+    }
+    return length;
 }
 
 } // namespace Command

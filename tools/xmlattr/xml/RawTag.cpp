@@ -1,6 +1,7 @@
 #include "xml/RawTag.h"
 
 #include "text/Text.h"
+#include "xml/Encoding.h"
 #include "xmlattr/catalogue/text/Words.h"
 
 namespace Command {
@@ -8,14 +9,7 @@ namespace Command {
 namespace {
 
 std::string toUtf8(std::u32string_view text) {
-    std::string out;
-    for (char32_t const c : text) {
-        std::size_t const length = utf8Length(c);
-        constexpr unsigned char leads[] = {0, 0, 0xC0, 0xE0, 0xF0};
-        out += static_cast<char>(leads[length] | c >> 6 * (length - 1));
-        for (std::size_t i = length - 1; i-- > 0;) out += static_cast<char>(0x80 | (c >> 6 * i & 0x3F));
-    }
-    return out;
+    return encode(text, ByteEncoding::Utf8);
 }
 
 // The code point of "#10", "#xA" and the five names that XML has; 0 for other entities.
@@ -93,32 +87,53 @@ Place RawTag::attribute(std::size_t attribute) const {
     return attribute < attributes.size() ? attributes[attribute].name.place : start;
 }
 
-std::size_t RawTag::advanceInValue(Cursor& cursor) const {
+char32_t RawTag::takeOfValue(Cursor& cursor) const {
     char32_t const c = text[cursor.index];
     if (c == U'\r' && cursor.index + 1 < text.size() && text[cursor.index + 1] == U'\n') advance(cursor);
     if (c != U'&') {
         advance(cursor);
-        return utf8Length(c);
+        return Xml::isXmlSpace(c) ? U' ' : c;
     }
     std::size_t const first = cursor.index + 1;
     skip(cursor, [](char32_t unit) { return unit != U';'; });
     char32_t const named = codePointOf(std::u32string_view(text).substr(first, cursor.index - first));
     if (!atEnd(cursor)) advance(cursor);
-    return named == 0 ? 0 : utf8Length(named);
+    return named;
+}
+
+RawTag::Cursor const* RawTag::seek(std::size_t attribute, std::size_t offset) {
+    if (last.attribute != attribute || last.offset > offset) last = {attribute, 0, attributes[attribute].value};
+    while (last.offset < offset && !atEnd(last.cursor)) {
+        char32_t const c = takeOfValue(last.cursor);
+        if (c == 0) {
+            last = {};
+            return nullptr;
+        }
+        last.offset += utf8Length(c);
+    }
+    return &last.cursor;
 }
 
 Place RawTag::inValue(std::size_t attribute, std::size_t offset) {
     if (attribute >= attributes.size()) return start;
-    if (last.attribute != attribute || last.offset > offset) last = {attribute, 0, attributes[attribute].value};
-    while (last.offset < offset && !atEnd(last.cursor)) {
-        std::size_t const length = advanceInValue(last.cursor);
-        if (length == 0) {
-            last = {};
-            return attributes[attribute].name.place;
-        }
-        last.offset += length;
-    }
-    return last.cursor.place;
+    Cursor const* const cursor = seek(attribute, offset);
+    return cursor ? cursor->place : attributes[attribute].name.place;
+}
+
+std::size_t RawTag::indexInValue(std::size_t attribute, std::size_t offset) {
+    return seek(attribute, offset)->index;
+}
+
+char32_t RawTag::quoteOf(std::size_t attribute) const {
+    return text[attributes[attribute].end];
+}
+
+bool RawTag::says(std::size_t attribute, std::string_view value) const {
+    if (attribute >= attributes.size()) return false;
+    Cursor cursor = attributes[attribute].value;
+    for (char32_t const c : decode(value, ByteEncoding::Utf8))
+        if (cursor.index >= attributes[attribute].end || takeOfValue(cursor) != c) return false;
+    return cursor.index == attributes[attribute].end;
 }
 
 bool RawTag::refersOnlyTo(std::size_t attribute, std::set<std::string> const& entities) const {

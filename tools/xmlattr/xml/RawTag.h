@@ -34,6 +34,16 @@ public:
     // growing offsets takes time linear in the value. After an entity of the document's own, of
     // which only the value is known, it is the place of the attribute.
     Place inValue(std::size_t attribute, std::size_t offset);
+    // Whether the value stands in the tag as the document means it: in characters of the tag and references to single
+    // characters, with no other changes than those of white space to blanks.
+    bool says(std::size_t attribute, std::string_view value) const;
+    // Of a value that the tag says: how many code points of the tag precede what `offset` bytes of the value precede.
+    std::size_t indexInValue(std::size_t attribute, std::size_t offset);
+    // The marks around it.
+    char32_t quoteOf(std::size_t attribute) const;
+    std::u32string_view slice(std::size_t begin, std::size_t end) const {
+        return std::u32string_view(text).substr(begin, end - begin);
+    }
     // Whether the tag has the attribute's text, with references to none but these entities and what
     // XML itself defines.
     bool refersOnlyTo(std::size_t attribute, std::set<std::string> const& entities) const;
@@ -49,13 +59,12 @@ private:
     };
 
     bool atEnd(Cursor const& cursor) const { return cursor.index >= text.size(); }
-    std::u32string_view slice(std::size_t begin, std::size_t end) const {
-        return std::u32string_view(text).substr(begin, end - begin);
-    }
     void advance(Cursor& cursor) const;
     template <class Belongs> void skip(Cursor& cursor, Belongs belongs) const;
-    // Moves over one unit of a value and tells how many bytes it gives; 0 for an entity.
-    std::size_t advanceInValue(Cursor& cursor) const;
+    // Moves over one character of a value and tells it; 0 for an entity.
+    char32_t takeOfValue(Cursor& cursor) const;
+    // Null where an entity comes before.
+    Cursor const* seek(std::size_t attribute, std::size_t offset);
 
     std::u32string text;
     Place start;

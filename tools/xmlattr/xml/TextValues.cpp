@@ -39,9 +39,10 @@ void TextValues::startElement(XmlElement const& element) {
     open.push_back({role, found.size()});
 }
 
-void TextValues::text(std::string_view piece, Place place) {
+void TextValues::text(std::string_view piece, Place place, std::optional<std::uint64_t> bytes) {
     size += piece.size();
     if (size > maxText) return;
+    if (node.empty() || !bytes) nodeBytes = bytes;
     std::size_t const blanks = piece.size() - Xml::trimXmlSpaceStart(piece).size();
     if (!nodePlace && blanks < piece.size()) nodePlace = Place{place.line, place.column + blanks};
     node += piece;
@@ -53,6 +54,7 @@ void TextValues::endNode() {
     Open& holder = isMarked ? open[open.size() - 2] : open.back();
     if (holder.role == Role::Sequence && (nodePlace || (isMarked && !node.empty()))) {
         bool const isAlone = holder.content == Content::Nothing || holder.content == Content::Text;
+        holder.bytes = holder.text.empty() ? nodeBytes : std::nullopt;
         holder.content = isAlone ? Content::Text : Content::More;
         holder.text += node;
         if (!holder.place) holder.place = nodePlace;
@@ -67,7 +69,7 @@ bool TextValues::endElement(Place place) {
     open.pop_back();
     bool const isEmpty = open.empty() && ended.content == Content::Nothing; // the element itself, and not a branch
     if (ended.content == Content::Text || isEmpty)
-        found.push_back({std::move(ended.text), ended.place.value_or(place)});
+        found.push_back({std::move(ended.text), ended.place.value_or(place), ended.bytes});
     else if (ended.content == Content::More)
         found.resize(ended.before);
     if (open.empty() && (size > maxText || holdsResults)) found.clear();

@@ -20,11 +20,13 @@ public:
     struct Value {
         std::string text;
         Place place; // of the first character that is no white space; of the end when there is none
+        std::optional<std::uint64_t> bytes{}; // where it begins when it stands there in one piece
     };
 
     void startElement(XmlElement const& element);
-    // A piece of text; a line end comes alone.
-    void text(std::string_view piece, Place place);
+    // A piece of text; a line end comes alone. `bytes` says where it stands when it follows the tag or the piece before it
+    // at once, character by character.
+    void text(std::string_view piece, Place place, std::optional<std::uint64_t> bytes = {});
     // False when it is the end of the element itself, after which its values are known.
     bool endElement(Place place);
 
@@ -48,6 +50,7 @@ private:
         Content content = Content::Nothing;
         std::string text{};
         std::optional<Place> place{};
+        std::optional<std::uint64_t> bytes{};
     };
 
     static Role roleIn(Role parent, XmlElement const& element);
@@ -56,6 +59,7 @@ private:
     std::vector<Open> open{{Role::Sequence, 0}};
     std::string node; // the text since the last tag
     std::optional<Place> nodePlace;
+    std::optional<std::uint64_t> nodeBytes;
     std::size_t size = 0;      // of all text
     bool holdsResults = false; // elements that are no instructions
     std::vector<Value> found;

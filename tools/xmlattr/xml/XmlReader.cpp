@@ -113,7 +113,7 @@ private:
 
     static void XMLCALL onText(void* self, XML_Char const* text, int length) {
         Reader& reader = *static_cast<Reader*>(self);
-        reader.guarded([&] { reader.content->text({text, static_cast<std::size_t>(length)}, reader.here()); });
+        reader.guarded([&] { reader.takeText({text, static_cast<std::size_t>(length)}); });
     }
 
     static void XMLCALL onNamespace(void* self, XML_Char const* prefix, XML_Char const* space) {
@@ -203,10 +203,12 @@ private:
             else if (handler.wantsText(element))
                 startContent();
         });
+        contentEnd = byteOffset() + byteCount();
     }
 
     void end() {
         if (content && !failure && !thrown) guarded([&] { endInContent(); });
+        contentEnd = byteOffset() + byteCount();
         --depth;
     }
 
@@ -226,11 +228,23 @@ private:
         XML_SetCharacterDataHandler(parser.get(), onText);
     }
 
+    // A text that is written in another way stands in other bytes, or elsewhere.
+    void takeText(std::string_view text) {
+        std::uint64_t const length = encodedLength(decode(text, ByteEncoding::Utf8), encoding);
+        bool const isPlain = byteOffset() == contentEnd && byteCount() == length;
+        content->text(text, here(), isPlain ? std::optional(contentEnd) : std::nullopt);
+        if (isPlain) contentEnd += length;
+    }
+
     void endInContent() {
         if (content->endElement(here())) return;
         TextValues const ended = *std::exchange(content, std::nullopt);
         XML_SetCharacterDataHandler(parser.get(), nullptr);
-        for (TextValues::Value const& value : ended.values()) handler.text({value.text, value.place, hasAllContent});
+        for (TextValues::Value const& value : ended.values()) {
+            std::optional<BytePlace> bytes;
+            if (value.bytes) bytes = BytePlace{*value.bytes, encoding};
+            handler.text({value.text, value.place, hasAllContent, bytes});
+        }
     }
 
     void missContent() {
@@ -261,6 +275,12 @@ private:
         if (last.attribute != attribute) last = {attribute, raw().refersOnlyTo(attribute, knownEntities)};
         return last.isWhole;
     }
+
+    BytePlace bytes() override { return {byteOffset(), encoding}; }
+
+    // Of the event at hand.
+    std::uint64_t byteOffset() const { return static_cast<std::uint64_t>(XML_GetCurrentByteIndex(parser.get())); }
+    std::uint64_t byteCount() const { return static_cast<std::uint64_t>(XML_GetCurrentByteCount(parser.get())); }
 
     // What the parser has of the file from the event at hand on.
     std::string_view bytesFromHere() const {
@@ -333,6 +353,7 @@ private:
     std::set<std::string> knownEntities;
     Namespaces namespaces;
     std::optional<TextValues> content; // of the element whose text is wanted
+    std::uint64_t contentEnd = 0;      // of the tag or the text before
     bool hasAllContent = true;         // false when an entity left something out of it
     struct {
         std::size_t attribute = SIZE_MAX;

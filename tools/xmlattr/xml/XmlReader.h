@@ -3,6 +3,7 @@
 #pragma once
 
 #include "bytes/ByteSource.h"
+#include "xml/Encoding.h"
 #include "xml/Namespaces.h"
 #include "xml/RawTag.h"
 
@@ -31,6 +32,8 @@ struct XmlText {
     std::string_view text; // UTF-8
     Place place;           // of the first character that is no white space; of the end when there is none
     bool isWhole;          // false when an entity that is not read left something out
+    // Where the text begins, when it stands in the document character by character and in one piece.
+    std::optional<BytePlace> bytes;
 };
 
 class XmlHandler {
@@ -43,6 +46,8 @@ public:
         // Whether the text of the attribute is all that the document says: nothing is left in the
         // place of an entity whose declaration, in a part of the DTD that is not read, is unknown.
         virtual bool isWhole(std::size_t attribute) = 0;
+        // Where the tag begins.
+        virtual BytePlace bytes() = 0;
 
     protected:
         ~Tag() = default;
