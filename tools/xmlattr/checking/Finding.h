@@ -2,6 +2,7 @@
 #pragma once
 
 #include "xml/RawTag.h"
+#include "xmlattr/catalogue/legality/Judge.h"
 
 #include <cstdint>
 #include <span>
@@ -41,6 +42,7 @@ struct Finding {
     std::string attribute;      // as the catalogue writes it; of a declaration the property; empty for an element
     bool isDeclaration = false; // in a style attribute
     std::string text;           // of the attribute
+    Excerpt source;             // the value as the document writes it; of a name that is wrong the name
 
     // Of a value, in UTF-8. Empty where they do not apply.
     std::string part;        // of the text: what is wrong, or held otherwise
@@ -54,6 +56,10 @@ struct Finding {
     // The range of code units of the text that the replacement changes, and what it has there.
     std::size_t offset = 0, length = 0;
     std::string inserted;
+
+    // The row of the catalogue that the value was judged by, and how it is written; null where none was.
+    Xml::CatalogueEntry const* entry = nullptr;
+    Xml::Notation notation = Xml::Notation::Attribute;
 
     // In one line, without the place.
     std::string message() const;

@@ -107,18 +107,61 @@ std::size_t RawTag::advanceInValue(Cursor& cursor) const {
     return named == 0 ? 0 : utf8Length(named);
 }
 
-Place RawTag::inValue(std::size_t attribute, std::size_t offset) {
-    if (attribute >= attributes.size()) return start;
+bool RawTag::moveInValue(std::size_t attribute, std::size_t offset) {
     if (last.attribute != attribute || last.offset > offset) last = {attribute, 0, attributes[attribute].value};
     while (last.offset < offset && !atEnd(last.cursor)) {
         std::size_t const length = advanceInValue(last.cursor);
         if (length == 0) {
             last = {};
-            return attributes[attribute].name.place;
+            return false;
         }
         last.offset += length;
     }
-    return last.cursor.place;
+    return true;
+}
+
+Place RawTag::inValue(std::size_t attribute, std::size_t offset) {
+    if (attribute >= attributes.size()) return start;
+    return moveInValue(attribute, offset) ? last.cursor.place : attributes[attribute].name.place;
+}
+
+// From one cursor to the index, which is reached from the other.
+Excerpt RawTag::excerpt(Cursor const& begin, Cursor end, std::size_t index) const {
+    while (end.index < index) advance(end);
+    constexpr std::size_t most = 120;
+    auto const isLineEnd = [](char32_t c) { return c == U'\n' || c == U'\r'; };
+    std::size_t first = begin.index, after = end.index;
+    while (first > 0 && begin.index - first < most && !isLineEnd(text[first - 1])) --first;
+    while (after < text.size() && after - end.index < most && !isLineEnd(text[after])) ++after;
+    return {toUtf8(slice(first, begin.index)), toUtf8(slice(begin.index, end.index)), toUtf8(slice(end.index, after)),
+            begin.place, end.place};
+}
+
+Excerpt RawTag::excerptOfElement() const {
+    if (text.empty()) return {};
+    Cursor begin{0, start};
+    advance(begin);
+    Cursor end = begin;
+    skip(end, [](char32_t c) { return !Xml::isXmlSpace(c) && c != U'/' && c != U'>'; });
+    return excerpt(begin, end, end.index);
+}
+
+Excerpt RawTag::excerptOfName(std::size_t attribute) const {
+    if (attribute >= attributes.size()) return {};
+    Attribute const& at = attributes[attribute];
+    return excerpt(at.name, at.name, at.nameEnd);
+}
+
+Excerpt RawTag::excerptOfValue(std::size_t attribute) const {
+    if (attribute >= attributes.size()) return {};
+    Attribute const& at = attributes[attribute];
+    return excerpt(at.value, at.value, at.end);
+}
+
+Excerpt RawTag::excerptInValue(std::size_t attribute, std::size_t offset, std::size_t length) {
+    if (attribute >= attributes.size() || !moveInValue(attribute, offset)) return {};
+    Cursor const begin = last.cursor;
+    return moveInValue(attribute, offset + length) ? excerpt(begin, last.cursor, last.cursor.index) : Excerpt();
 }
 
 bool RawTag::refersOnlyTo(std::size_t attribute, std::set<std::string> const& entities) const {

@@ -1,0 +1,296 @@
+#include "output/Report.h"
+#include "output/html/Drawing.h"
+#include "output/html/Markup.h"
+#include "xmlattr/core/Version.h"
+
+#include <algorithm>
+#include <array>
+#include <unordered_map>
+#include <vector>
+
+namespace Command {
+
+namespace {
+
+// A source beside this file, and the hash by which the page allows it and nothing else.
+struct Embedded {
+    std::string_view text, hash;
+};
+
+constexpr Embedded style =
+#include "report.css.inc"
+    ;
+constexpr Embedded script =
+#include "report.js.inc"
+    ;
+
+// What a page can hold and a person read; the rest is counted.
+constexpr std::size_t mostEntries = 10'000, mostPlaces = 12, mostFiles = 5'000, mostLinks = 50'000;
+constexpr std::size_t longestText = 240; // code points
+
+std::string_view severityOf(Fault fault) {
+    return kindOf(fault).isError ? "error" : "warning";
+}
+
+std::string placeText(Place place) {
+    return std::to_string(place.line) + ":" + std::to_string(place.column);
+}
+
+std::string bar(std::uint64_t part, std::uint64_t whole, std::string_view color) {
+    double const width = whole > 0 ? 100.0 * static_cast<double>(part) / static_cast<double>(whole) : 0;
+    // What is there at all is seen.
+    return "<svg class=\"bar " + std::string(color) +
+           "\" viewBox=\"0 0 100 8\" preserveAspectRatio=\"none\" aria-hidden=\"true\"><rect width=\"" +
+           number(part > 0 ? std::max(width, 0.6) : 0) + "\" height=\"8\"/></svg>";
+}
+
+// Equal findings are one entry: the same text on the same attribute of the same element.
+struct Entry {
+    Fault fault{};
+    std::string markup; // all but the places
+    struct Where {
+        std::size_t file;
+        Place place;
+    };
+    std::vector<Where> places; // the first ones
+    std::uint64_t count = 0;
+};
+
+struct File {
+    std::string name;
+    std::uint64_t errors = 0, warnings = 0;
+    struct Link {
+        std::size_t entry;
+        Place place;
+    };
+    std::vector<Link> links{};
+};
+
+// Where the part that is wrong stands in what the document has.
+std::string sourceLine(Finding const& finding) {
+    Excerpt const& source = finding.source;
+    if (source.begin == source.end) return {};
+    std::size_t const at = finding.part.empty() ? std::string::npos : source.part.find(finding.part);
+    std::string const part = at == std::string::npos ? cutAround(source.part, 0, 0, longestText)
+                                                     : cutAround(source.part, at, finding.part.size(), longestText);
+    return "<pre>" + escaped(source.before) + "<mark>" + escaped(part) + "</mark>" + escaped(source.after) + "</pre>";
+}
+
+std::string entryMarkup(Finding const& finding) {
+    std::string out = "<h4>" + escaped(finding.message()) + "</h4>" + sourceLine(finding);
+    std::vector<Reading> const readings = readingsOf(finding);
+    if (readings.empty()) return out;
+    out += "<div class=\"readings\">";
+    for (Reading const& reading : readings) {
+        out.append("<figure><figcaption>").append(reading.caption).append("</figcaption><div class=\"picture\">");
+        if (!reading.text.empty()) out += "<code>" + escaped(cutAround(reading.text, 0, 0, longestText)) + "</code>";
+        out += reading.picture + "</div></figure>";
+    }
+    return out + "</div>";
+}
+
+class HtmlReporter final : public Reporter {
+public:
+    HtmlReporter(ReportFile& out, ReportSettings const& settings) : out(out), settings(settings) {}
+
+    void finding(std::string const& file, Finding const& finding) override {
+        if (files.empty() || files.back().name != file) files.push_back({file});
+        ++(kindOf(finding.fault).isError ? files.back().errors : files.back().warnings);
+        ++countByFault[static_cast<std::size_t>(finding.fault)];
+        std::string key(kindOf(finding.fault).id);
+        for (std::string const& text : {finding.element, finding.attribute, finding.text}) key += '\0' + text;
+        auto found = entryOf.find(key);
+        if (found == entryOf.end()) {
+            if (entries.size() == mostEntries) {
+                ++untold;
+                return;
+            }
+            found = entryOf.emplace(std::move(key), entries.size()).first;
+            entries.push_back({finding.fault, entryMarkup(finding), {}});
+        }
+        Entry& entry = entries[found->second];
+        ++entry.count;
+        if (entry.places.size() < mostPlaces) entry.places.push_back({files.size() - 1, finding.place});
+        if (links == mostLinks) return;
+        ++links;
+        files.back().links.push_back({found->second, finding.place});
+    }
+
+    void failure(std::string const& file, XmlFailure const& failure) override {
+        failures += "<tr><th scope=\"row\">" + escaped(file) + "</th><td class=\"place\">" +
+                    (failure.place ? placeText(*failure.place) : "") + "</td><td>" + escaped(failure.message) +
+                    "</td></tr>\n";
+    }
+
+    void finish(Counts const& counts, std::uint64_t shown) override {
+        writeHead();
+        writeSummary(counts, shown);
+        writeTools(shown);
+        writeKinds();
+        writeFiles();
+        out.write("</main>\n<footer><p>xmlattr " + escaped(Core::version()) + "</p></footer>\n<script>");
+        out.write(script.text);
+        out.write("</script>\n</body>\n</html>\n");
+        if (!settings.isQuiet) printError(summaryLine(counts, shown));
+    }
+
+private:
+    void writeHead() {
+        out.write("<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
+                  "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; base-uri 'none'; "
+                  "form-action 'none'; style-src '" +
+                  std::string(style.hash) + "'; script-src '" + std::string(script.hash) +
+                  "'\">\n<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
+                  "<title>Attributes that are not read as they are written</title>\n<style>");
+        out.write(style.text);
+        out.write("</style>\n</head>\n<body>\n<a class=\"skip\" href=\"#kinds\">To the findings</a>\n");
+    }
+
+    void writeSummary(Counts const& counts, std::uint64_t shown) {
+        std::string text = "<header>\n<h1>Attributes that are not read as they are written</h1>\n<p><span class=\"error\">" +
+                           counted(counts.errors, "error") + "</span> and <span class=\"warning\">" +
+                           counted(counts.warnings, "warning") + "</span> in " + counted(counts.files, "file") +
+                           " with " + counted(counts.attributes, "attribute");
+        if (counts.declarations > 0) text += " and " + counted(counts.declarations, "style declaration");
+        text += ".</p>\n";
+        if (shown < counts.findings()) text += "<p>The first " + grouped(shown) + " findings are shown.</p>\n";
+        if (untold > 0)
+            text += "<p>" + counted(untold, "finding") + " came after the first " + grouped(mostEntries) +
+                    " different ones and are counted only.</p>\n";
+        text += "</header>\n<main>\n<div class=\"summary\">\n";
+        out.write(text + classTable(counts) + kindTable() + "</div>\n");
+        if (!failures.empty())
+            out.write("<h2>Not read to the end</h2>\n<table><thead><tr><th scope=\"col\">File</th><th scope=\"col\">"
+                      "Place</th><th scope=\"col\">Reason</th></tr></thead><tbody>\n" +
+                      failures + "</tbody></table>\n");
+    }
+
+    static std::string classTable(Counts const& counts) {
+        struct Row {
+            std::string_view name;
+            std::uint64_t count;
+            std::string_view color;
+        };
+        std::array<Row, 7> const rows{{{"read as written", counts.read, "fine"},
+                                       {"passed over", counts.passedOver, "quiet"},
+                                       {"free text", counts.freeText, "quiet"},
+                                       {"misread", counts.misread, "warning"},
+                                       {"lenient", counts.lenient, "warning"},
+                                       {"refused", counts.refused, "error"},
+                                       {"not covered", counts.notCovered(), "quiet"}}};
+        std::uint64_t all = 0;
+        for (Row const& row : rows) all += row.count;
+        std::string text = tableHead("Texts of attributes", "Class", "Texts");
+        for (Row const& row : rows) text += tableRow(std::string(row.name), row.count, bar(row.count, all, row.color));
+        return text + "</tbody></table>\n";
+    }
+
+    std::string kindTable() const {
+        std::uint64_t const most = *std::ranges::max_element(countByFault);
+        std::string text = tableHead("Findings", "Id", "Findings");
+        for (FaultKind const& kind : faultKinds()) {
+            std::uint64_t const count = countByFault[static_cast<std::size_t>(kind.fault)];
+            if (count == 0) continue;
+            std::string const id(kind.id);
+            text += tableRow("<a href=\"#" + id + "\">" + id + "</a>", count, bar(count, most, severityOf(kind.fault)));
+        }
+        return text + "</tbody></table>\n";
+    }
+
+    static std::string tableHead(std::string const& caption, std::string const& name, std::string const& count) {
+        return "<table><caption>" + caption + "</caption><thead><tr><th scope=\"col\">" + name +
+               "</th><th scope=\"col\" class=\"number\">" + count +
+               "</th><th scope=\"col\" class=\"share\">Share</th></tr></thead><tbody>\n";
+    }
+
+    static std::string tableRow(std::string const& name, std::uint64_t count, std::string const& share) {
+        return "<tr><th scope=\"row\">" + name + "</th><td class=\"number\">" + grouped(count) +
+               "</td><td class=\"share\">" + share + "</td></tr>\n";
+    }
+
+    // Hidden until the script works them.
+    void writeTools(std::uint64_t shown) {
+        out.write("<div class=\"tools\" role=\"search\" hidden>\n<label class=\"grow\">Filter <input type=\"search\" "
+                  "id=\"filter\" placeholder=\"words of a finding, a file or a kind\" aria-keyshortcuts=\"/\"></label>\n"
+                  "<label><input type=\"checkbox\" data-severity=\"error\" checked> Errors</label>\n"
+                  "<label><input type=\"checkbox\" data-severity=\"warning\" checked> Warnings</label>\n"
+                  "<button type=\"button\" id=\"open\">Open all</button>\n"
+                  "<button type=\"button\" id=\"close\">Close all</button>\n"
+                  "<output aria-live=\"polite\" data-all=\"" +
+                  grouped(shown - untold) + "\"></output>\n</div>\n");
+    }
+
+    void writeKinds() {
+        out.write("<section id=\"kinds\">\n<h2>By kind</h2>\n");
+        if (entries.empty()) out.write("<p>Nothing was found.</p>\n");
+        for (FaultKind const& kind : faultKinds()) {
+            std::uint64_t const count = countByFault[static_cast<std::size_t>(kind.fault)];
+            if (count == 0) continue;
+            std::string const id(kind.id);
+            out.write("<details class=\"group\" id=\"" + id + "\" open><summary><h3>" + id + "</h3><span class=\"soft\">" +
+                      counted(count, severityOf(kind.fault)) + "</span></summary>\n<p>" + escaped(kind.explanation) +
+                      "</p>\n");
+            for (std::size_t i = 0; i < entries.size(); ++i)
+                if (entries[i].fault == kind.fault) writeEntry(i);
+            out.write("</details>\n");
+        }
+        out.write("</section>\n");
+    }
+
+    void writeEntry(std::size_t index) {
+        Entry const& entry = entries[index];
+        std::string text = "<article id=\"f" + std::to_string(index) + "\" data-severity=\"" +
+                           std::string(severityOf(entry.fault)) + "\" data-count=\"" + std::to_string(entry.count) +
+                           "\">" + entry.markup + "<ul class=\"places\">";
+        for (Entry::Where const& where : entry.places)
+            text += "<li class=\"place\">" + escaped(files[where.file].name) + ":" + placeText(where.place) + "</li>";
+        if (entry.count > entry.places.size())
+            text += "<li>and " + counted(entry.count - entry.places.size(), "more place") + "</li>";
+        out.write(text + "</ul></article>\n");
+    }
+
+    void writeFiles() {
+        if (files.empty()) return;
+        out.write("<section id=\"files\">\n<h2>By file</h2>\n");
+        if (files.size() > mostFiles)
+            out.write("<p>The first " + grouped(mostFiles) + " of " + counted(files.size(), "file") +
+                      " with findings.</p>\n");
+        for (std::size_t i = 0; i < std::min(files.size(), mostFiles); ++i) {
+            File const& file = files[i];
+            std::string text = "<details class=\"group\"><summary><h3>" + escaped(file.name) + "</h3><span class=\"soft\">";
+            if (file.errors > 0) text += counted(file.errors, "error");
+            if (file.errors > 0 && file.warnings > 0) text += ", ";
+            if (file.warnings > 0) text += counted(file.warnings, "warning");
+            text += "</span></summary>\n<ol>";
+            for (File::Link const& link : file.links)
+                text += "<li><a class=\"place\" href=\"#f" + std::to_string(link.entry) + "\">" +
+                        placeText(link.place) + "</a> " + title(entries[link.entry]) + "</li>\n";
+            out.write(text + "</ol></details>\n");
+        }
+        out.write("</section>\n");
+    }
+
+    // The message of the entry, which its markup begins with.
+    static std::string title(Entry const& entry) {
+        constexpr std::string_view begin = "<h4>";
+        return entry.markup.substr(begin.size(), entry.markup.find("</h4>") - begin.size());
+    }
+
+    ReportFile& out;
+    ReportSettings settings;
+    std::vector<Entry> entries; // in the order in which they came
+    std::unordered_map<std::string, std::size_t> entryOf;
+    std::vector<File> files; // with findings
+    std::string failures;    // rows of their table
+    std::vector<std::uint64_t> countByFault = std::vector<std::uint64_t>(faultKinds().size());
+    std::uint64_t untold = 0; // came after the last entry that was kept
+    std::size_t links = 0;
+};
+
+} // namespace
+
+std::unique_ptr<Reporter> makeHtmlReporter(ReportFile& out, ReportSettings const& settings) {
+    return std::make_unique<HtmlReporter>(out, settings);
+}
+
+} // namespace Command
