@@ -288,10 +288,16 @@ void Checker::find(Occurrence const& occurrence, Finding finding) {
             occurrence.offset ? tag.inValue(occurrence.number, *occurrence.offset) : tag.attribute(occurrence.number);
         finding.element = nameInDocument(occurrence.element, *occurrence.tag);
         bool const isName = finding.fault == Fault::UnknownAttribute || finding.fault == Fault::MisplacedAttribute;
-        finding.source = occurrence.offset
-                             ? tag.excerptInValue(occurrence.number, *occurrence.offset, occurrence.value.size())
-                         : isName ? tag.excerptOfName(occurrence.number)
-                                  : tag.excerptOfValue(occurrence.number);
+        if (occurrence.offset) {
+            // The value of a declaration is a part of the style.
+            bool const isValue = occurrence.isDeclaration() && !isName;
+            finding.source = tag.excerptInValue(
+                occurrence.number,
+                isValue ? static_cast<std::size_t>(occurrence.value.data() - style.data()) : *occurrence.offset,
+                isName ? occurrence.name.size() : occurrence.value.size());
+        } else {
+            finding.source = isName ? tag.excerptOfName(occurrence.number) : tag.excerptOfValue(occurrence.number);
+        }
     }
     finding.isDeclaration = occurrence.isDeclaration();
     finding.text = occurrence.value;

@@ -49,24 +49,24 @@ public:
     void finish(Counts const& counts, std::uint64_t shown) override {
         if (settings.isQuiet) return;
         printError(toLine({{"files", counts.files},
-                          {"failedFiles", counts.failedFiles},
-                          {"attributes", counts.attributes},
-                          {"declarations", counts.declarations},
-                          {"read", counts.read},
-                          {"passedOver", counts.passedOver},
-                          {"freeText", counts.freeText},
-                          {"misread", counts.misread},
-                          {"lenient", counts.lenient},
-                          {"refused", counts.refused},
-                          {"notCovered",
-                           {{"foreign", counts.foreign},
-                            {"templates", counts.templates},
-                            {"tooLong", counts.tooLong},
-                            {"unread", counts.unread},
-                            {"unknown", counts.unknown}}},
-                          {"errors", counts.errors},
-                          {"warnings", counts.warnings},
-                          {"shown", shown}}));
+                           {"failedFiles", counts.failedFiles},
+                           {"attributes", counts.attributes},
+                           {"declarations", counts.declarations},
+                           {"read", counts.read},
+                           {"passedOver", counts.passedOver},
+                           {"freeText", counts.freeText},
+                           {"misread", counts.misread},
+                           {"lenient", counts.lenient},
+                           {"refused", counts.refused},
+                           {"notCovered",
+                            {{"foreign", counts.foreign},
+                             {"templates", counts.templates},
+                             {"tooLong", counts.tooLong},
+                             {"unread", counts.unread},
+                             {"unknown", counts.unknown}}},
+                           {"errors", counts.errors},
+                           {"warnings", counts.warnings},
+                           {"shown", shown}}));
     }
 
 private:

@@ -45,7 +45,8 @@ void ReportFile::complete() {
     if (path.empty()) return flushOutput();
     bool isWritten = std::fflush(file.get()) == 0;
 #ifndef _WIN32
-    isWritten = isWritten && (unfinished.empty() || fsync(fileno(file.get())) == 0); // or the name might outlive the contents
+    isWritten =
+        isWritten && (unfinished.empty() || fsync(fileno(file.get())) == 0); // or the name might outlive the contents
 #endif
     if (!isWritten) fail(path, std::strerror(errno));
     file.reset();

@@ -19,7 +19,8 @@ std::string uriOf(std::string const& file) {
     std::string uri = path.is_absolute() ? slashed.starts_with('/') ? "file://" : "file:///" : "";
     // A colon in the first segment would end a scheme.
     if (uri.empty() && slashed.substr(0, slashed.find('/')).find(':') != std::string::npos) uri = "./";
-    constexpr std::string_view plain = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~/:@!$&'()*+,;=";
+    constexpr std::string_view plain =
+        "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~/:@!$&'()*+,;=";
     for (char const c : slashed) {
         if (plain.find(c) != std::string_view::npos) {
             uri += c;
@@ -71,8 +72,9 @@ public:
                              {"version", Core::version()},
                              {"semanticVersion", Core::version()},
                              {"rules", rules()}};
-        out.write(R"({"$schema":"https://docs.oasis-open.org/sarif/sarif/v2.1.0/errata01/os/schemas/sarif-schema-2.1.0.json","version":"2.1.0","runs":[{"tool":)" +
-                  toText({{"driver", driver}}) + R"(,"columnKind":"unicodeCodePoints","results":[)");
+        out.write(
+            R"({"$schema":"https://docs.oasis-open.org/sarif/sarif/v2.1.0/errata01/os/schemas/sarif-schema-2.1.0.json","version":"2.1.0","runs":[{"tool":)" +
+            toText({{"driver", driver}}) + R"(,"columnKind":"unicodeCodePoints","results":[)");
     }
 
     void finding(std::string const& file, Finding const& finding) override {
@@ -117,9 +119,8 @@ private:
             for (char const c : text) hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211u;
             hash = (hash ^ 0xFF) * 1099511628211u; // which no text has
         };
-        for (std::string_view const text :
-             {kindOf(finding.fault).id, std::string_view(finding.element), std::string_view(finding.attribute),
-              std::string_view(finding.text)})
+        for (std::string_view const text : {kindOf(finding.fault).id, std::string_view(finding.element),
+                                            std::string_view(finding.attribute), std::string_view(finding.text)})
             add(text);
         add(std::to_string(alike[hash]++));
         std::array<char, 16> digits;

@@ -40,6 +40,12 @@ struct Box {
         add(Spot{other.left, other.top});
         add(Spot{other.right, other.bottom});
     }
+    // Whatever is so far out that the rest would be tiny is left out of the picture.
+    void addNear(Box const& other) {
+        double const reach = std::max(right - left, bottom - top) * 0.6;
+        add(Box{std::max(other.left, left - reach), std::max(other.top, top - reach),
+                std::min(other.right, right + reach), std::min(other.bottom, bottom + reach)});
+    }
     // What can be drawn: neither empty nor out of all proportion.
     bool isSound() const {
         constexpr double most = 1e7;
@@ -67,12 +73,8 @@ public:
         Spot const to{command.x.pxSize(), command.y.pxSize()};
         switch (static_cast<Xml::PathCommandKind>(command.kind)) {
         case ClosePath: at = start; return;
-        case HorizontalLineTo:
-            write(to.x);
-            return moveTo({origin.x + to.x, at.y});
-        case VerticalLineTo:
-            write(to.y);
-            return moveTo({at.x, origin.y + to.y});
+        case HorizontalLineTo: write(to.x); return moveTo({origin.x + to.x, at.y});
+        case VerticalLineTo: write(to.y); return moveTo({at.x, origin.y + to.y});
         case CurveTo:
             control({command.x1.pxSize(), command.y1.pxSize()});
             control({command.x2.pxSize(), command.y2.pxSize()});
@@ -106,16 +108,21 @@ private:
         shape.box.add(Spot{origin.x + point.x, origin.y + point.y});
     }
 
-    // The circle about the middle of the two ends is as wide as the arc, or wider.
+    // The box of a circle that the arc fits in: of its own circle for the larger arc, else of one about the middle of
+    // the two ends. An ellipse counts as the circle of its greater radius.
     void arc(Xml::PathDataCommand const& command, Spot to) {
         double const rx = std::abs(command.rx.pxSize()), ry = std::abs(command.ry.pxSize());
         for (double const value : {rx, ry, double{command.xAxisRotation}}) write(value);
         write(command.largeArc ? 1 : 0);
         write(command.sweep ? 1 : 0);
         if (rx == 0 || ry == 0) return; // a line
-        double const chord = std::hypot(to.x - at.x, to.y - at.y);
-        double const reach = std::max(chord / 2, std::max(rx, ry) * (command.largeArc ? 2 : 1));
-        Spot const middle{(at.x + to.x) / 2, (at.y + to.y) / 2};
+        Spot middle{(at.x + to.x) / 2, (at.y + to.y) / 2}, half{(at.x - to.x) / 2, (at.y - to.y) / 2};
+        double const reach = std::max({std::hypot(half.x, half.y), rx, ry});
+        double const square = half.x * half.x + half.y * half.y;
+        if (command.largeArc && square > 0) { // the centre by SVG 1.1, section F.6.5
+            double const along = std::sqrt(std::max(0.0, reach * reach - square) / square) * (command.sweep ? -1 : 1);
+            middle = {middle.x + along * half.y, middle.y - along * half.x};
+        }
         shape.box.add(Spot{middle.x - reach, middle.y - reach});
         shape.box.add(Spot{middle.x + reach, middle.y + reach});
     }
@@ -147,8 +154,8 @@ struct Matrix {
 
     Spot of(Spot at) const { return {a * at.x + c * at.y + e, b * at.x + d * at.y + f}; }
     Matrix operator*(Matrix const& m) const {
-        return {a * m.a + c * m.b,     b * m.a + d * m.b,     a * m.c + c * m.d,
-                b * m.c + d * m.d,     a * m.e + c * m.f + e, b * m.e + d * m.f + f};
+        return {a * m.a + c * m.b, b * m.a + d * m.b,     a * m.c + c * m.d,
+                b * m.c + d * m.d, a * m.e + c * m.f + e, b * m.e + d * m.f + f};
     }
 };
 
@@ -193,7 +200,8 @@ Shape shapeOf(Core::Vector<Xml::Transform> const& transforms) {
 std::optional<Shape> shapeOf(Xml::AnyAttribute const& value) {
     auto const as = [&]<class T>(std::type_identity<T>) { return dynamic_cast<Xml::TXmlAttribute<T> const*>(&*value); };
     std::optional<Shape> shape;
-    if (auto const* path = as(std::type_identity<Core::Vector<Xml::PathDataCommand>>())) shape = shapeOf(path->getValue());
+    if (auto const* path = as(std::type_identity<Core::Vector<Xml::PathDataCommand>>()))
+        shape = shapeOf(path->getValue());
     if (auto const* points = as(std::type_identity<Core::Vector<Xml::Point>>())) shape = shapeOf(points->getValue());
     if (auto const* list = as(std::type_identity<Core::Vector<Xml::Transform>>())) shape = shapeOf(list->getValue());
     if (shape && !shape->box.isSound()) shape.reset();
@@ -215,6 +223,10 @@ std::string drawn(Shape const& shape, Box const& box, std::string_view label) {
     return svg + "<path d=\"" + shape.path + "\"/></svg>";
 }
 
+std::string rounded(double value, std::u16string_view unit) {
+    return Core::Format::toMeasure(value, unit).toUtf8();
+}
+
 std::string hexColor(std::uint32_t rgb) {
     constexpr std::string_view digits = "0123456789abcdef";
     std::string text = "#";
@@ -226,12 +238,22 @@ std::string swatch(std::uint32_t rgb) {
     return "<svg class=\"swatch\" aria-hidden=\"true\"><rect fill=\"" + hexColor(rgb) + "\"/></svg>";
 }
 
-// Bars of one scale, the most of which is as long as it gets.
-std::string bar(double value, double most, std::string_view kind) {
-    double const length = most > 0 ? std::clamp(std::abs(value) / most, 0.0, 1.0) * 100 : 0;
+// A bar that is as long as the length, at the size of the page; one that goes on ends in a fade.
+std::string ruler(double pixels) {
+    constexpr double most = 320;
+    double const length = std::abs(pixels);
+    return "<svg class=\"ruler" +
+           std::string(length > most ? " long"
+                       : pixels < 0  ? " negative"
+                                     : "") +
+           "\" width=\"" + number(std::clamp(length, 1.0, most)) + "\" aria-hidden=\"true\"><rect/></svg>";
+}
+
+// A bar of what the whole track is one of.
+std::string share(double fraction, std::string_view kind) {
     return "<svg class=\"bar " + std::string(kind) +
            "\" viewBox=\"0 0 100 8\" preserveAspectRatio=\"none\" aria-hidden=\"true\"><rect width=\"" +
-           number(length) + "\" height=\"8\"/></svg>";
+           number(std::clamp(std::abs(fraction), 0.0, 1.0) * 100) + "\" height=\"8\"/></svg>";
 }
 
 // The one that the text begins with.
@@ -245,25 +267,13 @@ std::string drawInks(std::u16string_view components) {
     for (std::string_view const ink : {"cyan", "magenta", "yellow", "black"}) {
         double const value = numberOf(components);
         components.remove_prefix(std::min(components.find(u' '), components.size() - 1) + 1);
-        out.append("<span class=\"ink\">").append(bar(value, 1, ink)).append(ink).append(" ");
-        out.append(number(value * 100)).append("%</span>");
+        out.append("<span class=\"ink\">").append(share(value, ink)).append(ink).append(" ");
+        out.append(rounded(value * 100, u"%")).append("</span>");
     }
     return out;
 }
 
-// The greatest measures of the values that are compared.
-struct Scale {
-    double pixels = 0, fraction = 0;
-
-    void add(Xml::Parts const& parts) {
-        for (Xml::Part const& part : parts.list) {
-            if (part.name == u"pixels") pixels = std::max(pixels, std::abs(numberOf(part.value)));
-            if (part.name == u"fraction") fraction = std::max(fraction, std::abs(numberOf(part.value)));
-        }
-    }
-};
-
-std::string drawParts(Xml::Parts const& parts, Scale const& scale) {
+std::string drawParts(Xml::Parts const& parts) {
     constexpr std::size_t most = 16;
     std::string out;
     if (parts.rgb) out += swatch(*parts.rgb) + "<code>" + hexColor(*parts.rgb) + "</code>";
@@ -271,28 +281,27 @@ std::string drawParts(Xml::Parts const& parts, Scale const& scale) {
     for (Xml::Part const& part : parts.list) {
         if (++count > most) break;
         std::string const value = toUtf8(part.value);
-        if (part.name == u"pixels") out += "<span>" + bar(numberOf(part.value), scale.pixels, "") + value + " px</span>";
-        if (part.name == u"fraction") {
-            double const percent = numberOf(part.value) * 100;
-            out += "<span>" + bar(percent, scale.fraction * 100, "") + number(percent) + "%</span>";
-        }
+        double const size = numberOf(part.value);
+        if (part.name == u"pixels") out += "<span>" + ruler(size) + rounded(size, u" px") + "</span>";
+        if (part.name == u"fraction")
+            out +=
+                "<span>" + share(size, size < 0 || size > 1 ? "warning" : "") + rounded(size * 100, u"%") + "</span>";
         if (part.name == u"cmyk") out += drawInks(part.value);
         if (part.name == u"name") out += "<span>" + escaped(value) + "</span>";
         if (part.name == u"tint")
-            out += "<span class=\"ink\">" + bar(numberOf(part.value), 1, "black") + "tint " +
-                   number(numberOf(part.value) * 100) + "%</span>";
+            out += "<span class=\"ink\">" + share(size, "black") + "tint " + rounded(size * 100, u"%") + "</span>";
         if (part.name == u"profile") out += "<span>profile " + escaped(value) + "</span>";
         if (part.name == u"component") out += "<code>" + value + "</code>";
     }
     return out;
 }
 
-// What the value holds, in words: as it prints, or as far as it can be told.
+// What the value holds: as it prints, or its size.
 std::string inWords(Xml::AnyAttribute const& value) {
     std::string const printed = value.getValueAsString().toUtf8();
     if (!printed.empty() || value.type().readsList()) return printed;
     for (Xml::Part const& part : value.parts().list)
-        if (part.name == u"size" || part.name == u"kind") return toUtf8(part.value);
+        if (part.name == u"size") return toUtf8(part.value);
     return {};
 }
 
@@ -337,13 +346,16 @@ std::vector<Reading> readingsOf(Finding const& finding) {
     if (!isMisread && finding.entry && !finding.replacement.empty())
         candidates.push_back({perhapsCaption, {}, valueOf(finding.replacement)});
 
-    Scale scale;
     Box box;
     std::vector<std::optional<Shape>> shapes;
     for (Candidate const& candidate : candidates) {
         shapes.push_back(candidate.value ? shapeOf(*candidate.value) : std::nullopt);
-        if (shapes.back()) box.add(shapes.back()->box);
-        if (candidate.value) scale.add(candidate.value->parts());
+        if (!shapes.back()) continue;
+        // The first is what was meant, where that is known.
+        if (box.isSound() && isMisread)
+            box.addNear(shapes.back()->box);
+        else
+            box.add(shapes.back()->box);
     }
 
     std::vector<Reading> readings;
@@ -353,14 +365,22 @@ std::vector<Reading> readingsOf(Finding const& finding) {
     }
     for (std::size_t i = 0; i < candidates.size(); ++i) {
         Candidate& candidate = candidates[i];
-        Reading reading{candidate.caption, std::move(candidate.text), {}};
+        Reading reading{candidate.caption, std::move(candidate.text), {}, shapes[i].has_value()};
         if (candidate.value) {
-            if (reading.text.empty()) reading.text = inWords(*candidate.value);
-            reading.picture = shapes[i]              ? drawn(*shapes[i], box, candidate.caption)
+            if (shapes[i])
+                reading.text.clear(); // which is about a part alone
+            else if (reading.text.empty())
+                reading.text = inWords(*candidate.value);
+            reading.picture = shapes[i]           ? drawn(*shapes[i], box, candidate.caption)
                               : type->readsList() ? std::string()
-                                                     : drawParts(candidate.value->parts(), scale);
+                                                  : drawParts(candidate.value->parts());
         }
-        if (!reading.text.empty() || !reading.picture.empty()) readings.push_back(std::move(reading));
+        // What may be written is in the message already; it is drawn where it looks otherwise.
+        bool const isGuess = candidate.caption == perhapsCaption;
+        bool const isNew =
+            isGuess ? !reading.picture.empty() && (readings.empty() || reading.picture != readings[0].picture)
+                    : !reading.text.empty() || !reading.picture.empty();
+        if (isNew) readings.push_back(std::move(reading));
     }
     return readings;
 }

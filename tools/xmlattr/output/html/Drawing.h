@@ -13,6 +13,7 @@ struct Reading {
     std::string_view caption; // who reads it so
     std::string text;         // of the value; may be empty
     std::string picture;      // markup; empty for a value that has none
+    bool isShape = false;     // rather than a swatch or a bar in a line of text
 };
 
 // How the value of a finding is read, and what may be written instead: side by side, in one scale.

@@ -1,6 +1,7 @@
 #include "output/Report.h"
 #include "output/html/Drawing.h"
 #include "output/html/Markup.h"
+#include "text/Text.h"
 #include "xmlattr/core/Version.h"
 
 #include <algorithm>
@@ -47,7 +48,7 @@ std::string bar(std::uint64_t part, std::uint64_t whole, std::string_view color)
 // Equal findings are one entry: the same text on the same attribute of the same element.
 struct Entry {
     Fault fault{};
-    std::string markup; // all but the places
+    std::string title, body; // markup
     struct Where {
         std::size_t file;
         Place place;
@@ -66,27 +67,59 @@ struct File {
     std::vector<Link> links{};
 };
 
-// Where the part that is wrong stands in what the document has.
+// Where the part of the value that is wrong stands in what the document has; npos where that is not certain.
+std::size_t partInSource(Finding const& finding) {
+    std::string const& value = finding.source.part;
+    std::string const& part = finding.part;
+    if (part.empty() || part == value) return std::string::npos;
+    // What is changed is the part, or stands before it.
+    if (!finding.replacement.empty() && value.compare(std::min(finding.offset, value.size()), part.size(), part) == 0)
+        return finding.offset;
+    std::size_t const first = value.find(part);
+    return first == value.rfind(part) ? first : std::string::npos;
+}
+
+// The value in its line, and in it the part that is wrong.
 std::string sourceLine(Finding const& finding) {
     Excerpt const& source = finding.source;
     if (source.begin == source.end) return {};
-    std::size_t const at = finding.part.empty() ? std::string::npos : source.part.find(finding.part);
-    std::string const part = at == std::string::npos ? cutAround(source.part, 0, 0, longestText)
-                                                     : cutAround(source.part, at, finding.part.size(), longestText);
-    return "<pre>" + escaped(source.before) + "<mark>" + escaped(part) + "</mark>" + escaped(source.after) + "</pre>";
+    std::size_t const at = partInSource(finding);
+    std::string marked;
+    if (at == std::string::npos) {
+        marked = escaped(cutAtEnd(source.part, longestText));
+    } else {
+        std::string_view const value = source.part;
+        marked = escaped(cutAtStart(value.substr(0, at), longestText / 2)) + "<strong>" +
+                 escaped(cutAtEnd(finding.part, longestText)) + "</strong>" +
+                 escaped(cutAtEnd(value.substr(at + finding.part.size()), longestText / 2));
+    }
+    constexpr std::size_t context = 80;
+    return "<pre>" + escaped(cutAtStart(source.before, context)) + "<mark>" + marked + "</mark>" +
+           escaped(cutAtEnd(source.after, context)) + "</pre>";
 }
 
-std::string entryMarkup(Finding const& finding) {
-    std::string out = "<h4>" + escaped(finding.message()) + "</h4>" + sourceLine(finding);
+std::string bodyOf(Finding const& finding) {
+    std::string out = sourceLine(finding);
     std::vector<Reading> const readings = readingsOf(finding);
     if (readings.empty()) return out;
     out += "<div class=\"readings\">";
     for (Reading const& reading : readings) {
-        out.append("<figure><figcaption>").append(reading.caption).append("</figcaption><div class=\"picture\">");
-        if (!reading.text.empty()) out += "<code>" + escaped(cutAround(reading.text, 0, 0, longestText)) + "</code>";
+        out.append(reading.isShape ? "<figure class=\"tall\">" : "<figure>")
+            .append("<figcaption>")
+            .append(reading.caption)
+            .append("</figcaption><div class=\"picture\">");
+        if (!reading.text.empty()) out += "<code>" + escaped(inQuotes(cutAtEnd(reading.text, longestText))) + "</code>";
         out += reading.picture + "</div></figure>";
     }
     return out + "</div>";
+}
+
+// What stands between backticks is code.
+std::string withCode(std::string text) {
+    bool isOpen = false;
+    for (std::size_t at = 0; (at = text.find('`', at)) != std::string::npos; isOpen = !isOpen)
+        text.replace(at, 1, isOpen ? "</code>" : "<code>");
+    return text;
 }
 
 class HtmlReporter final : public Reporter {
@@ -106,7 +139,7 @@ public:
                 return;
             }
             found = entryOf.emplace(std::move(key), entries.size()).first;
-            entries.push_back({finding.fault, entryMarkup(finding), {}});
+            entries.push_back({finding.fault, escaped(finding.message()), bodyOf(finding), {}});
         }
         Entry& entry = entries[found->second];
         ++entry.count;
@@ -147,10 +180,11 @@ private:
     }
 
     void writeSummary(Counts const& counts, std::uint64_t shown) {
-        std::string text = "<header>\n<h1>Attributes that are not read as they are written</h1>\n<p><span class=\"error\">" +
-                           counted(counts.errors, "error") + "</span> and <span class=\"warning\">" +
-                           counted(counts.warnings, "warning") + "</span> in " + counted(counts.files, "file") +
-                           " with " + counted(counts.attributes, "attribute");
+        std::string text =
+            "<header>\n<h1>Attributes that are not read as they are written</h1>\n<p><span class=\"error\">" +
+            counted(counts.errors, "error") + "</span> and <span class=\"warning\">" +
+            counted(counts.warnings, "warning") + "</span> in " + counted(counts.files, "file") + " with " +
+            counted(counts.attributes, "attribute");
         if (counts.declarations > 0) text += " and " + counted(counts.declarations, "style declaration");
         text += ".</p>\n";
         if (shown < counts.findings()) text += "<p>The first " + grouped(shown) + " findings are shown.</p>\n";
@@ -210,14 +244,15 @@ private:
 
     // Hidden until the script works them.
     void writeTools(std::uint64_t shown) {
-        out.write("<div class=\"tools\" role=\"search\" hidden>\n<label class=\"grow\">Filter <input type=\"search\" "
-                  "id=\"filter\" placeholder=\"words of a finding, a file or a kind\" aria-keyshortcuts=\"/\"></label>\n"
-                  "<label><input type=\"checkbox\" data-severity=\"error\" checked> Errors</label>\n"
-                  "<label><input type=\"checkbox\" data-severity=\"warning\" checked> Warnings</label>\n"
-                  "<button type=\"button\" id=\"open\">Open all</button>\n"
-                  "<button type=\"button\" id=\"close\">Close all</button>\n"
-                  "<output aria-live=\"polite\" data-all=\"" +
-                  grouped(shown - untold) + "\"></output>\n</div>\n");
+        out.write(
+            "<div class=\"tools\" role=\"search\" hidden>\n<label class=\"grow\">Filter <input type=\"search\" "
+            "id=\"filter\" placeholder=\"words of a finding, a file or a kind\" aria-keyshortcuts=\"/\"></label>\n"
+            "<label><input type=\"checkbox\" data-severity=\"error\" checked> Errors</label>\n"
+            "<label><input type=\"checkbox\" data-severity=\"warning\" checked> Warnings</label>\n"
+            "<button type=\"button\" id=\"open\">Open all</button>\n"
+            "<button type=\"button\" id=\"close\">Close all</button>\n"
+            "<output aria-live=\"polite\" data-all=\"" +
+            grouped(shown - untold) + "\"></output>\n</div>\n");
     }
 
     void writeKinds() {
@@ -227,9 +262,10 @@ private:
             std::uint64_t const count = countByFault[static_cast<std::size_t>(kind.fault)];
             if (count == 0) continue;
             std::string const id(kind.id);
-            out.write("<details class=\"group\" id=\"" + id + "\" open><summary><h3>" + id + "</h3><span class=\"soft\">" +
-                      counted(count, severityOf(kind.fault)) + "</span></summary>\n<p>" + escaped(kind.explanation) +
-                      "</p>\n");
+            std::string const severity(severityOf(kind.fault));
+            out.write("<details class=\"group\" id=\"" + id + "\" open><summary><h3>" + id + "</h3><span class=\"" +
+                      severity + "\">" + counted(count, severity) + "</span></summary>\n<p>" +
+                      withCode(escaped(kind.explanation)) + "</p>\n");
             for (std::size_t i = 0; i < entries.size(); ++i)
                 if (entries[i].fault == kind.fault) writeEntry(i);
             out.write("</details>\n");
@@ -241,12 +277,12 @@ private:
         Entry const& entry = entries[index];
         std::string text = "<article id=\"f" + std::to_string(index) + "\" data-severity=\"" +
                            std::string(severityOf(entry.fault)) + "\" data-count=\"" + std::to_string(entry.count) +
-                           "\">" + entry.markup + "<ul class=\"places\">";
+                           "\"><div class=\"head\"><h4>" + entry.title + "</h4><ul class=\"places\">";
         for (Entry::Where const& where : entry.places)
             text += "<li class=\"place\">" + escaped(files[where.file].name) + ":" + placeText(where.place) + "</li>";
         if (entry.count > entry.places.size())
             text += "<li>and " + counted(entry.count - entry.places.size(), "more place") + "</li>";
-        out.write(text + "</ul></article>\n");
+        out.write(text + "</ul></div>" + entry.body + "</article>\n");
     }
 
     void writeFiles() {
@@ -257,23 +293,18 @@ private:
                       " with findings.</p>\n");
         for (std::size_t i = 0; i < std::min(files.size(), mostFiles); ++i) {
             File const& file = files[i];
-            std::string text = "<details class=\"group\"><summary><h3>" + escaped(file.name) + "</h3><span class=\"soft\">";
+            std::string text =
+                "<details class=\"group\"><summary><h3>" + escaped(file.name) + "</h3><span class=\"soft\">";
             if (file.errors > 0) text += counted(file.errors, "error");
             if (file.errors > 0 && file.warnings > 0) text += ", ";
             if (file.warnings > 0) text += counted(file.warnings, "warning");
             text += "</span></summary>\n<ol>";
             for (File::Link const& link : file.links)
                 text += "<li><a class=\"place\" href=\"#f" + std::to_string(link.entry) + "\">" +
-                        placeText(link.place) + "</a> " + title(entries[link.entry]) + "</li>\n";
+                        placeText(link.place) + "</a> " + entries[link.entry].title + "</li>\n";
             out.write(text + "</ol></details>\n");
         }
         out.write("</section>\n");
-    }
-
-    // The message of the entry, which its markup begins with.
-    static std::string title(Entry const& entry) {
-        constexpr std::string_view begin = "<h4>";
-        return entry.markup.substr(begin.size(), entry.markup.find("</h4>") - begin.size());
     }
 
     ReportFile& out;

@@ -3,7 +3,6 @@
 #include "text/Text.h"
 #include "xmlattr/core/Format.h"
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 
@@ -17,8 +16,7 @@ bool isContinuation(char byte) {
 
 bool isUnseen(char16_t unit) {
     return (unit < 0x20 && unit != u'\n' && unit != u'\t') || (unit >= 0x7F && unit < 0xA0) || unit == 0x200E ||
-           unit == 0x200F || (unit >= 0x2028 && unit <= 0x202E) || (unit >= 0x2066 && unit <= 0x2069) ||
-           unit == 0xFEFF;
+           unit == 0x200F || (unit >= 0x2028 && unit <= 0x202E) || (unit >= 0x2066 && unit <= 0x2069) || unit == 0xFEFF;
 }
 
 } // namespace
@@ -44,17 +42,18 @@ std::string escaped(std::string_view text) {
     return toUtf8(out);
 }
 
-std::string cutAround(std::string_view text, std::size_t offset, std::size_t length, std::size_t most) {
-    auto const size = static_cast<std::size_t>(std::ranges::count_if(text, [](char c) { return !isContinuation(c); }));
-    if (size <= most) return std::string(text);
-    std::size_t first = std::min(offset, text.size());
-    std::size_t const context = length < most ? (most - length) / 2 : 0;
-    for (std::size_t back = 0; first > 0 && back < context; ++back)
-        while (--first > 0 && isContinuation(text[first])) {}
-    std::size_t last = first;
-    for (std::size_t count = 0; last < text.size() && count < most; ++count)
-        while (++last < text.size() && isContinuation(text[last])) {}
-    return (first > 0 ? "…" : "") + std::string(text.substr(first, last - first)) + (last < text.size() ? "…" : "");
+std::string cutAtEnd(std::string_view text, std::size_t most) {
+    std::size_t end = 0;
+    for (std::size_t count = 0; end < text.size(); ++end)
+        if (!isContinuation(text[end]) && count++ == most) break;
+    return std::string(text.substr(0, end)) + (end < text.size() ? "…" : "");
+}
+
+std::string cutAtStart(std::string_view text, std::size_t most) {
+    std::size_t first = text.size();
+    for (std::size_t count = 0; first > 0 && count < most;)
+        if (!isContinuation(text[--first])) ++count;
+    return (first > 0 ? "…" : "") + std::string(text.substr(first));
 }
 
 std::string number(double value) {

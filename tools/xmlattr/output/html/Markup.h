@@ -11,8 +11,9 @@ namespace Command {
 // the direction of text or end a line unseen, are shown by their number.
 std::string escaped(std::string_view text);
 
-// At most so many code points about the range of bytes, with "…" for what is left out; not yet escaped.
-std::string cutAround(std::string_view text, std::size_t offset, std::size_t length, std::size_t most);
+// The first or the last so many code points, with "…" for what is left out; not yet escaped.
+std::string cutAtEnd(std::string_view text, std::size_t most);
+std::string cutAtStart(std::string_view text, std::size_t most);
 
 // The shortest text that reads back in single precision.
 std::string number(double value);
