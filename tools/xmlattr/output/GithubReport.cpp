@@ -29,6 +29,12 @@ public:
         annotate(kind.isError ? "error" : "warning", file, finding.place, kind.id, finding.message());
     }
 
+    void group(FindingGroup const& group) override {
+        FaultKind const& kind = kindOf(group.finding.fault);
+        annotate(kind.isError ? "error" : "warning", group.places.front().file, group.finding.place, kind.id,
+                 group.finding.message() + " (" + std::to_string(group.count) + " places)");
+    }
+
     void failure(std::string const& file, XmlFailure const& failure) override {
         annotate("error", file, failure.place, failure.id, failure.message);
     }

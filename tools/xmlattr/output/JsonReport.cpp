@@ -9,28 +9,14 @@ class JsonReporter final : public Reporter {
 public:
     JsonReporter(ReportFile& out, ReportSettings const& settings) : out(out), settings(settings) {}
 
-    void finding(std::string const& file, Finding const& finding) override {
-        Json line = {{"file", file},
-                     {"line", finding.place.line},
-                     {"column", finding.place.column},
-                     {"severity", kindOf(finding.fault).isError ? "error" : "warning"},
-                     {"id", kindOf(finding.fault).id},
-                     {"element", finding.element},
-                     {"attribute", finding.attribute},
-                     {"text", finding.text},
-                     {"message", finding.message()}};
-        auto const add = [&](char const* name, std::string const& text) {
-            if (!text.empty()) line[name] = text;
-        };
-        add("part", finding.part);
-        add("problem", finding.problem);
-        add("held", finding.held);
-        add("expected", finding.expected);
-        add("newer", finding.newer);
-        if (!finding.replacement.empty()) {
-            line["replacement"] = finding.replacement;
-            line["exact"] = finding.isExact;
-        }
+    void finding(std::string const& file, Finding const& finding) override { out.write(toLine(object(file, finding))); }
+
+    void group(FindingGroup const& group) override {
+        Json line = object(group.places.front().file, group.finding);
+        line["count"] = group.count;
+        line["places"] = Json::array();
+        for (auto const& [file, place] : group.places)
+            line["places"].push_back({{"file", file}, {"line", place.line}, {"column", place.column}});
         out.write(toLine(line));
     }
 
@@ -70,6 +56,31 @@ public:
     }
 
 private:
+    static Json object(std::string const& file, Finding const& finding) {
+        Json line = {{"file", file},
+                     {"line", finding.place.line},
+                     {"column", finding.place.column},
+                     {"severity", kindOf(finding.fault).isError ? "error" : "warning"},
+                     {"id", kindOf(finding.fault).id},
+                     {"element", finding.element},
+                     {"attribute", finding.attribute},
+                     {"text", finding.text},
+                     {"message", finding.message()}};
+        auto const add = [&](char const* name, std::string const& text) {
+            if (!text.empty()) line[name] = text;
+        };
+        add("part", finding.part);
+        add("problem", finding.problem);
+        add("held", finding.held);
+        add("expected", finding.expected);
+        add("newer", finding.newer);
+        if (!finding.replacement.empty()) {
+            line["replacement"] = finding.replacement;
+            line["exact"] = finding.isExact;
+        }
+        return line;
+    }
+
     ReportFile& out;
     ReportSettings settings;
 };

@@ -11,14 +11,28 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace Command {
+
+// A finding that stands in several places.
+struct FindingGroup {
+    struct FilePlace {
+        std::string file;
+        Place place;
+    };
+
+    Finding finding; // as it is in the first place
+    std::uint64_t count = 0;
+    std::vector<FilePlace> places; // the first few
+};
 
 // Hears of the findings of one file after the other.
 class Reporter {
 public:
     virtual ~Reporter() = default;
     virtual void finding(std::string const& file, Finding const& finding) = 0;
+    virtual void group(FindingGroup const& group) = 0;
     // The file was not read to its end.
     virtual void failure(std::string const& file, XmlFailure const& failure) = 0;
     // The end of the report: the first `shown` findings have been told.
@@ -50,7 +64,8 @@ std::unique_ptr<Reporter> makeGithubReporter(ReportFile& out, ReportSettings con
 // A page that stands by itself.
 std::unique_ptr<Reporter> makeHtmlReporter(ReportFile& out, ReportSettings const& settings);
 
-// For a person, on standard error: why a file was not read to its end, and the run in one line.
+// For a person, in a line: a finding, why a file was not read to its end, and the whole run.
+std::string findingLine(std::string const& file, Finding const& finding, bool isColored);
 std::string failureLine(std::string const& file, XmlFailure const& failure);
 std::string summaryLine(Counts const& counts, std::uint64_t shown);
 

@@ -6,6 +6,7 @@
 #include <array>
 #include <charconv>
 #include <filesystem>
+#include <span>
 #include <unordered_map>
 
 namespace Command {
@@ -77,17 +78,14 @@ public:
             toText({{"driver", driver}}) + R"(,"columnKind":"unicodeCodePoints","results":[)");
     }
 
-    void finding(std::string const& file, Finding const& finding) override {
-        FaultKind const& kind = kindOf(finding.fault);
-        Json result = {{"ruleId", kind.id},
-                       {"ruleIndex", &kind - faultKinds().data()},
-                       {"level", kind.isError ? "error" : "warning"},
-                       {"message", {{"text", finding.message()}}},
-                       {"locations", {locationOf(file, regionOf(finding))}},
-                       {"partialFingerprints", {{"findingHash/v1", fingerprint(file, finding)}}}};
-        if (settings.hasBaseline) result["baselineState"] = "new";
-        out.write((isFirst ? "\n" : ",\n") + toText(result));
-        isFirst = false;
+    void finding(std::string const& file, Finding const& finding) override { write(resultOf(file, finding)); }
+
+    void group(FindingGroup const& group) override {
+        Json result = resultOf(group.places.front().file, group.finding);
+        result["occurrenceCount"] = group.count;
+        for (auto const& [file, place] : std::span(group.places).subspan(1))
+            result["locations"].push_back(locationOf(file, {{"startLine", place.line}, {"startColumn", place.column}}));
+        write(result);
     }
 
     void failure(std::string const& file, XmlFailure const& failure) override {
@@ -107,6 +105,23 @@ public:
     }
 
 private:
+    void write(Json const& result) {
+        out.write((isFirst ? "\n" : ",\n") + toText(result));
+        isFirst = false;
+    }
+
+    Json resultOf(std::string const& file, Finding const& finding) {
+        FaultKind const& kind = kindOf(finding.fault);
+        Json result = {{"ruleId", kind.id},
+                       {"ruleIndex", &kind - faultKinds().data()},
+                       {"level", kind.isError ? "error" : "warning"},
+                       {"message", {{"text", finding.message()}}},
+                       {"locations", {locationOf(file, regionOf(finding))}},
+                       {"partialFingerprints", {{"findingHash/v1", fingerprint(file, finding)}}}};
+        if (settings.hasBaseline) result["baselineState"] = "new";
+        return result;
+    }
+
     // The same when lines move, and when the file has other findings more or less: of the text, and of how many like
     // it stand before it.
     std::string fingerprint(std::string const& file, Finding const& finding) {

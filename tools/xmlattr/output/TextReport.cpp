@@ -1,5 +1,9 @@
 #include "output/Report.h"
 
+#include "text/Text.h"
+
+#include <span>
+
 namespace Command {
 
 namespace {
@@ -18,11 +22,21 @@ public:
     TextReporter(ReportFile& out, ReportSettings const& settings) : out(out), settings(settings) {}
 
     void finding(std::string const& file, Finding const& finding) override {
-        FaultKind const& kind = kindOf(finding.fault);
-        bool const isColored = settings.isColored;
-        out.write(colored(location(file, finding.place), "1", isColored) + " " +
-                  colored(kind.isError ? "error:" : "warning:", kind.isError ? "1;31" : "1;35", isColored) + " " +
-                  finding.message() + " [" + std::string(kind.id) + "]\n");
+        out.write(findingLine(file, finding, settings.isColored));
+    }
+
+    void group(FindingGroup const& group) override {
+        std::string line = findingLine(group.places.front().file, group.finding, settings.isColored);
+        if (group.count > 1) {
+            std::vector<std::string> others;
+            for (auto const& [file, place] : std::span(group.places).subspan(1)) {
+                others.push_back(location(file, place));
+                others.back().pop_back(); // the colon
+            }
+            line.pop_back(); // the end of the line
+            line += " (" + std::to_string(group.count) + " places, also " + joinWith(others, "and") + ")\n";
+        }
+        out.write(line);
     }
 
     void failure(std::string const& file, XmlFailure const& failure) override {
@@ -39,6 +53,13 @@ private:
 };
 
 } // namespace
+
+std::string findingLine(std::string const& file, Finding const& finding, bool isColored) {
+    FaultKind const& kind = kindOf(finding.fault);
+    return colored(location(file, finding.place), "1", isColored) + " " +
+           colored(kind.isError ? "error:" : "warning:", kind.isError ? "1;31" : "1;35", isColored) + " " +
+           finding.message() + " [" + std::string(kind.id) + "]\n";
+}
 
 std::string failureLine(std::string const& file, XmlFailure const& failure) {
     std::string const where = failure.place ? location(file, *failure.place) : file + ":";

@@ -107,22 +107,23 @@ std::size_t RawTag::advanceInValue(Cursor& cursor) const {
     return named == 0 ? 0 : utf8Length(named);
 }
 
-bool RawTag::moveInValue(std::size_t attribute, std::size_t offset) {
+RawTag::Cursor const* RawTag::seek(std::size_t attribute, std::size_t offset) {
     if (last.attribute != attribute || last.offset > offset) last = {attribute, 0, attributes[attribute].value};
     while (last.offset < offset && !atEnd(last.cursor)) {
         std::size_t const length = advanceInValue(last.cursor);
         if (length == 0) {
             last = {};
-            return false;
+            return nullptr;
         }
         last.offset += length;
     }
-    return true;
+    return &last.cursor;
 }
 
 Place RawTag::inValue(std::size_t attribute, std::size_t offset) {
     if (attribute >= attributes.size()) return start;
-    return moveInValue(attribute, offset) ? last.cursor.place : attributes[attribute].name.place;
+    Cursor const* const cursor = seek(attribute, offset);
+    return cursor ? cursor->place : attributes[attribute].name.place;
 }
 
 // From one cursor to the index, which is reached from the other.
@@ -159,9 +160,9 @@ Excerpt RawTag::excerptOfValue(std::size_t attribute) const {
 }
 
 Excerpt RawTag::excerptInValue(std::size_t attribute, std::size_t offset, std::size_t length) {
-    if (attribute >= attributes.size() || !moveInValue(attribute, offset)) return {};
+    if (attribute >= attributes.size() || !seek(attribute, offset)) return {};
     Cursor const begin = last.cursor;
-    return moveInValue(attribute, offset + length) ? excerpt(begin, last.cursor, last.cursor.index) : Excerpt();
+    return seek(attribute, offset + length) ? excerpt(begin, begin, last.cursor.index) : Excerpt();
 }
 
 bool RawTag::refersOnlyTo(std::size_t attribute, std::set<std::string> const& entities) const {

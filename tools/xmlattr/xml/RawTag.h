@@ -69,8 +69,8 @@ private:
     template <class Belongs> void skip(Cursor& cursor, Belongs belongs) const;
     // Moves over one unit of a value and tells how many bytes it gives; 0 for an entity.
     std::size_t advanceInValue(Cursor& cursor) const;
-    // Moves `last` to the offset in the value; false after an entity of the document's own.
-    bool moveInValue(std::size_t attribute, std::size_t offset);
+    // Moves `last` there; null after an entity of the document's own.
+    Cursor const* seek(std::size_t attribute, std::size_t offset);
     Excerpt excerpt(Cursor const& begin, Cursor end, std::size_t index) const;
 
     std::u32string text;

@@ -127,26 +127,24 @@ public:
     HtmlReporter(ReportFile& out, ReportSettings const& settings) : out(out), settings(settings) {}
 
     void finding(std::string const& file, Finding const& finding) override {
-        if (files.empty() || files.back().name != file) files.push_back({file});
-        ++(kindOf(finding.fault).isError ? files.back().errors : files.back().warnings);
-        ++countByFault[static_cast<std::size_t>(finding.fault)];
-        std::string key(kindOf(finding.fault).id);
-        for (std::string const& text : {finding.element, finding.attribute, finding.text}) key += '\0' + text;
-        auto found = entryOf.find(key);
-        if (found == entryOf.end()) {
-            if (entries.size() == mostEntries) {
-                ++untold;
-                return;
-            }
-            found = entryOf.emplace(std::move(key), entries.size()).first;
-            entries.push_back({finding.fault, escaped(finding.message()), bodyOf(finding), {}});
-        }
-        Entry& entry = entries[found->second];
-        ++entry.count;
-        if (entry.places.size() < mostPlaces) entry.places.push_back({files.size() - 1, finding.place});
+        Entry* const entry = entryFor(finding, 1);
+        File& in = fileFor(file);
+        ++(kindOf(finding.fault).isError ? in.errors : in.warnings);
+        if (!entry) return;
+        if (entry->places.size() < mostPlaces) entry->places.push_back({files.size() - 1, finding.place});
         if (links == mostLinks) return;
         ++links;
-        files.back().links.push_back({found->second, finding.place});
+        in.links.push_back({static_cast<std::size_t>(entry - entries.data()), finding.place});
+    }
+
+    void group(FindingGroup const& group) override {
+        isGrouped = true;
+        if (Entry* const entry = entryFor(group.finding, group.count)) {
+            for (auto const& [file, place] : group.places) {
+                fileFor(file);
+                entry->places.push_back({files.size() - 1, place});
+            }
+        }
     }
 
     void failure(std::string const& file, XmlFailure const& failure) override {
@@ -157,8 +155,8 @@ public:
 
     void finish(Counts const& counts, std::uint64_t shown) override {
         writeHead();
-        writeSummary(counts, shown);
-        writeTools(shown);
+        writeSummary(counts);
+        writeTools();
         writeKinds();
         writeFiles();
         out.write("</main>\n<footer><p>xmlattr " + escaped(Core::version()) + "</p></footer>\n<script>");
@@ -168,6 +166,41 @@ public:
     }
 
 private:
+    static std::string keyOf(Finding const& finding) {
+        constexpr std::size_t longest = 1024; // what is kept of a text; of a longer one its hash as well
+        std::string key(kindOf(finding.fault).id);
+        for (std::string_view const text : {finding.element, finding.attribute, finding.text}) {
+            key.append(1, '\0').append(text.substr(0, longest));
+            if (text.size() > longest) key += std::to_string(std::hash<std::string_view>()(text));
+        }
+        return key;
+    }
+
+    // Null for one that is counted only.
+    Entry* entryFor(Finding const& finding, std::uint64_t count) {
+        countByFault[static_cast<std::size_t>(finding.fault)] += count;
+        std::string const key = keyOf(finding);
+        auto found = entryOf.find(key);
+        if (found == entryOf.end()) {
+            if (entries.size() == mostEntries) {
+                untold += count;
+                return nullptr;
+            }
+            found = entryOf.emplace(key, entries.size()).first;
+            entries.push_back({finding.fault, escaped(finding.message()), bodyOf(finding), {}});
+        }
+        Entry& entry = entries[found->second];
+        entry.count += count;
+        told += count;
+        return &entry;
+    }
+
+    // The last of the files.
+    File& fileFor(std::string const& name) {
+        if (files.empty() || files.back().name != name) files.push_back({name});
+        return files.back();
+    }
+
     void writeHead() {
         out.write("<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
                   "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; base-uri 'none'; "
@@ -179,7 +212,7 @@ private:
         out.write("</style>\n</head>\n<body>\n<a class=\"skip\" href=\"#kinds\">To the findings</a>\n");
     }
 
-    void writeSummary(Counts const& counts, std::uint64_t shown) {
+    void writeSummary(Counts const& counts) {
         std::string text =
             "<header>\n<h1>Attributes that are not read as they are written</h1>\n<p><span class=\"error\">" +
             counted(counts.errors, "error") + "</span> and <span class=\"warning\">" +
@@ -187,7 +220,7 @@ private:
             counted(counts.attributes, "attribute");
         if (counts.declarations > 0) text += " and " + counted(counts.declarations, "style declaration");
         text += ".</p>\n";
-        if (shown < counts.findings()) text += "<p>The first " + grouped(shown) + " findings are shown.</p>\n";
+        if (told + untold < counts.findings()) text += "<p>" + counted(told + untold, "finding") + " are shown.</p>\n";
         if (untold > 0)
             text += "<p>" + counted(untold, "finding") + " came after the first " + grouped(mostEntries) +
                     " different ones and are counted only.</p>\n";
@@ -243,7 +276,7 @@ private:
     }
 
     // Hidden until the script works them.
-    void writeTools(std::uint64_t shown) {
+    void writeTools() {
         out.write(
             "<div class=\"tools\" role=\"search\" hidden>\n<label class=\"grow\">Filter <input type=\"search\" "
             "id=\"filter\" placeholder=\"words of a finding, a file or a kind\" aria-keyshortcuts=\"/\"></label>\n"
@@ -252,7 +285,7 @@ private:
             "<button type=\"button\" id=\"open\">Open all</button>\n"
             "<button type=\"button\" id=\"close\">Close all</button>\n"
             "<output aria-live=\"polite\" data-all=\"" +
-            grouped(shown - untold) + "\"></output>\n</div>\n");
+            grouped(told) + "\"></output>\n</div>\n");
     }
 
     void writeKinds() {
@@ -286,7 +319,7 @@ private:
     }
 
     void writeFiles() {
-        if (files.empty()) return;
+        if (files.empty() || isGrouped) return; // groups name but a few of their files
         out.write("<section id=\"files\">\n<h2>By file</h2>\n");
         if (files.size() > mostFiles)
             out.write("<p>The first " + grouped(mostFiles) + " of " + counted(files.size(), "file") +
@@ -314,7 +347,8 @@ private:
     std::vector<File> files; // with findings
     std::string failures;    // rows of their table
     std::vector<std::uint64_t> countByFault = std::vector<std::uint64_t>(faultKinds().size());
-    std::uint64_t untold = 0; // came after the last entry that was kept
+    std::uint64_t told = 0, untold = 0; // the latter came after the last entry that was kept
+    bool isGrouped = false;
     std::size_t links = 0;
 };
 
