@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <numeric>
 #include <unordered_map>
 #include <vector>
 
@@ -224,7 +225,8 @@ private:
         if (untold > 0)
             text += "<p>" + counted(untold, "finding") + " came after the first " + grouped(mostEntries) +
                     " different ones and are counted only.</p>\n";
-        text += "</header>\n<main>\n<div class=\"summary\">\n";
+        text += "<nav aria-label=\"Sections\"><a href=\"#kinds\">By kind</a> <a href=\"#files\">By file</a></nav>\n"
+                "</header>\n<main>\n<div class=\"summary\">\n";
         out.write(text + classTable(counts) + kindTable() + "</div>\n");
         if (!failures.empty())
             out.write("<h2>Not read to the end</h2>\n<table><thead><tr><th scope=\"col\">File</th><th scope=\"col\">"
@@ -253,13 +255,13 @@ private:
     }
 
     std::string kindTable() const {
-        std::uint64_t const most = *std::ranges::max_element(countByFault);
+        std::uint64_t const all = std::accumulate(countByFault.begin(), countByFault.end(), std::uint64_t{0});
         std::string text = tableHead("Findings", "Id", "Findings");
         for (FaultKind const& kind : faultKinds()) {
             std::uint64_t const count = countByFault[static_cast<std::size_t>(kind.fault)];
             if (count == 0) continue;
             std::string const id(kind.id);
-            text += tableRow("<a href=\"#" + id + "\">" + id + "</a>", count, bar(count, most, severityOf(kind.fault)));
+            text += tableRow("<a href=\"#" + id + "\">" + id + "</a>", count, bar(count, all, severityOf(kind.fault)));
         }
         return text + "</tbody></table>\n";
     }
@@ -308,14 +310,25 @@ private:
 
     void writeEntry(std::size_t index) {
         Entry const& entry = entries[index];
-        std::string text = "<article id=\"f" + std::to_string(index) + "\" data-severity=\"" +
-                           std::string(severityOf(entry.fault)) + "\" data-count=\"" + std::to_string(entry.count) +
-                           "\"><div class=\"head\"><h4>" + entry.title + "</h4><ul class=\"places\">";
-        for (Entry::Where const& where : entry.places)
-            text += "<li class=\"place\">" + escaped(files[where.file].name) + ":" + placeText(where.place) + "</li>";
+        out.write("<article id=\"f" + std::to_string(index) + "\" data-severity=\"" +
+                  std::string(severityOf(entry.fault)) + "\" data-count=\"" + std::to_string(entry.count) +
+                  "\"><div class=\"head\"><h4>" + entry.title + "</h4>" + whereIs(entry) + "</div>" + entry.body +
+                  "</article>\n");
+    }
+
+    // The first place; the others come out of it.
+    std::string whereIs(Entry const& entry) const {
+        auto const textOf = [&](Entry::Where const& where) {
+            return escaped(files[where.file].name) + ":" + placeText(where.place);
+        };
+        std::string const first = textOf(entry.places.front());
+        if (entry.count == 1) return "<p class=\"place\">" + first + "</p>";
+        std::string text =
+            "<details class=\"place\"><summary>" + first + " and " + grouped(entry.count - 1) + " more</summary><ul>";
+        for (std::size_t i = 1; i < entry.places.size(); ++i) text += "<li>" + textOf(entry.places[i]) + "</li>";
         if (entry.count > entry.places.size())
-            text += "<li>and " + counted(entry.count - entry.places.size(), "more place") + "</li>";
-        out.write(text + "</ul></div>" + entry.body + "</article>\n");
+            text += "<li>and " + grouped(entry.count - entry.places.size()) + " more</li>";
+        return text + "</ul></details>";
     }
 
     void writeFiles() {
