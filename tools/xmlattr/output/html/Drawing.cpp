@@ -299,7 +299,7 @@ std::string drawParts(Xml::Parts const& parts) {
 // What the value holds: as it prints, or its size.
 std::string inWords(Xml::AnyAttribute const& value) {
     std::string const printed = value.getValueAsString().toUtf8();
-    if (!printed.empty() || value.type().readsList()) return printed;
+    if (!printed.empty()) return printed;
     for (Xml::Part const& part : value.parts().list)
         if (part.name == u"size") return toUtf8(part.value);
     return {};
@@ -365,16 +365,14 @@ std::vector<Reading> readingsOf(Finding const& finding) {
     }
     for (std::size_t i = 0; i < candidates.size(); ++i) {
         Candidate& candidate = candidates[i];
-        Reading reading{candidate.caption, std::move(candidate.text), {}, shapes[i].has_value()};
-        if (candidate.value) {
-            if (shapes[i])
-                reading.text.clear(); // which is about a part alone
-            else if (reading.text.empty())
-                reading.text = inWords(*candidate.value);
-            reading.picture = shapes[i]           ? drawn(*shapes[i], box, candidate.caption)
-                              : type->readsList() ? std::string()
-                                                  : drawParts(candidate.value->parts());
+        Reading reading{candidate.caption, {}, {}, shapes[i].has_value()};
+        if (shapes[i]) {
+            reading.picture = drawn(*shapes[i], box, candidate.caption);
+        } else if (candidate.value && !type->readsList()) {
+            reading.text = inWords(*candidate.value);
+            reading.picture = drawParts(candidate.value->parts());
         }
+        if (reading.text.empty() && reading.picture.empty()) reading.text = std::move(candidate.text);
         // What may be written is in the message already; it is drawn where it looks otherwise.
         bool const isGuess = candidate.caption == perhapsCaption;
         bool const isNew =
