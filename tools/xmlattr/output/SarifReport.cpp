@@ -3,9 +3,9 @@
 #include "output/Report.h"
 #include "xmlattr/core/Version.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
-#include <filesystem>
 #include <span>
 #include <unordered_map>
 
@@ -15,14 +15,21 @@ namespace {
 
 // The path of a file as a reference by RFC 3986: relative where the path is.
 std::string uriOf(std::string const& file) {
-    std::filesystem::path const path(file);
-    std::string const slashed = path.generic_string();
-    std::string uri = path.is_absolute() ? slashed.starts_with('/') ? "file://" : "file:///" : "";
-    // A colon in the first segment would end a scheme.
-    if (uri.empty() && slashed.substr(0, slashed.find('/')).find(':') != std::string::npos) uri = "./";
+    std::string path = file;
+#ifdef _WIN32
+    std::ranges::replace(path, '\\', '/');
+    bool const hasDrive = path.size() > 1 && path[1] == ':';
+#else
+    bool const hasDrive = false;
+#endif
+    std::string uri;
+    if (path.starts_with('/') || hasDrive)
+        uri = hasDrive ? "file:///" : "file://";
+    else if (path.substr(0, path.find('/')).find(':') != std::string::npos)
+        uri = "./"; // or the colon would end a scheme
     constexpr std::string_view plain =
         "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~/:@!$&'()*+,;=";
-    for (char const c : slashed) {
+    for (char const c : path) {
         if (plain.find(c) != std::string_view::npos) {
             uri += c;
             continue;
@@ -37,9 +44,11 @@ std::string uriOf(std::string const& file) {
 Json rules() {
     Json all = Json::array();
     for (FaultKind const& kind : faultKinds()) {
-        std::string_view const text = kind.explanation;
+        std::string text(kind.explanation);
+        text.pop_back(); // the last end of a line
+        std::ranges::replace(text, '\n', ' ');
         all.push_back({{"id", kind.id},
-                       {"shortDescription", {{"text", text.substr(0, text.find('.') + 1)}}},
+                       {"shortDescription", {{"text", text.substr(0, std::min(text.find(". "), text.size() - 1) + 1)}}},
                        {"fullDescription", {{"text", text}}},
                        {"help", {{"text", text}}},
                        {"defaultConfiguration", {{"level", kind.isError ? "error" : "warning"}}}});

@@ -217,10 +217,10 @@ std::string frame(Box const& box) {
 }
 
 std::string drawn(Shape const& shape, Box const& box, std::string_view label) {
-    std::string svg = "<svg class=\"shape\" role=\"img\" viewBox=\"" + frame(box) + "\"><title>";
+    std::string svg = "<svg class='shape' role='img' viewBox='" + frame(box) + "'><title>";
     svg.append(label).append("</title>");
-    if (!shape.reference.empty()) svg += "<path class=\"was\" d=\"" + shape.reference + "\"/>";
-    return svg + "<path d=\"" + shape.path + "\"/></svg>";
+    if (!shape.reference.empty()) svg += "<path class='was' d='" + shape.reference + "'/>";
+    return svg + "<path d='" + shape.path + "'/></svg>";
 }
 
 std::string rounded(double value, std::u16string_view unit) {
@@ -235,25 +235,25 @@ std::string hexColor(std::uint32_t rgb) {
 }
 
 std::string swatch(std::uint32_t rgb) {
-    return "<svg class=\"swatch\" aria-hidden=\"true\"><rect fill=\"" + hexColor(rgb) + "\"/></svg>";
+    return "<svg class='swatch' aria-hidden='true'><rect fill='" + hexColor(rgb) + "'/></svg>";
 }
 
 // A bar that is as long as the length, at the size of the page; one that goes on ends in a fade.
 std::string ruler(double pixels) {
     constexpr double most = 320;
     double const length = std::abs(pixels);
-    return "<svg class=\"ruler" +
+    return "<svg class='ruler" +
            std::string(length > most ? " long"
                        : pixels < 0  ? " negative"
                                      : "") +
-           "\" width=\"" + number(std::clamp(length, 1.0, most)) + "\" aria-hidden=\"true\"><rect/></svg>";
+           "' width='" + number(std::clamp(length, 1.0, most)) + "' aria-hidden='true'><rect/></svg>";
 }
 
 // A bar of what the whole track is one of.
 std::string share(double fraction, std::string_view kind) {
-    return "<svg class=\"bar " + std::string(kind) +
-           "\" viewBox=\"0 0 100 8\" preserveAspectRatio=\"none\" aria-hidden=\"true\"><rect width=\"" +
-           number(std::clamp(std::abs(fraction), 0.0, 1.0) * 100) + "\" height=\"8\"/></svg>";
+    return "<svg class='bar " + std::string(kind) +
+           "' viewBox='0 0 100 8' preserveAspectRatio='none' aria-hidden='true'><rect width='" +
+           number(std::clamp(std::abs(fraction), 0.0, 1.0) * 100) + "' height='8'/></svg>";
 }
 
 // The one that the text begins with.
@@ -267,7 +267,7 @@ std::string drawInks(std::u16string_view components) {
     for (std::string_view const ink : {"cyan", "magenta", "yellow", "black"}) {
         double const value = numberOf(components);
         components.remove_prefix(std::min(components.find(u' '), components.size() - 1) + 1);
-        out.append("<span class=\"ink\">").append(share(value, ink)).append(ink).append(" ");
+        out.append("<span class='ink'>").append(share(value, ink)).append(ink).append(" ");
         out.append(rounded(value * 100, u"%")).append("</span>");
     }
     return out;
@@ -289,7 +289,7 @@ std::string drawParts(Xml::Parts const& parts) {
         if (part.name == u"cmyk") out += drawInks(part.value);
         if (part.name == u"name") out += "<span>" + escaped(value) + "</span>";
         if (part.name == u"tint")
-            out += "<span class=\"ink\">" + share(size, "black") + "tint " + rounded(size * 100, u"%") + "</span>";
+            out += "<span class='ink'>" + share(size, "black") + "tint " + rounded(size * 100, u"%") + "</span>";
         if (part.name == u"profile") out += "<span>profile " + escaped(value) + "</span>";
         if (part.name == u"component") out += "<code>" + value + "</code>";
     }
@@ -298,7 +298,7 @@ std::string drawParts(Xml::Parts const& parts) {
 
 // What the value holds: as it prints, or its size.
 std::string inWords(Xml::AnyAttribute const& value) {
-    std::string const printed = value.getValueAsString().toUtf8();
+    std::string printed = value.getValueAsString().toUtf8();
     if (!printed.empty()) return printed;
     for (Xml::Part const& part : value.parts().list)
         if (part.name == u"size") return toUtf8(part.value);
@@ -368,7 +368,7 @@ std::vector<Reading> readingsOf(Finding const& finding) {
         Reading reading{candidate.caption, {}, {}, shapes[i].has_value()};
         if (shapes[i]) {
             reading.picture = drawn(*shapes[i], box, candidate.caption);
-        } else if (candidate.value && !type->readsList()) {
+        } else if (candidate.value && !candidate.value->type().readsList()) {
             reading.text = inWords(*candidate.value);
             reading.picture = drawParts(candidate.value->parts());
         }

@@ -41,9 +41,9 @@ std::string placeText(Place place) {
 std::string bar(std::uint64_t part, std::uint64_t whole, std::string_view color) {
     double const width = whole > 0 ? 100.0 * static_cast<double>(part) / static_cast<double>(whole) : 0;
     // What is there at all is seen.
-    return "<svg class=\"bar " + std::string(color) +
-           "\" viewBox=\"0 0 100 8\" preserveAspectRatio=\"none\" aria-hidden=\"true\"><rect width=\"" +
-           number(part > 0 ? std::max(width, 0.6) : 0) + "\" height=\"8\"/></svg>";
+    return "<svg class='bar " + std::string(color) +
+           "' viewBox='0 0 100 8' preserveAspectRatio='none' aria-hidden='true'><rect width='" +
+           number(part > 0 ? std::max(width, 0.6) : 0) + "' height='8'/></svg>";
 }
 
 // Equal findings are one entry: the same text on the same attribute of the same element.
@@ -103,12 +103,12 @@ std::string bodyOf(Finding const& finding) {
     std::string out = sourceLine(finding);
     std::vector<Reading> const readings = readingsOf(finding);
     if (readings.empty()) return out;
-    out += "<div class=\"readings\">";
+    out += "<div class='readings'>";
     for (Reading const& reading : readings) {
-        out.append(reading.isShape ? "<figure class=\"tall\">" : "<figure>")
+        out.append(reading.isShape ? "<figure class='tall'>" : "<figure>")
             .append("<figcaption>")
             .append(reading.caption)
-            .append("</figcaption><div class=\"picture\">");
+            .append("</figcaption><div class='picture'>");
         if (!reading.text.empty()) out += "<code>" + escaped(inQuotes(cutAtEnd(reading.text, longestText))) + "</code>";
         out += reading.picture + "</div></figure>";
     }
@@ -149,7 +149,7 @@ public:
     }
 
     void failure(std::string const& file, XmlFailure const& failure) override {
-        failures += "<tr><th scope=\"row\">" + escaped(file) + "</th><td class=\"place\">" +
+        failures += "<tr><th scope='row'>" + escaped(file) + "</th><td class='place'>" +
                     (failure.place ? placeText(*failure.place) : "") + "</td><td>" + escaped(failure.message) +
                     "</td></tr>\n";
     }
@@ -203,20 +203,22 @@ private:
     }
 
     void writeHead() {
-        out.write("<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
-                  "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; base-uri 'none'; "
-                  "form-action 'none'; style-src '" +
-                  std::string(style.hash) + "'; script-src '" + std::string(script.hash) +
-                  "'\">\n<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
+        out.write("<!DOCTYPE html>\n<html lang='en'>\n<head>\n<meta charset='utf-8'>\n"
+                  R"(<meta http-equiv="Content-Security-Policy" content="default-src 'none'; base-uri 'none'; )"
+                  "form-action 'none'; style-src '");
+        out.write(style.hash);
+        out.write("'; script-src '");
+        out.write(script.hash);
+        out.write("'\">\n<meta name='viewport' content='width=device-width, initial-scale=1'>\n"
                   "<title>Attributes that are not read as they are written</title>\n<style>");
         out.write(style.text);
-        out.write("</style>\n</head>\n<body>\n<a class=\"skip\" href=\"#kinds\">To the findings</a>\n");
+        out.write("</style>\n</head>\n<body>\n<a class='skip' href='#kinds'>To the findings</a>\n");
     }
 
     void writeSummary(Counts const& counts) {
         std::string text =
-            "<header>\n<h1>Attributes that are not read as they are written</h1>\n<p><span class=\"error\">" +
-            counted(counts.errors, "error") + "</span> and <span class=\"warning\">" +
+            "<header>\n<h1>Attributes that are not read as they are written</h1>\n<p><span class='error'>" +
+            counted(counts.errors, "error") + "</span> and <span class='warning'>" +
             counted(counts.warnings, "warning") + "</span> in " + counted(counts.files, "file") + " with " +
             counted(counts.attributes, "attribute");
         if (counts.declarations > 0) text += " and " + counted(counts.declarations, "style declaration");
@@ -225,12 +227,12 @@ private:
         if (untold > 0)
             text += "<p>" + counted(untold, "finding") + " came after the first " + grouped(mostEntries) +
                     " different ones and are counted only.</p>\n";
-        text += "<nav aria-label=\"Sections\"><a href=\"#kinds\">By kind</a> <a href=\"#files\">By file</a></nav>\n"
-                "</header>\n<main>\n<div class=\"summary\">\n";
+        if (hasFiles()) text += "<nav><a href='#kinds'>By kind</a> <a href='#files'>By file</a></nav>\n";
+        text += "</header>\n<main>\n<div class='summary'>\n";
         out.write(text + classTable(counts) + kindTable() + "</div>\n");
         if (!failures.empty())
-            out.write("<h2>Not read to the end</h2>\n<table><thead><tr><th scope=\"col\">File</th><th scope=\"col\">"
-                      "Place</th><th scope=\"col\">Reason</th></tr></thead><tbody>\n" +
+            out.write("<h2>Not read to the end</h2>\n<table><thead><tr><th scope='col'>File</th><th scope='col'>"
+                      "Place</th><th scope='col'>Reason</th></tr></thead><tbody>\n" +
                       failures + "</tbody></table>\n");
     }
 
@@ -260,47 +262,47 @@ private:
         for (FaultKind const& kind : faultKinds()) {
             std::uint64_t const count = countByFault[static_cast<std::size_t>(kind.fault)];
             if (count == 0) continue;
-            std::string const id(kind.id);
-            text += tableRow("<a href=\"#" + id + "\">" + id + "</a>", count, bar(count, all, severityOf(kind.fault)));
+            std::string link("<a href='#");
+            link.append(kind.id).append("'>").append(kind.id).append("</a>");
+            text += tableRow(link, count, bar(count, all, severityOf(kind.fault)));
         }
         return text + "</tbody></table>\n";
     }
 
     static std::string tableHead(std::string const& caption, std::string const& name, std::string const& count) {
-        return "<table><caption>" + caption + "</caption><thead><tr><th scope=\"col\">" + name +
-               "</th><th scope=\"col\" class=\"number\">" + count +
-               "</th><th scope=\"col\" class=\"share\">Share</th></tr></thead><tbody>\n";
+        return "<table><caption>" + caption + "</caption><thead><tr><th scope='col'>" + name +
+               "</th><th scope='col' class='number'>" + count +
+               "</th><th scope='col' class='share'>Share</th></tr></thead><tbody>\n";
     }
 
     static std::string tableRow(std::string const& name, std::uint64_t count, std::string const& share) {
-        return "<tr><th scope=\"row\">" + name + "</th><td class=\"number\">" + grouped(count) +
-               "</td><td class=\"share\">" + share + "</td></tr>\n";
+        return "<tr><th scope='row'>" + name + "</th><td class='number'>" + grouped(count) + "</td><td class='share'>" +
+               share + "</td></tr>\n";
     }
 
     // Hidden until the script works them.
     void writeTools() {
-        out.write(
-            "<div class=\"tools\" role=\"search\" hidden>\n<label class=\"grow\">Filter <input type=\"search\" "
-            "id=\"filter\" placeholder=\"words of a finding, a file or a kind\" aria-keyshortcuts=\"/\"></label>\n"
-            "<label><input type=\"checkbox\" data-severity=\"error\" checked> Errors</label>\n"
-            "<label><input type=\"checkbox\" data-severity=\"warning\" checked> Warnings</label>\n"
-            "<button type=\"button\" id=\"open\">Open all</button>\n"
-            "<button type=\"button\" id=\"close\">Close all</button>\n"
-            "<output aria-live=\"polite\" data-all=\"" +
-            grouped(told) + "\"></output>\n</div>\n");
+        out.write("<div class='tools' role='search' hidden>\n<label class='grow'>Filter <input type='search' "
+                  "id='filter' placeholder='words of a finding, a file or a kind' aria-keyshortcuts='/'></label>\n"
+                  "<label><input type='checkbox' data-severity='error' checked> Errors</label>\n"
+                  "<label><input type='checkbox' data-severity='warning' checked> Warnings</label>\n"
+                  "<button type='button' id='open'>Open all</button>\n"
+                  "<button type='button' id='close'>Close all</button>\n"
+                  "<output aria-live='polite' data-all='" +
+                  grouped(told) + "'></output>\n</div>\n");
     }
 
     void writeKinds() {
-        out.write("<section id=\"kinds\">\n<h2>By kind</h2>\n");
+        out.write("<section id='kinds'>\n<h2>By kind</h2>\n");
         if (entries.empty()) out.write("<p>Nothing was found.</p>\n");
         for (FaultKind const& kind : faultKinds()) {
             std::uint64_t const count = countByFault[static_cast<std::size_t>(kind.fault)];
             if (count == 0) continue;
-            std::string const id(kind.id);
-            std::string const severity(severityOf(kind.fault));
-            out.write("<details class=\"group\" id=\"" + id + "\" open><summary><h3>" + id + "</h3><span class=\"" +
-                      severity + "\">" + counted(count, severity) + "</span></summary>\n<p>" +
-                      withCode(escaped(kind.explanation)) + "</p>\n");
+            std::string_view const severity = severityOf(kind.fault);
+            std::string text("<details class='group' id='");
+            text.append(kind.id).append("' open><summary><h3>").append(kind.id).append("</h3><span class='");
+            text.append(severity).append("'>").append(counted(count, severity)).append("</span></summary>\n<p>");
+            out.write(text.append(withCode(escaped(kind.explanation))).append("</p>\n"));
             for (std::size_t i = 0; i < entries.size(); ++i)
                 if (entries[i].fault == kind.fault) writeEntry(i);
             out.write("</details>\n");
@@ -310,9 +312,9 @@ private:
 
     void writeEntry(std::size_t index) {
         Entry const& entry = entries[index];
-        out.write("<article id=\"f" + std::to_string(index) + "\" data-severity=\"" +
-                  std::string(severityOf(entry.fault)) + "\" data-count=\"" + std::to_string(entry.count) +
-                  "\"><div class=\"head\"><h4>" + entry.title + "</h4>" + whereIs(entry) + "</div>" + entry.body +
+        out.write("<article id='f" + std::to_string(index) + "' data-severity='" +
+                  std::string(severityOf(entry.fault)) + "' data-count='" + std::to_string(entry.count) +
+                  "'><div class='head'><h4>" + entry.title + "</h4>" + whereIs(entry) + "</div>" + entry.body +
                   "</article>\n");
     }
 
@@ -322,32 +324,34 @@ private:
             return escaped(files[where.file].name) + ":" + placeText(where.place);
         };
         std::string const first = textOf(entry.places.front());
-        if (entry.count == 1) return "<p class=\"place\">" + first + "</p>";
+        if (entry.count == 1) return "<p class='place'>" + first + "</p>";
         std::string text =
-            "<details class=\"place\"><summary>" + first + " and " + grouped(entry.count - 1) + " more</summary><ul>";
+            "<details class='place'><summary>" + first + " and " + grouped(entry.count - 1) + " more</summary><ul>";
         for (std::size_t i = 1; i < entry.places.size(); ++i) text += "<li>" + textOf(entry.places[i]) + "</li>";
         if (entry.count > entry.places.size())
             text += "<li>and " + grouped(entry.count - entry.places.size()) + " more</li>";
         return text + "</ul></details>";
     }
 
+    // Groups name but a few of their files.
+    bool hasFiles() const { return !files.empty() && !isGrouped; }
+
     void writeFiles() {
-        if (files.empty() || isGrouped) return; // groups name but a few of their files
-        out.write("<section id=\"files\">\n<h2>By file</h2>\n");
+        if (!hasFiles()) return;
+        out.write("<section id='files'>\n<h2>By file</h2>\n");
         if (files.size() > mostFiles)
             out.write("<p>The first " + grouped(mostFiles) + " of " + counted(files.size(), "file") +
                       " with findings.</p>\n");
         for (std::size_t i = 0; i < std::min(files.size(), mostFiles); ++i) {
             File const& file = files[i];
-            std::string text =
-                "<details class=\"group\"><summary><h3>" + escaped(file.name) + "</h3><span class=\"soft\">";
+            std::string text = "<details class='group'><summary><h3>" + escaped(file.name) + "</h3><span class='soft'>";
             if (file.errors > 0) text += counted(file.errors, "error");
             if (file.errors > 0 && file.warnings > 0) text += ", ";
             if (file.warnings > 0) text += counted(file.warnings, "warning");
             text += "</span></summary>\n<ol>";
             for (File::Link const& link : file.links)
-                text += "<li><a class=\"place\" href=\"#f" + std::to_string(link.entry) + "\">" +
-                        placeText(link.place) + "</a> " + entries[link.entry].title + "</li>\n";
+                text += "<li><a class='place' href='#f" + std::to_string(link.entry) + "'>" + placeText(link.place) +
+                        "</a> " + entries[link.entry].title + "</li>\n";
             out.write(text + "</ol></details>\n");
         }
         out.write("</section>\n");
