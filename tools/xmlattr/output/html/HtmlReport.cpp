@@ -1,6 +1,6 @@
 #include "output/Report.h"
-#include "output/html/Drawing.h"
 #include "output/html/Markup.h"
+#include "output/html/Readings.h"
 #include "text/Text.h"
 #include "xmlattr/core/Version.h"
 
@@ -38,12 +38,8 @@ std::string placeText(Place place) {
     return std::to_string(place.line) + ":" + std::to_string(place.column);
 }
 
-std::string bar(std::uint64_t part, std::uint64_t whole, std::string_view color) {
-    double const width = whole > 0 ? 100.0 * static_cast<double>(part) / static_cast<double>(whole) : 0;
-    // What is there at all is seen.
-    return "<svg class='bar " + std::string(color) +
-           "' viewBox='0 0 100 8' preserveAspectRatio='none' aria-hidden='true'><rect width='" +
-           number(part > 0 ? std::max(width, 0.6) : 0) + "' height='8'/></svg>";
+double shareOf(std::uint64_t part, std::uint64_t whole) {
+    return whole > 0 ? static_cast<double>(part) / static_cast<double>(whole) : 0;
 }
 
 // Equal findings are one entry: the same text on the same attribute of the same element.
@@ -252,7 +248,8 @@ private:
         std::uint64_t all = 0;
         for (Row const& row : rows) all += row.count;
         std::string text = tableHead("Texts of attributes", "Class", "Texts");
-        for (Row const& row : rows) text += tableRow(std::string(row.name), row.count, bar(row.count, all, row.color));
+        for (Row const& row : rows)
+            text += tableRow(std::string(row.name), row.count, bar(shareOf(row.count, all), row.color));
         return text + "</tbody></table>\n";
     }
 
@@ -264,7 +261,7 @@ private:
             if (count == 0) continue;
             std::string link("<a href='#");
             link.append(kind.id).append("'>").append(kind.id).append("</a>");
-            text += tableRow(link, count, bar(count, all, severityOf(kind.fault)));
+            text += tableRow(link, count, bar(shareOf(count, all), severityOf(kind.fault)));
         }
         return text + "</tbody></table>\n";
     }

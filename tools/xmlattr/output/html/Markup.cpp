@@ -3,8 +3,10 @@
 #include "text/Text.h"
 #include "xmlattr/core/Format.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 
 namespace Command {
 
@@ -54,6 +56,13 @@ std::string cutAtStart(std::string_view text, std::size_t most) {
     for (std::size_t count = 0; first > 0 && count < most;)
         if (!isContinuation(text[--first])) ++count;
     return (first > 0 ? "…" : "") + std::string(text.substr(first));
+}
+
+std::string bar(double part, std::string_view color) {
+    double const width = part == 0 ? 0 : std::clamp(std::abs(part) * 100, 0.6, 100.0);
+    std::string out("<svg class='bar ");
+    out.append(color).append("' viewBox='0 0 100 8' preserveAspectRatio='none' aria-hidden='true'><rect width='");
+    return out.append(number(width)).append("' height='8'/></svg>");
 }
 
 std::string number(double value) {

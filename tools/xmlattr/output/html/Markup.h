@@ -15,6 +15,9 @@ std::string escaped(std::string_view text);
 std::string cutAtEnd(std::string_view text, std::size_t most);
 std::string cutAtStart(std::string_view text, std::size_t most);
 
+// A bar as long as its part of the track, from 0 to 1; what is there at all is seen. The color is one of the style.
+std::string bar(double part, std::string_view color);
+
 // The shortest text that reads back in single precision.
 std::string number(double value);
 

@@ -1,4 +1,4 @@
-// What people would rather see than read: colours, lengths, paths, points and transforms.
+// How a value is read, for those who would rather see than read: colours, lengths, paths, points and transforms.
 #pragma once
 
 #include "checking/Finding.h"
