@@ -28,19 +28,18 @@ std::string hexColor(std::uint32_t rgb) {
     return text;
 }
 
-std::string swatch(std::uint32_t rgb) {
-    return "<svg class='swatch' aria-hidden='true'><rect fill='" + hexColor(rgb) + "'/></svg>";
+std::string drawColor(std::uint32_t rgb) {
+    std::string const color = hexColor(rgb);
+    return "<svg class='swatch' aria-hidden='true'><rect fill='" + color + "'/></svg><code>" + color + "</code>";
 }
 
 // A bar that is as long as the length, at the size of the page; one that goes on ends in a fade.
 std::string ruler(double pixels) {
     constexpr double most = 320;
     double const length = std::abs(pixels);
-    return "<svg class='ruler" +
-           std::string(length > most ? " long"
-                       : pixels < 0  ? " negative"
-                                     : "") +
-           "' width='" + number(std::clamp(length, 1.0, most)) + "' aria-hidden='true'><rect/></svg>";
+    std::string_view const look = length > most ? "ruler long" : pixels < 0 ? "ruler negative" : "ruler";
+    return "<svg class='" + std::string(look) + "' width='" + number(std::clamp(length, 1.0, most)) +
+           "' aria-hidden='true'><rect/></svg>";
 }
 
 // The one that the text begins with.
@@ -63,7 +62,7 @@ std::string drawInks(std::u16string_view components) {
 std::string drawParts(Xml::Parts const& parts) {
     constexpr std::size_t most = 16;
     std::string out;
-    if (parts.rgb) out += swatch(*parts.rgb) + "<code>" + hexColor(*parts.rgb) + "</code>";
+    if (parts.rgb) out += drawColor(*parts.rgb);
     std::size_t count = 0;
     for (Xml::Part const& part : parts.list) {
         if (++count > most) break;
@@ -102,21 +101,19 @@ std::optional<std::uint32_t> meantColor(Finding const& finding) {
     return std::nullopt;
 }
 
-// A way to read the text, before it is drawn.
-struct Candidate {
-    std::string_view caption;
-    std::string text;
-    std::optional<Xml::AnyAttribute> value{};
-};
-
 constexpr std::string_view meansCaption = "By the recommendation", heldCaption = "As the formatter reads it",
                            perhapsCaption = "Perhaps meant";
 
-} // namespace
+// A way to read the text, before it is drawn.
+struct Candidate {
+    std::string_view caption;
+    std::string text{}; // where there is no value
+    std::optional<Xml::AnyAttribute> value{};
+};
 
-std::vector<Reading> readingsOf(Finding const& finding) {
-    bool const isMisread = finding.fault == Fault::Misread;
-    Xml::AttributeType const* const type = finding.entry ? finding.entry->type() : nullptr;
+// What was meant comes first, where it is known: an exact replacement is read as what the text means.
+std::vector<Candidate> candidatesOf(Finding const& finding) {
+    Xml::AttributeType const* const type = finding.entry->type();
     auto const valueOf = [&](std::string const& text) {
         std::optional<Xml::AnyAttribute> value;
         if (!type || text.size() > mostDrawn) return value;
@@ -124,31 +121,35 @@ std::vector<Reading> readingsOf(Finding const& finding) {
         if (!value->parseValue(Core::String::fromUtf8(text))) value.reset();
         return value;
     };
-
+    bool const isHeld = finding.fault == Fault::Misread || finding.fault == Fault::Lenient ||
+                        finding.fault == Fault::Negative || !finding.held.empty();
     std::vector<Candidate> candidates;
-    if (isMisread && finding.isExact) candidates.push_back({meansCaption, {}, valueOf(finding.replacement)});
-    if (finding.fault == Fault::Lenient || finding.fault == Fault::Negative || isMisread)
-        candidates.push_back({heldCaption, finding.held, valueOf(finding.text)});
-    if (!isMisread && finding.entry && !finding.replacement.empty())
+    if (finding.isExact) candidates.push_back({meansCaption, {}, valueOf(finding.replacement)});
+    if (isHeld) candidates.push_back({heldCaption, finding.held, valueOf(finding.text)});
+    if (!finding.isExact && !finding.replacement.empty())
         candidates.push_back({perhapsCaption, {}, valueOf(finding.replacement)});
+    return candidates;
+}
 
+} // namespace
+
+std::vector<Reading> readingsOf(Finding const& finding) {
+    if (!finding.entry) return {};
+    std::vector<Candidate> candidates = candidatesOf(finding);
     Box box;
     std::vector<std::optional<Shape>> shapes;
     for (Candidate const& candidate : candidates) {
         shapes.push_back(candidate.value ? shapeOf(*candidate.value) : std::nullopt);
         if (!shapes.back()) continue;
-        // The first is what was meant, where that is known.
-        if (box.isSound() && isMisread)
+        if (finding.isExact && box.isSound())
             box.addNear(shapes.back()->box);
         else
             box.add(shapes.back()->box);
     }
 
     std::vector<Reading> readings;
-    if (isMisread && !finding.isExact && type) {
-        if (auto const rgb = meantColor(finding))
-            readings.push_back({meansCaption, {}, swatch(*rgb) + "<code>" + hexColor(*rgb) + "</code>"});
-    }
+    if (finding.fault == Fault::Misread && !finding.isExact)
+        if (auto const rgb = meantColor(finding)) readings.push_back({meansCaption, {}, drawColor(*rgb)});
     for (std::size_t i = 0; i < candidates.size(); ++i) {
         Candidate& candidate = candidates[i];
         Reading reading{candidate.caption, {}, {}, shapes[i].has_value()};
@@ -161,10 +162,9 @@ std::vector<Reading> readingsOf(Finding const& finding) {
         if (reading.text.empty() && reading.picture.empty()) reading.text = std::move(candidate.text);
         // What may be written is in the message already; it is drawn where it looks otherwise.
         bool const isGuess = candidate.caption == perhapsCaption;
-        bool const isNew =
-            isGuess ? !reading.picture.empty() && (readings.empty() || reading.picture != readings[0].picture)
-                    : !reading.text.empty() || !reading.picture.empty();
-        if (isNew) readings.push_back(std::move(reading));
+        bool const isSame = !readings.empty() && reading.picture == readings.front().picture;
+        if (reading.picture.empty() ? !isGuess && !reading.text.empty() : !isGuess || !isSame)
+            readings.push_back(std::move(reading));
     }
     return readings;
 }
