@@ -82,9 +82,9 @@ public:
                              {"version", Core::version()},
                              {"semanticVersion", Core::version()},
                              {"rules", rules()}};
-        out.write(
-            R"({"$schema":"https://docs.oasis-open.org/sarif/sarif/v2.1.0/errata01/os/schemas/sarif-schema-2.1.0.json","version":"2.1.0","runs":[{"tool":)" +
-            toText({{"driver", driver}}) + R"(,"columnKind":"unicodeCodePoints","results":[)");
+        out.write(R"({"$schema":"https://docs.oasis-open.org/sarif/sarif/v2.1.0/errata01/os/schemas/)"
+                  R"(sarif-schema-2.1.0.json","version":"2.1.0","runs":[{"tool":)");
+        out.write(toText({{"driver", driver}}) + R"(,"columnKind":"unicodeCodePoints","results":[)");
     }
 
     void finding(std::string const& file, Finding const& finding) override { write(resultOf(file, finding)); }

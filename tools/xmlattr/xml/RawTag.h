@@ -16,7 +16,7 @@ struct Place {
 };
 
 // A part of a tag as it is written, in UTF-8, with what stands before and after it on its lines in the tag. Lines
-// are cut at 120 code points. Empty where the part comes from an entity or a default.
+// are cut at 120 code points. Empty where the tag does not have the part, which comes from an entity or a default.
 struct Excerpt {
     std::string before, part, after;
     Place begin, end; // the end is the place after the last character

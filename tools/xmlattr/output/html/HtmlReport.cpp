@@ -166,7 +166,8 @@ private:
     static std::string keyOf(Finding const& finding) {
         constexpr std::size_t longest = 1024; // what is kept of a text; of a longer one its hash as well
         std::string key(kindOf(finding.fault).id);
-        for (std::string_view const text : {finding.element, finding.attribute, finding.text}) {
+        for (std::string_view const text :
+             std::initializer_list<std::string_view>{finding.element, finding.attribute, finding.text}) {
             key.append(1, '\0').append(text.substr(0, longest));
             if (text.size() > longest) key += std::to_string(std::hash<std::string_view>()(text));
         }
@@ -315,7 +316,7 @@ private:
                   "</article>\n");
     }
 
-    // The first place; the others come out of it.
+    // The first place, which opens to show the others.
     std::string whereIs(Entry const& entry) const {
         auto const textOf = [&](Entry::Where const& where) {
             return escaped(files[where.file].name) + ":" + placeText(where.place);
