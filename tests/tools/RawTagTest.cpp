@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 namespace Command {
 
 inline void PrintTo(Place const& place, std::ostream* out) {
@@ -32,6 +34,31 @@ TEST(RawTag, FindsOffsetsInTheValue) {
     for (Row const& row : {Row{0, {1, 7}}, Row{1, {1, 11}}, Row{3, {1, 17}}, Row{5, {1, 18}}, Row{9, {1, 19}},
                            Row{10, {2, 1}}, Row{11, {2, 2}}, Row{12, {1, 4}}, Row{3, {1, 17}}})
         EXPECT_EQ(tag.inValue(0, row.offset), row.place) << row.offset;
+}
+
+TEST(RawTag, QuotesTheSource) {
+    RawTag tag(U"<a\r\n s='f: &lt;é; g: h'\n b='&own;'/>", {1, 1});
+    struct Row {
+        Excerpt excerpt;
+        char const *before, *part, *after;
+        Place begin, end;
+    };
+    for (Row const& row : {Row{tag.excerptOfElement(), "<", "a", "", {1, 2}, {1, 3}},
+                           Row{tag.excerptOfName(0), " ", "s", "='f: &lt;é; g: h'", {2, 2}, {2, 3}},
+                           Row{tag.excerptOfValue(0), " s='", "f: &lt;é; g: h", "'", {2, 5}, {2, 19}},
+                           Row{tag.excerptInValue(0, 3, 3), " s='f: ", "&lt;é", "; g: h'", {2, 8}, {2, 13}},
+                           Row{tag.excerptOfValue(1), " b='", "&own;", "'/>", {3, 5}, {3, 10}},
+                           Row{tag.excerptInValue(1, 1, 1), "", "", "", {1, 1}, {1, 1}},
+                           Row{tag.excerptOfValue(2), "", "", "", {1, 1}, {1, 1}}}) {
+        EXPECT_EQ(row.excerpt.before + "|" + row.excerpt.part + "|" + row.excerpt.after,
+                  std::string(row.before) + "|" + row.part + "|" + row.after);
+        EXPECT_EQ(row.excerpt.begin, row.begin);
+        EXPECT_EQ(row.excerpt.end, row.end);
+    }
+    std::u32string const fill(200, U'x');
+    Excerpt const cut = RawTag(U"<a b='" + fill + U"' c='' d='" + fill + U"'/>", {1, 1}).excerptOfName(1);
+    EXPECT_EQ(cut.before.size(), 120);
+    EXPECT_EQ(cut.after.size(), 120);
 }
 
 TEST(RawTag, DecodesEachEncoding) {

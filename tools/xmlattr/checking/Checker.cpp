@@ -70,7 +70,7 @@ void Checker::startElement(XmlElement const& element, Tag& tag) {
         return;
     }
     if (std::optional<Xml::NameFact> const fact = unknownElement(*vocabulary, element.name))
-        findUnknown(*fact, nameInDocument(element.name, tag), tag.raw().place());
+        findUnknown(*fact, nameInDocument(element.name, tag), tag.raw().place(), tag.raw().excerptOfElement());
     bool const isSvg = *vocabulary == Xml::Vocabulary::Svg;
     std::optional<std::size_t> const missing = isSvg ? filterResults.startElement(element) : std::nullopt;
     if (missing && !element.namespaces.hasXslt() && tag.isWhole(*missing) && isReported(Fault::DanglingReference)) {
@@ -109,14 +109,16 @@ void Checker::startElement(XmlElement const& element, Tag& tag) {
 void Checker::checkMade(MadeElement const& made, XmlElement const& element, Tag& tag) {
     std::optional<Xml::NameFact> const fact = unknownElement(made.vocabulary, made.local);
     if (fact && tag.isWhole(made.number))
-        findUnknown(*fact, std::string(element.attributes[made.number].value), tag.raw().attribute(made.number));
+        findUnknown(*fact, std::string(element.attributes[made.number].value), tag.raw().attribute(made.number),
+                    tag.raw().excerptOfValue(made.number));
 }
 
-void Checker::findUnknown(Xml::NameFact const& fact, std::string const& element, Place place) {
+void Checker::findUnknown(Xml::NameFact const& fact, std::string const& element, Place place, Excerpt source) {
     if (!isReported(Fault::UnknownElement)) return;
     Finding finding;
     finding.fault = Fault::UnknownElement;
     finding.place = place;
+    finding.source = std::move(source);
     finding.element = element;
     if (!fact.text.empty()) finding.replacement = element.substr(0, element.find(':') + 1).append(fact.text);
     report(finding);
@@ -231,6 +233,8 @@ void Checker::checkValue(Occurrence const& occurrence, Xml::CatalogueEntry const
     finding.offset = advice.offset;
     finding.length = advice.length;
     finding.inserted = toUtf8(advice.inserted());
+    finding.entry = &entry;
+    finding.notation = occurrence.notation;
     find(occurrence, std::move(finding));
 }
 
@@ -283,6 +287,17 @@ void Checker::find(Occurrence const& occurrence, Finding finding) {
         finding.place =
             occurrence.offset ? tag.inValue(occurrence.number, *occurrence.offset) : tag.attribute(occurrence.number);
         finding.element = nameInDocument(occurrence.element, *occurrence.tag);
+        bool const isName = finding.fault == Fault::UnknownAttribute || finding.fault == Fault::MisplacedAttribute;
+        if (occurrence.offset) {
+            // The value of a declaration is a part of the style.
+            bool const isValue = occurrence.isDeclaration() && !isName;
+            finding.source = tag.excerptInValue(
+                occurrence.number,
+                isValue ? static_cast<std::size_t>(occurrence.value.data() - style.data()) : *occurrence.offset,
+                isName ? occurrence.name.size() : occurrence.value.size());
+        } else {
+            finding.source = isName ? tag.excerptOfName(occurrence.number) : tag.excerptOfValue(occurrence.number);
+        }
     }
     finding.isDeclaration = occurrence.isDeclaration();
     finding.text = occurrence.value;

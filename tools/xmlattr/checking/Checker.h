@@ -59,7 +59,7 @@ private:
     struct Occurrence;
 
     void checkMade(MadeElement const& made, XmlElement const& element, Tag& tag);
-    void findUnknown(Xml::NameFact const& fact, std::string const& element, Place place);
+    void findUnknown(Xml::NameFact const& fact, std::string const& element, Place place, Excerpt source);
     void check(Occurrence const& occurrence);
     void checkName(Occurrence const& occurrence);
     void findMisplaced(Occurrence const& occurrence);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "xml/RawTag.h"
+#include "xmlattr/catalogue/legality/Judge.h"
 
 #include <cstdint>
 #include <span>
@@ -41,6 +42,7 @@ struct Finding {
     std::string attribute;      // as the catalogue writes it; of a declaration the property; empty for an element
     bool isDeclaration = false; // in a style attribute
     std::string text;           // of the attribute
+    Excerpt source;             // the value as the document writes it; of a name that is wrong the name
 
     // Of a value, in UTF-8. Empty where they do not apply.
     std::string part;        // of the text: what is wrong, or held otherwise
@@ -57,6 +59,10 @@ struct Finding {
 
     // Of a value in a tag: the number of its attribute, and how many bytes of that precede the text.
     std::size_t number = 0, textOffset = 0;
+
+    // The row of the catalogue that the value was judged by, and how it is written; null where none was.
+    Xml::CatalogueEntry const* entry = nullptr;
+    Xml::Notation notation = Xml::Notation::Attribute;
 
     // In one line, without the place.
     std::string message() const;

@@ -60,18 +60,19 @@ int check(CheckOptions const& options) {
     FileList const list = gatherFiles(paths);
     for (std::string const& line : list.problems) printError("xmlattr: " + line + "\n");
 
+    ReportFile report(options.output);
     std::unique_ptr<Reporter> const reporter =
-        options.format == OutputFormat::Json ? makeJsonReporter() : makeTextReporter(usesColor(options.color));
+        options.format->make(report, {options.output.empty() && usesColor(options.color), options.isQuiet});
     Counts counts;
     Progress progress(list.files.size(), !options.isQuiet);
     for (std::string const& file : list.files) {
         std::string const& name = file == "-" ? options.stdinName : file;
         progress.next(name);
-        auto const report = [&](Finding const& finding) {
+        auto const tell = [&](Finding const& finding) {
             progress.clear();
             reporter->finding(name, finding);
         };
-        Checker checker(counts, report, {options.maxFindings, options.isStrict});
+        Checker checker(counts, tell, {options.maxFindings, options.isStrict});
         ++counts.files;
         OpenFile const opened(file == "-" ? stdin : std::fopen(file.c_str(), "rb"));
         std::optional<XmlFailure> const failure =
@@ -86,8 +87,8 @@ int check(CheckOptions const& options) {
         reporter->failure(name, *failure);
     }
     progress.clear();
-    if (!options.isQuiet) reporter->summary(counts, std::min(counts.findings(), options.maxFindings));
-    flushOutput();
+    reporter->finish(counts, std::min(counts.findings(), options.maxFindings));
+    report.complete();
     if (counts.failedFiles > 0 || !list.problems.empty()) return 2;
     return counts.errors > 0 || (options.isStrict && counts.warnings > 0) ? 1 : 0;
 }

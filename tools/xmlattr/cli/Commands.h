@@ -3,6 +3,7 @@
 #pragma once
 
 #include "output/Output.h"
+#include "output/Report.h"
 
 #include "xmlattr/catalogue/Catalogue.h"
 
@@ -19,7 +20,8 @@ struct CheckOptions {
     std::vector<std::string> paths;
     std::string filesFrom;
     std::string stdinName = "<stdin>";
-    OutputFormat format = OutputFormat::Text;
+    ReportFormat const* format = &reportFormats().front();
+    std::string output; // the file to write the report to; empty for standard output
     ColorMode color = ColorMode::Auto;
     bool isQuiet = false, isStrict = false;
     std::uint64_t maxFindings = UINT64_MAX;

@@ -1,21 +1,20 @@
 #include "cli/Commands.h"
 #include "cli/NamedType.h"
+#include "output/Json.h"
 #include "text/Text.h"
-
+#include "xmlattr/catalogue/Catalogue.h"
+#include "xmlattr/catalogue/grammar/GrammarText.h"
+#include "xmlattr/catalogue/legality/ValueOfRow.h"
 #include "xmlattr/catalogue/text/Words.h"
 
-#include "xmlattr/catalogue/Catalogue.h"
-
 #include <algorithm>
-#include <nlohmann/json.hpp>
+#include <span>
 #include <tuple>
 #include <vector>
 
 namespace Command {
 
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 // Whatever the case of either.
 bool contains(std::string_view text, std::string_view part) {
@@ -33,8 +32,8 @@ std::string trimmedLine(std::string line) {
     return line + "\n";
 }
 
-int nothingMatches() {
-    printError("xmlattr: nothing matches\n");
+int nothingMatches(OutputFormat format) {
+    tellFailure("no-match", "nothing matches", format == OutputFormat::Json);
     return 2;
 }
 
@@ -54,20 +53,37 @@ std::vector<ElementRow> rowsByElement() {
     return rows;
 }
 
+// The words that are legal and that the value type does not read.
+std::vector<std::string_view> alsoLegal(Xml::CatalogueEntry const& entry) {
+    std::vector<std::string_view> words;
+    if (!entry.type()) return words;
+    for (std::string_view const word : Xml::wordsOf(entry.grammar))
+        if (Xml::judge(entry, toUtf16(word)).verdict == Xml::Verdict::PassedOver) words.push_back(word);
+    return words;
+}
+
 std::string jsonLine(std::string_view element, Xml::CatalogueEntry const& entry) {
     Json line = {{"vocabulary", Xml::Catalogue::name(entry.vocabulary)},
                  {"element", element},
                  {"attribute", entry.attribute},
                  {"kind", Xml::Catalogue::name(entry.kind)},
-                 {"valueType", entry.valueType},
+                 {"type", entry.valueType},
                  {"defaultConstant", entry.defaultConstant},
                  {"inherited", entry.isInherited},
                  {"note", entry.note},
                  {"presentation", entry.isPresentation},
                  {"grammar", entry.grammar.text()},
+                 {"expected", describeGrammar(entry.grammar, dialectOf(entry, Xml::Notation::Attribute))},
+                 {"alsoLegal", alsoLegal(entry)},
                  {"initial", entry.initial}};
     for (Xml::CatalogueEntry const* const longhand : entry.longhands) line["longhands"].push_back(longhand->attribute);
-    return line.dump() + "\n";
+    return toLine(line);
+}
+
+std::vector<std::string> inUtf8(std::span<std::u16string_view const> texts) {
+    std::vector<std::string> all;
+    for (std::u16string_view const text : texts) all.push_back(toUtf8(text));
+    return all;
 }
 
 std::string textLine(std::string_view element, Xml::CatalogueEntry const& entry) {
@@ -86,18 +102,20 @@ int types(TypesOptions const& options) {
         if (!contains(type.name(), options.name)) continue;
         isAny = true;
         if (options.format == OutputFormat::Json)
-            print(
-                Json({{"type", type.name()}, {"public", type.isPublic()}, {"syntax", type.syntax().toUtf8()}}).dump() +
-                "\n");
+            print(toLine({{"type", type.name()},
+                          {"public", type.isPublic()},
+                          {"syntax", type.syntax().toUtf8()},
+                          {"keywords", inUtf8(type.words())},
+                          {"examples", inUtf8(type.examples())}}));
         else
             print(trimmedLine(padded(type.name(), 30) + type.syntax().toUtf8()));
     }
     flushOutput();
-    return isAny ? 0 : nothingMatches();
+    return isAny ? 0 : nothingMatches(options.format);
 }
 
 int properties(PropertiesOptions const& options) {
-    Xml::AttributeType const* const type = options.type ? findNamedType(*options.type) : nullptr;
+    Xml::AttributeType const* const type = options.type ? findNamedType(*options.type, options.format) : nullptr;
     if (options.type && !type) return 2;
     bool isAny = false;
     for (auto const& [element, entry] : rowsByElement()) {
@@ -108,7 +126,7 @@ int properties(PropertiesOptions const& options) {
         print(options.format == OutputFormat::Json ? jsonLine(element, *entry) : textLine(element, *entry));
     }
     flushOutput();
-    return isAny ? 0 : nothingMatches();
+    return isAny ? 0 : nothingMatches(options.format);
 }
 
 } // namespace Command

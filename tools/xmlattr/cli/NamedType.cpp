@@ -26,7 +26,7 @@ bool isCalled(Xml::AttributeType const& type, std::string_view name) {
 
 } // namespace
 
-Xml::AttributeType const* findNamedType(std::string_view name) {
+Xml::AttributeType const* findNamedType(std::string_view name, OutputFormat format) {
     for (Xml::AttributeType const& type : Xml::AttributeType::all())
         if (isCalled(type, name)) return &type;
     std::vector<std::u16string> names;
@@ -34,8 +34,10 @@ Xml::AttributeType const* findNamedType(std::string_view name) {
     std::vector<std::u16string_view> const views(names.begin(), names.end());
     std::u16string const wanted = toUtf16(name);
     std::u16string_view const nearest = Xml::nearestWord(wanted, views);
-    printError("xmlattr: no value type is called " + inQuotes(printable(name)) +
-               (nearest.empty() ? "" : "; did you mean " + inQuotes(toUtf8(nearest)) + "?") + "\n");
+    tellFailure("unknown-type",
+                "no value type is called " + inQuotes(printable(name)) +
+                    (nearest.empty() ? "" : "; did you mean " + inQuotes(toUtf8(nearest)) + "?"),
+                format == OutputFormat::Json);
     return nullptr;
 }
 

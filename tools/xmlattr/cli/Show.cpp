@@ -1,17 +1,14 @@
 #include "cli/Commands.h"
 #include "cli/NamedType.h"
+#include "output/Json.h"
 #include "text/Hints.h"
 #include "text/Text.h"
 
 #include "xmlattr/core/Log.h"
 
-#include <nlohmann/json.hpp>
-
 namespace Command {
 
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 std::string row(std::string_view name, std::string_view value) {
     std::string line(name);
@@ -67,19 +64,22 @@ void printText(ShowOptions const& options, Xml::AttributeType const& type, Readi
 void printJson(ShowOptions const& options, Xml::AttributeType const& type, Reading const& reading) {
     Hints const& hints = reading.hints;
     Json line = {{"type", type.name()}, {"text", options.text}, {"accepted", reading.accepted}};
-    if (reading.accepted) line["prints"] = reading.printed;
+    if (reading.accepted)
+        line["held"] = reading.printed;
+    else
+        line["syntax"] = type.syntax().toUtf8();
     if (!hints.variant.empty()) line["acceptedVariant"] = hints.variant;
     if (!hints.nearest.empty()) line["nearest"] = hints.nearest;
     for (Xml::Part const& part : reading.parts.list)
         line["parts"].push_back({{"name", toUtf8(part.name)}, {"value", toUtf8(part.value)}});
     if (options.other) line["equal"] = reading.isEqual;
-    print(line.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n");
+    print(toLine(line));
 }
 
 } // namespace
 
 int show(ShowOptions const& options) {
-    Xml::AttributeType const* const type = findNamedType(options.type);
+    Xml::AttributeType const* const type = findNamedType(options.type, options.format);
     if (!type) return 2;
     std::vector<std::string> warnings;
     Core::Log::setHandler([&](Core::String const& message) { warnings.push_back(message.toUtf8()); });

@@ -80,7 +80,13 @@ int run(int argc, char** argv) {
     checkCommand
         ->add_option("--stdin-name", checking.stdinName, "Call standard input so in findings (default: <stdin>)")
         ->type_name("NAME");
-    addFormat(*checkCommand, checking.format);
+    Choices<ReportFormat const*> formats;
+    for (ReportFormat const& format : reportFormats()) formats.emplace_back(format.word, &format);
+    addChoice(*checkCommand, "--format", checking.format, "FORMAT", formats,
+              "text; json: one object a line; sarif and github: for services; html: a page to read");
+    checkCommand
+        ->add_option("--output", checking.output, "Write the report to this file, which appears when it is whole")
+        ->type_name("FILE");
     addColor(*checkCommand, checking.color);
     checkCommand->add_flag("-q,--quiet", checking.isQuiet, "Print no summary and no progress");
     checkCommand->add_flag("--strict", checking.isStrict,

@@ -1,5 +1,7 @@
 #include "output/Output.h"
 
+#include "output/Json.h"
+
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -18,6 +20,12 @@ void flushOutput() {
 void printError(std::string_view text) {
     flushOutput();
     std::fwrite(text.data(), 1, text.size(), stderr);
+}
+
+void tellFailure(std::string_view id, std::string const& message, bool asJson) {
+    if (!asJson) return printError("xmlattr: " + message + "\n");
+    print(toLine({{"severity", "fatal"}, {"id", id}, {"message", message}}));
+    flushOutput();
 }
 
 bool usesColor(ColorMode mode) {

@@ -17,6 +17,9 @@ void flushOutput();
 // Writes to standard error, after what was printed before.
 void printError(std::string_view text);
 
+// Says why a call cannot be carried out: on standard error, or as an object of JSON on standard output.
+void tellFailure(std::string_view id, std::string const& message, bool asJson);
+
 enum class ColorMode { Auto, Always, Never };
 
 // Whether standard output shows colours: NO_COLOR and a dumb terminal say no.

@@ -136,6 +136,45 @@ bool RawTag::says(std::size_t attribute, std::string_view value) const {
     return cursor.index == attributes[attribute].end;
 }
 
+// From one cursor to the index, which is reached from the other.
+Excerpt RawTag::excerpt(Cursor const& begin, Cursor end, std::size_t index) const {
+    while (end.index < index) advance(end);
+    constexpr std::size_t most = 120;
+    auto const isLineEnd = [](char32_t c) { return c == U'\n' || c == U'\r'; };
+    std::size_t first = begin.index, after = end.index;
+    while (first > 0 && begin.index - first < most && !isLineEnd(text[first - 1])) --first;
+    while (after < text.size() && after - end.index < most && !isLineEnd(text[after])) ++after;
+    return {toUtf8(slice(first, begin.index)), toUtf8(slice(begin.index, end.index)), toUtf8(slice(end.index, after)),
+            begin.place, end.place};
+}
+
+Excerpt RawTag::excerptOfElement() const {
+    if (text.empty()) return {};
+    Cursor begin{0, start};
+    advance(begin);
+    Cursor end = begin;
+    skip(end, [](char32_t c) { return !Xml::isXmlSpace(c) && c != U'/' && c != U'>'; });
+    return excerpt(begin, end, end.index);
+}
+
+Excerpt RawTag::excerptOfName(std::size_t attribute) const {
+    if (attribute >= attributes.size()) return {};
+    Attribute const& at = attributes[attribute];
+    return excerpt(at.name, at.name, at.nameEnd);
+}
+
+Excerpt RawTag::excerptOfValue(std::size_t attribute) const {
+    if (attribute >= attributes.size()) return {};
+    Attribute const& at = attributes[attribute];
+    return excerpt(at.value, at.value, at.end);
+}
+
+Excerpt RawTag::excerptInValue(std::size_t attribute, std::size_t offset, std::size_t length) {
+    if (attribute >= attributes.size() || !seek(attribute, offset)) return {};
+    Cursor const begin = last.cursor;
+    return seek(attribute, offset + length) ? excerpt(begin, begin, last.cursor.index) : Excerpt();
+}
+
 bool RawTag::refersOnlyTo(std::size_t attribute, std::set<std::string> const& entities) const {
     if (attribute >= attributes.size()) return false;
     for (auto rest = slice(attributes[attribute].value.index, attributes[attribute].end);;) {

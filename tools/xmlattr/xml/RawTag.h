@@ -15,6 +15,13 @@ struct Place {
     bool operator==(Place const&) const = default;
 };
 
+// A part of a tag as it is written, in UTF-8, with what stands before and after it on its lines in the tag. Lines
+// are cut at 120 code points. Empty where the tag does not have the part, which comes from an entity or a default.
+struct Excerpt {
+    std::string before, part, after;
+    Place begin, end; // the end is the place after the last character
+};
+
 // A well-formed start tag. Attributes are numbered in their order, declarations of namespaces left
 // out. What comes from an entity or a default has no tag of its own; its place is that of the tag.
 class RawTag {
@@ -44,6 +51,12 @@ public:
     std::u32string_view slice(std::size_t begin, std::size_t end) const {
         return std::u32string_view(text).substr(begin, end - begin);
     }
+    // The name of the element, the name and the value of an attribute, and `length` bytes of a value's UTF-8 from
+    // `offset` on.
+    Excerpt excerptOfElement() const;
+    Excerpt excerptOfName(std::size_t attribute) const;
+    Excerpt excerptOfValue(std::size_t attribute) const;
+    Excerpt excerptInValue(std::size_t attribute, std::size_t offset, std::size_t length);
     // Whether the tag has the attribute's text, with references to none but these entities and what
     // XML itself defines.
     bool refersOnlyTo(std::size_t attribute, std::set<std::string> const& entities) const;
@@ -63,8 +76,9 @@ private:
     template <class Belongs> void skip(Cursor& cursor, Belongs belongs) const;
     // Moves over one character of a value and tells it; 0 for an entity.
     char32_t takeOfValue(Cursor& cursor) const;
-    // Null where an entity comes before.
+    // Moves `last` there; null after an entity of the document's own.
     Cursor const* seek(std::size_t attribute, std::size_t offset);
+    Excerpt excerpt(Cursor const& begin, Cursor end, std::size_t index) const;
 
     std::u32string text;
     Place start;

@@ -1,0 +1,153 @@
+// Reports of findings whose texts and files try to be something else.
+#include "output/Report.h"
+#include "output/Json.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <regex>
+#include <sstream>
+#include <unistd.h>
+
+namespace Command {
+
+namespace {
+
+std::string const texts[] = {
+    "\"><script>hacked=1</script>",
+    "</style><img src=x onerror=hacked=1>",
+    "' onmouseover='hacked=1",
+    "]]>&lt;&#60;",
+    "\xE2\x80\xA8\xE2\x80\xAE\xEF\xBB\xBF", // the end of a line, the other direction, a byte order mark
+    "\x01\x1B[31m\x7F\xC2\x9B",
+    "\r\n::error file=x::%0A,",
+    "`<b>`\\",
+};
+std::string const file = "a\xFF\xFE<b>:,%\n\".svg";
+
+std::filesystem::path const folder =
+    std::filesystem::path(testing::TempDir()) / ("xmlattr-reports" + std::to_string(getpid()));
+
+std::string contentOf(std::filesystem::path const& path) {
+    std::ifstream content(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(content), {}};
+}
+
+Finding findingOf(std::string const& text) {
+    Finding finding;
+    finding.fault = Fault::Lenient;
+    finding.element = finding.attribute = finding.text = finding.part = finding.held = finding.replacement = text;
+    finding.source = {text, text, text, {1, 1}, {1, 2}};
+    finding.entry = Xml::Catalogue::find(Xml::Vocabulary::Fo, "block", "color");
+    return finding;
+}
+
+// All the texts as findings, and as failures, in a report.
+std::string reportOf(std::string_view format) {
+    std::filesystem::create_directories(folder);
+    std::string const path = (folder / "report").string();
+    ReportFile out(path);
+    auto const row = std::ranges::find(reportFormats(), format, &ReportFormat::word);
+    auto const reporter = row->make(out, {.isQuiet = true});
+    Counts counts;
+    for (std::string const& text : texts) {
+        reporter->finding(file, findingOf(text));
+        reporter->failure(file, {"malformed", text, Place{1, 2}});
+    }
+    reporter->group({findingOf(texts[0]), 3, {{file, {1, 1}}, {file, {2, 1}}}});
+    counts.warnings = std::size(texts) + 3;
+    reporter->finish(counts, counts.warnings);
+    out.complete();
+    std::string const report = contentOf(path);
+    std::filesystem::remove_all(folder);
+    return report;
+}
+
+TEST(Report, JsonKeepsEveryText) {
+    std::istringstream lines(reportOf("json"));
+    std::size_t count = 0;
+    for (std::string line; std::getline(lines, line); ++count) {
+        Json const object = Json::parse(line);
+        EXPECT_EQ(object["file"], "a\uFFFD\uFFFD<b>:,%\n\".svg");
+        if (count == 2 * std::size(texts)) {
+            EXPECT_EQ(object["places"].size(), 2);
+        } else {
+            bool const isFailure = count % 2 == 1;
+            EXPECT_EQ(object[isFailure ? "message" : "text"], texts[count / 2]);
+            EXPECT_EQ(object["severity"], isFailure ? "fatal" : "warning");
+        }
+    }
+    EXPECT_EQ(count, 2 * std::size(texts) + 1);
+}
+
+TEST(Report, SarifKeepsEveryText) {
+    Json const run = Json::parse(reportOf("sarif"))["runs"][0];
+    Json const& results = run["results"];
+    ASSERT_EQ(results.size(), std::size(texts) + 1);
+    for (std::size_t i = 0; i < std::size(texts); ++i) {
+        Json const& place = results[i]["locations"][0]["physicalLocation"];
+        EXPECT_EQ(place["artifactLocation"]["uri"], "./a%FF%FE%3Cb%3E:,%25%0A%22.svg");
+        EXPECT_EQ(place["region"]["snippet"]["text"], texts[i]);
+        EXPECT_EQ(run["invocations"][0]["toolExecutionNotifications"][i]["message"]["text"], texts[i]);
+    }
+    EXPECT_EQ(results.back()["occurrenceCount"], 3);
+    EXPECT_FALSE(results.back().contains("baselineState"));
+}
+
+TEST(Report, GithubHasOneCommandALine) {
+    std::istringstream lines(reportOf("github"));
+    std::size_t count = 0;
+    std::regex const command("::(warning|error) file=a\xFF\xFE<b>%3A%2C%25%0A\".svg,line=1,col=[12],title=[a-z-]+::.*");
+    for (std::string line; std::getline(lines, line); ++count) {
+        EXPECT_TRUE(std::regex_match(line, command)) << line;
+        EXPECT_EQ(line.find('\r'), std::string::npos);
+    }
+    EXPECT_EQ(count, 2 * std::size(texts) + 1);
+}
+
+TEST(Report, HtmlHasNoMarkupFromDocuments) {
+    std::string const page = reportOf("html");
+    auto const count = [&](std::string_view text) {
+        std::size_t number = 0;
+        for (std::size_t at = page.find(text); at != page.npos; at = page.find(text, at + 1)) ++number;
+        return number;
+    };
+    EXPECT_EQ(count("<script"), 1);
+    EXPECT_EQ(count("<style"), 1);
+    EXPECT_EQ(count("<article"), std::size(texts));
+    for (std::string_view const text :
+         {"<img", "<b>", "onmouseover='", "\xE2\x80\xA8", "\xE2\x80\xAE", "\xEF\xBB\xBF", "\xFF", "\xC2\x9B"})
+        EXPECT_EQ(count(text), 0) << text;
+    EXPECT_TRUE(std::ranges::none_of(page, [](char c) { return c >= 0 && c < ' ' && c != '\n' && c != '\t'; }));
+    EXPECT_GT(count("\\u{202e}"), 0);
+}
+
+TEST(ReportFile, HasItsNameWhenItIsComplete) {
+    std::filesystem::create_directories(folder);
+    std::string const path = (folder / "report").string();
+    std::ofstream(path) << "before";
+    auto const files = [] { return std::distance(std::filesystem::directory_iterator(folder), {}); };
+    {
+        ReportFile file(path);
+        file.write("half");
+        EXPECT_EQ(contentOf(path), "before");
+        EXPECT_EQ(files(), 2);
+    }
+    EXPECT_EQ(contentOf(path), "before");
+    EXPECT_EQ(files(), 1);
+    {
+        ReportFile file(path);
+        file.write("whole");
+        file.complete();
+    }
+    EXPECT_EQ(contentOf(path), "whole");
+    EXPECT_EQ(files(), 1);
+    EXPECT_THROW(ReportFile((folder / "missing" / "report").string()), std::runtime_error);
+    std::filesystem::remove_all(folder);
+}
+
+} // namespace
+
+} // namespace Command
