@@ -7,6 +7,7 @@
 #include "xmlattr/catalogue/legality/Advice.h"
 #include "xmlattr/catalogue/legality/StyleAttribute.h"
 
+#include <iterator>
 #include <utility>
 
 namespace Command {
@@ -32,6 +33,17 @@ std::optional<Xml::NameFact> unknownElement(Xml::Vocabulary vocabulary, std::str
 }
 
 } // namespace
+
+Counts& Counts::operator+=(Counts const& other) {
+    constexpr std::uint64_t Counts::*all[] = {
+        &Counts::files,      &Counts::failedFiles, &Counts::attributes, &Counts::declarations, &Counts::read,
+        &Counts::passedOver, &Counts::freeText,    &Counts::misread,    &Counts::lenient,      &Counts::refused,
+        &Counts::foreign,    &Counts::templates,   &Counts::tooLong,    &Counts::unread,       &Counts::unknown,
+        &Counts::errors,     &Counts::warnings,    &Counts::ignored,    &Counts::known};
+    static_assert(sizeof(Counts) == std::size(all) * sizeof(std::uint64_t), "each is added");
+    for (std::uint64_t Counts::*const count : all) this->*count += other.*count;
+    return *this;
+}
 
 // An attribute of a tag, a declaration in one, or what an xsl:attribute holds.
 struct Checker::Occurrence {

@@ -28,9 +28,12 @@ struct Counts {
     std::uint64_t foreign = 0, templates = 0, tooLong = 0, unread = 0, unknown = 0;
     // Findings.
     std::uint64_t errors = 0, warnings = 0;
+    // What would be findings, had the user not left it out or recorded it in a baseline.
+    std::uint64_t ignored = 0, known = 0;
 
     std::uint64_t notCovered() const { return foreign + templates + tooLong + unread + unknown; }
     std::uint64_t findings() const { return errors + warnings; }
+    Counts& operator+=(Counts const& other);
 };
 
 class Checker final : public XmlHandler {

@@ -25,6 +25,9 @@ struct CheckOptions {
     ColorMode color = ColorMode::Auto;
     bool isQuiet = false, isStrict = false;
     std::uint64_t maxFindings = UINT64_MAX;
+    std::vector<std::string> ignored, only; // as Filter has them
+    bool isGrouped = false;
+    unsigned jobs = 0; // threads; 0 for as many as there are cores
 };
 
 struct ShowOptions {

@@ -59,6 +59,10 @@ std::string checkCount(std::string const& text) {
     return isCount ? "" : inQuotes(printable(text)) + " is no whole number";
 }
 
+void addNames(CLI::App& app, std::string const& name, std::vector<std::string>& names, std::string const& help) {
+    app.add_option(name, names, help)->allow_extra_args(false)->delimiter(',')->type_name("WHAT");
+}
+
 int run(int argc, char** argv) {
     CLI::App app("Check the attributes of XSL-FO and SVG documents", "xmlattr");
     app.set_help_flag("-h,--help", "Print this help and exit");
@@ -92,6 +96,15 @@ int run(int argc, char** argv) {
     checkCommand->add_flag("--strict", checking.isStrict,
                            "Report attributes on elements that do not have them too, and fail for warnings too");
     checkCommand->add_option("--max-findings", checking.maxFindings, "Print no more findings than this (default: all)")
+        ->check(checkCount)
+        ->type_name("N");
+    addNames(*checkCommand, "--ignore", checking.ignored,
+             "Leave out findings with this id, attribute:NAME or element:NAME");
+    addNames(*checkCommand, "--only", checking.only,
+             "Report only findings with this id, attribute:NAME or element:NAME");
+    checkCommand->add_flag("--group", checking.isGrouped,
+                           "Show equal findings once, with their number; the most frequent first");
+    checkCommand->add_option("-j,--jobs", checking.jobs, "Check so many files at a time; as many as there are cores")
         ->check(checkCount)
         ->type_name("N");
     addExplain(*checkCommand, explained);

@@ -1,0 +1,15 @@
+// What a user asks for that may differ from file to file.
+#pragma once
+
+#include "running/Filter.h"
+
+#include <optional>
+
+namespace Command {
+
+struct FileSettings {
+    std::optional<bool> isStrict;
+    Filter filter;
+};
+
+} // namespace Command
