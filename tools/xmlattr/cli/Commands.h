@@ -27,6 +27,7 @@ struct CheckOptions {
     std::uint64_t maxFindings = UINT64_MAX;
     std::vector<std::string> ignored, only; // as Filter has them
     bool isGrouped = false;
+    std::string baseline, newBaseline; // files; empty for none
     unsigned jobs = 0; // threads; 0 for as many as there are cores
 };
 

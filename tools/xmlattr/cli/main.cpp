@@ -104,6 +104,12 @@ int run(int argc, char** argv) {
              "Report only findings with this id, attribute:NAME or element:NAME");
     checkCommand->add_flag("--group", checking.isGrouped,
                            "Show equal findings once, with their number; the most frequent first");
+    checkCommand->add_option("--baseline", checking.baseline, "Leave out the findings that are recorded in this file")
+        ->type_name("FILE");
+    checkCommand
+        ->add_option("--write-baseline", checking.newBaseline,
+                     "Record the findings in this file; they are no faults then")
+        ->type_name("FILE");
     checkCommand->add_option("-j,--jobs", checking.jobs, "Check so many files at a time; as many as there are cores")
         ->check(checkCount)
         ->type_name("N");

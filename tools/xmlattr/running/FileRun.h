@@ -3,7 +3,7 @@
 #pragma once
 
 #include "checking/Checker.h"
-#include "running/FileSettings.h"
+#include "selecting/FileSettings.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,6 +1,7 @@
 // Texts between documents, which are UTF-8, and value types, which read UTF-16.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,6 +22,9 @@ constexpr std::size_t utf8Length(char32_t c) {
 std::string printable(std::string_view utf8);
 
 std::string inQuotes(std::string_view text);
+
+// "1 file", "2 files"; where the plural is another word, that too: "2 entries".
+std::string counted(std::uint64_t number, std::string_view noun, std::string_view plural = {});
 
 // "a", "a or b", "a, b or c".
 std::string joinWith(std::vector<std::string> const& words, std::string_view last);

@@ -1,4 +1,4 @@
-#include "running/Filter.h"
+#include "selecting/Filter.h"
 
 #include "text/Text.h"
 

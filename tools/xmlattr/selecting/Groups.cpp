@@ -1,4 +1,4 @@
-#include "running/Groups.h"
+#include "selecting/Groups.h"
 
 #include <algorithm>
 
@@ -12,8 +12,8 @@ void Groups::add(std::string const& file, Finding const& finding) {
     };
     auto at = known.find(keyOf(finding));
     if (at == known.end()) {
-        FindingGroup& group = groups.emplace_back(finding, 0, std::vector<FindingGroup::FilePlace>());
-        at = known.emplace(keyOf(group.finding), &group).first;
+        groups.push_back({finding, 0, {}});
+        at = known.emplace(keyOf(groups.back().finding), &groups.back()).first;
     }
     FindingGroup& group = *at->second;
     ++group.count;

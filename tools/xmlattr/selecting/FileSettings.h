@@ -1,7 +1,7 @@
 // What a user asks for that may differ from file to file.
 #pragma once
 
-#include "running/Filter.h"
+#include "selecting/Filter.h"
 
 #include <optional>
 
