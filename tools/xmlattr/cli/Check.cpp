@@ -1,11 +1,12 @@
 #include "cli/Commands.h"
 #include "cli/Files.h"
 #include "output/Report.h"
-#include "selecting/Baseline.h"
 #include "running/FileRun.h"
-#include "selecting/Groups.h"
 #include "running/Progress.h"
 #include "running/Stop.h"
+#include "selecting/Baseline.h"
+#include "selecting/Configuration.h"
+#include "selecting/Groups.h"
 #include "text/Text.h"
 
 #include "xmlattr/core/Log.h"
@@ -14,6 +15,7 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
+#include <span>
 #include <thread>
 
 namespace Command {
@@ -29,38 +31,47 @@ struct Baselines {
     std::optional<Baseline> known, recorded;
 };
 
+struct TellOptions {
+    bool isQuiet = false, isGrouped = false;
+    std::uint64_t maxFindings = UINT64_MAX;
+};
+
 // Counts what the files say, and has it reported.
 class Telling final : public RunListener {
 public:
-    Telling(CheckOptions const& options, std::vector<std::string> const& files, Baselines& baselines,
-            Reporter& reporter, Progress& progress)
-        : options(options), files(files), baselines(baselines), reporter(reporter), progress(progress) {}
+    Telling(TellOptions const& options, std::span<std::string const> names, Baselines& baselines, Reporter& reporter,
+            Progress& progress)
+        : options(options), names(names), baselines(baselines), reporter(reporter), progress(progress) {}
 
     void finding(std::size_t file, Finding const& finding) override {
-        std::string const& name = nameOf(file);
-        if (baselines.recorded) baselines.recorded->add(name, finding);
+        if (baselines.recorded) baselines.recorded->add(names[file], finding);
         // What is recorded is known from now on.
-        if (baselines.recorded || (baselines.known && baselines.known->take(name, finding))) {
-            ++counts.known;
-            if (kindOf(finding.fault).isError) ++knownErrors;
+        if (baselines.recorded || (baselines.known && baselines.known->take(names[file], finding))) {
+            ++(kindOf(finding.fault).isError ? known.errors : known.warnings);
             return;
         }
-        if (options.isGrouped) return groups.add(name, finding);
+        if (options.isGrouped) return groups.add(names[file], finding);
         if (shown == options.maxFindings) return;
         ++shown;
         progress.clear();
-        reporter.finding(name, finding);
+        reporter.finding(names[file], finding);
     }
 
     void ended(std::size_t file, FileEnd const& end) override {
-        counts += end.counts;
+        Counts ofFile = end.counts;
+        ofFile.known = known.findings();
+        ofFile.errors -= known.errors;
+        ofFile.warnings -= known.warnings;
+        known = {};
+        counts += ofFile;
+        hasFaults = hasFaults || ofFile.errors > 0 || (end.isStrict && ofFile.warnings > 0);
         done = file + 1;
         if (!end.failure) {
-            if (baselines.known) baselines.known->finish(nameOf(file));
+            if (baselines.known) baselines.known->finish(names[file]);
             return;
         }
         progress.clear();
-        reporter.failure(nameOf(file), *end.failure);
+        reporter.failure(names[file], *end.failure);
     }
 
     std::uint64_t wanted() const override {
@@ -70,11 +81,9 @@ public:
 
     void passed(std::uint64_t bytes) override { progress.draw(done, bytes); }
 
-    // Ends the report; gives what was counted.
-    Counts finish() {
+    // Ends the report; gives the exit code.
+    int finish() {
         progress.clear();
-        counts.errors -= knownErrors;
-        counts.warnings -= counts.known - knownErrors;
         std::vector<FindingGroup const*> const sorted = groups.byCount();
         for (FindingGroup const* const group : sorted) {
             if (shown == options.maxFindings) break;
@@ -82,35 +91,35 @@ public:
             reporter.group(*group);
         }
         reporter.finish(counts, shown);
-        if (!options.isQuiet && !sorted.empty()) {
+        if (!options.isQuiet && !sorted.empty() && sorted.front()->count > 1) {
             FindingGroup const& first = *sorted.front();
             printError(counted(sorted.size(), "distinct finding") + "; the most frequent " +
                        counted(first.count, "time") + ": " + first.finding.message() + " [" +
                        std::string(kindOf(first.finding.fault).id) + "]\n");
         }
-        return counts;
+        return counts.failedFiles > 0 ? 2 : hasFaults ? 1 : 0;
     }
 
 private:
-    std::string const& nameOf(std::size_t file) const { return files[file] == "-" ? options.stdinName : files[file]; }
-
-    CheckOptions const& options;
-    std::vector<std::string> const& files;
+    TellOptions const& options;
+    std::span<std::string const> names; // of the files
     Baselines& baselines;
     Reporter& reporter;
     Progress& progress;
     Groups groups;
     Counts counts;
-    std::uint64_t shown = 0, knownErrors = 0;
+    Counts known; // findings of the file at hand, by the baseline
+    bool hasFaults = false;
+    std::uint64_t shown = 0;
     std::size_t done = 0;
 };
 
 // What a baseline has that the documents no longer have.
-void printGone(std::string const& file, Baseline const& baseline) {
+void printGone(Baseline const& baseline) {
     constexpr std::size_t most = 20;
     std::vector<std::string> const lines = baseline.gone();
     if (lines.empty()) return;
-    printError(file + ": " + counted(lines.size(), "entry", "entries") + " that no longer " +
+    printError(baseline.path() + ": " + counted(lines.size(), "entry", "entries") + " that no longer " +
                (lines.size() == 1 ? "occurs" : "occur") + "; --write-baseline records what is there\n");
     for (std::size_t i = 0; i < std::min(most, lines.size()); ++i) printError("  " + lines[i] + "\n");
     if (lines.size() > most) printError("  and " + std::to_string(lines.size() - most) + " more\n");
@@ -126,6 +135,38 @@ std::uint64_t sizeOf(std::vector<std::string> const& files) {
     return sum;
 }
 
+// What is wrong with the call, or a file that it names.
+using Problem = std::optional<std::string>;
+
+Problem readFilter(CheckOptions const& options, Filter& filter) {
+    for (std::string const& name : options.ignored)
+        if (auto const problem = filter.ignore(name)) return "--ignore: " + *problem;
+    for (std::string const& name : options.only)
+        if (auto const problem = filter.only(name)) return "--only: " + *problem;
+    return std::nullopt;
+}
+
+// Adds the settings of each document. What holds for the whole run is taken from the configuration of the first.
+Problem readConfigurations(CheckOptions const& options, std::span<std::string const> names,
+                           Configurations& configurations, std::vector<FileJob>& jobs, RunSettings& run) {
+    if (!options.configuration.empty())
+        if (auto problem = configurations.use(options.configuration)) return problem;
+    for (std::size_t i = 0; i < jobs.size(); ++i) {
+        Configuration const* configuration = nullptr;
+        if (auto problem = configurations.find(names[i], configuration)) return problem;
+        if (!configuration) continue;
+        configuration->addSettings(names[i], jobs[i].settings);
+        if (i == 0) run = configuration->run;
+    }
+    return std::nullopt;
+}
+
+Problem openBaselines(CheckOptions const& options, RunSettings const& run, Baselines& baselines) {
+    if (options.newBaseline) baselines.recorded.emplace(*options.newBaseline);
+    std::optional<std::string> const& known = options.baseline ? options.baseline : run.baseline;
+    return known ? baselines.known.emplace(*known).read() : std::nullopt;
+}
+
 } // namespace
 
 int check(CheckOptions const& options) {
@@ -134,48 +175,51 @@ int check(CheckOptions const& options) {
 
     FileSettings settings;
     if (options.isStrict) settings.isStrict = true;
-    for (std::string const& name : options.ignored)
-        if (auto const problem = settings.filter.ignore(name)) return usageError("--ignore: " + *problem);
-    for (std::string const& name : options.only)
-        if (auto const problem = settings.filter.only(name)) return usageError("--only: " + *problem);
-
+    if (auto const problem = readFilter(options, settings.filter)) return usageError(*problem);
     std::vector<std::string> paths = options.paths;
-    std::string problem;
-    if (!options.filesFrom.empty() && !readPaths(options.filesFrom, paths, problem)) return usageError(problem);
+    std::string unread;
+    if (!options.filesFrom.empty() && !readPaths(options.filesFrom, paths, unread)) return usageError(unread);
     FileList const list = gatherFiles(paths);
     for (std::string const& line : list.problems) printError("xmlattr: " + line + "\n");
 
-    Baselines baselines;
-    if (!options.baseline.empty()) {
-        baselines.known.emplace(options.baseline);
-        if (auto const wrong = baselines.known->read()) return usageError(*wrong);
-    }
-    if (!options.newBaseline.empty()) baselines.recorded.emplace(options.newBaseline);
-
+    std::vector<std::string> names = list.files;
+    std::ranges::replace(names, "-", options.stdinName);
     std::vector<FileJob> jobs;
-    for (std::string const& file : list.files) jobs.push_back({file, {&settings}});
+    for (std::string const& file : list.files) jobs.push_back({file, {}});
+    Configurations configurations;
+    RunSettings run;
+    if (auto const problem = readConfigurations(options, names, configurations, jobs, run)) return usageError(*problem);
+    for (FileJob& job : jobs) job.settings.push_back(&settings);
+    Baselines baselines;
+    if (auto const problem = openBaselines(options, run, baselines)) return usageError(*problem);
+
+    TellOptions const telling{options.isQuiet || run.isQuiet.value_or(false),
+                              options.isGrouped || run.isGrouped.value_or(false),
+                              options.maxFindings.value_or(run.maxFindings.value_or(UINT64_MAX))};
+    ColorMode const color = options.color.value_or(run.color.value_or(ColorMode::Auto));
+    ReportFormat const& format = options.format ? *options.format : run.format ? **run.format : reportFormats().front();
     ReportFile report(options.output);
-    std::unique_ptr<Reporter> const reporter = options.format->make(
-        report, {options.output.empty() && usesColor(options.color), options.isQuiet, !options.baseline.empty()});
-    bool const showsProgress = !options.isQuiet && isErrorTerminal();
+    std::unique_ptr<Reporter> const reporter =
+        format.make(report, {options.output.empty() && usesColor(color), telling.isQuiet, baselines.known.has_value()});
+    bool const showsProgress = !telling.isQuiet && isErrorTerminal();
     Progress progress(jobs.size(), showsProgress ? sizeOf(list.files) : 0, showsProgress);
-    Telling telling(options, list.files, baselines, *reporter, progress);
+    Telling teller(telling, names, baselines, *reporter, progress);
     // A stop would wait for what somebody types.
     std::optional<Stop> stop;
     if (std::ranges::find(list.files, "-") == list.files.end()) stop.emplace();
-    unsigned const threads = options.jobs > 0 ? options.jobs : std::max(1U, std::thread::hardware_concurrency());
-    std::size_t const told = runFiles(jobs, threads, telling);
-    Counts const counts = telling.finish();
+    std::uint64_t const threads = options.jobs.value_or(run.jobs.value_or(0));
+    std::size_t const told =
+        runFiles(jobs, threads > 0 ? threads : std::max(1U, std::thread::hardware_concurrency()), teller);
+    int const code = teller.finish();
     if (told < jobs.size()) {
         printError("xmlattr: stopped after " + std::to_string(told) + " of " + counted(jobs.size(), "file") + "\n");
         flushOutput();
         Stop::end();
     }
     report.complete();
-    if (baselines.known && !options.isQuiet) printGone(options.baseline, *baselines.known);
+    if (baselines.known && !telling.isQuiet) printGone(*baselines.known);
     if (baselines.recorded) baselines.recorded->write();
-    if (counts.failedFiles > 0 || !list.problems.empty()) return 2;
-    return counts.errors > 0 || (options.isStrict && counts.warnings > 0) ? 1 : 0;
+    return list.problems.empty() ? code : 2;
 }
 
 } // namespace Command

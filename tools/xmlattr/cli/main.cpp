@@ -48,7 +48,7 @@ void addExplain(CLI::App& app, std::string& id) {
     app.add_option("--explain", id, "Print what findings with this id mean, and exit")->type_name("ID");
 }
 
-void addColor(CLI::App& app, ColorMode& color) {
+template <class Color> void addColor(CLI::App& app, Color& color) {
     addChoice<ColorMode>(app, "--color", color,
                          {{"auto", ColorMode::Auto}, {"always", ColorMode::Always}, {"never", ColorMode::Never}},
                          "Print in colour; auto does on a terminal, unless NO_COLOR is set (default: auto)");
@@ -86,7 +86,7 @@ int run(int argc, char** argv) {
         ->type_name("NAME");
     Choices<ReportFormat const*> formats;
     for (ReportFormat const& format : reportFormats()) formats.emplace_back(format.word, &format);
-    addChoice(*checkCommand, "--format", checking.format, "FORMAT", formats,
+    addChoice(*checkCommand, "--format", checking.format, formats,
               "text; json: one object a line; sarif and github: for services; html: a page to read");
     checkCommand
         ->add_option("--output", checking.output, "Write the report to this file, which appears when it is whole")
@@ -109,6 +109,10 @@ int run(int argc, char** argv) {
     checkCommand
         ->add_option("--write-baseline", checking.newBaseline,
                      "Record the findings in this file; they are no faults then")
+        ->type_name("FILE");
+    checkCommand
+        ->add_option("--config", checking.configuration,
+                     "The configuration; else the nearest xmlattr.toml of each document")
         ->type_name("FILE");
     checkCommand->add_option("-j,--jobs", checking.jobs, "Check so many files at a time; as many as there are cores")
         ->check(checkCount)

@@ -78,10 +78,10 @@ std::size_t sizeOf(Finding const& finding) {
 
 class Run {
 public:
-    Run(std::span<FileJob const> jobs, unsigned threads, RunListener& listener)
+    Run(std::span<FileJob const> jobs, std::uint64_t threads, RunListener& listener)
         : jobs(jobs), listener(listener), queue(mostWaiting) {
         shared.wanted = listener.wanted();
-        for (std::size_t i = 0; i < std::min<std::size_t>(threads, jobs.size()); ++i)
+        for (std::size_t i = 0; i < std::min<std::uint64_t>(threads, jobs.size()); ++i)
             workers.emplace_back([this] { work(); });
     }
     Run(Run const&) = delete;
@@ -136,6 +136,7 @@ private:
             if (settings->isStrict) options.isStrict = *settings->isStrict;
             if (!settings->filter.isEmpty()) options.maxFindings = UINT64_MAX; // each has to be looked at
         }
+        end.file.isStrict = options.isStrict;
         Counts& counts = end.file.counts;
         std::uint64_t ignoredErrors = 0;
         auto const report = [&](Finding const& finding) {
@@ -173,7 +174,7 @@ private:
 
 } // namespace
 
-std::size_t runFiles(std::span<FileJob const> jobs, unsigned threads, RunListener& listener) {
+std::size_t runFiles(std::span<FileJob const> jobs, std::uint64_t threads, RunListener& listener) {
     return Run(jobs, threads, listener).tell();
 }
 

@@ -22,6 +22,7 @@ struct FileJob {
 struct FileEnd {
     Counts counts;
     std::optional<XmlFailure> failure;
+    bool isStrict = false; // was checked so
 };
 
 class RunListener {
@@ -37,6 +38,6 @@ public:
 
 // Gives how many files were told to their end: all of them, unless Stop was requested. The file at hand is told as far
 // as it was read then, and is not among them.
-std::size_t runFiles(std::span<FileJob const> jobs, unsigned threads, RunListener& listener);
+std::size_t runFiles(std::span<FileJob const> jobs, std::uint64_t threads, RunListener& listener);
 
 } // namespace Command

@@ -19,6 +19,8 @@ public:
     // The file is neither read nor written yet.
     explicit Baseline(std::string file);
 
+    std::string const& path() const { return file; }
+
     // Gives what is wrong with the file; then the baseline is empty.
     [[nodiscard]] std::optional<std::string> read();
     // The file keeps what it holds until the new one is whole. Throws std::runtime_error when it cannot be written.

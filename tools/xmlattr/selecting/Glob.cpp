@@ -1,5 +1,6 @@
 #include "selecting/Glob.h"
 
+#include <string>
 #include <utility>
 
 namespace Command {
@@ -64,7 +65,7 @@ bool matchesParts(std::string_view pattern, std::string_view path) {
 } // namespace
 
 bool matchesGlob(std::string_view pattern, std::string_view path) {
-    if (pattern.ends_with('/')) return path.starts_with(pattern) || matchesParts(pattern, path.substr(0, path.rfind('/') + 1));
+    if (pattern.ends_with('/')) return matchesParts(std::string(pattern) + "**", path);
     if (pattern.find('/') == pattern.npos) return matchesPart(pattern, path.substr(path.rfind('/') + 1));
     return matchesParts(pattern, path);
 }
