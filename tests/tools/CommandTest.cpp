@@ -1,57 +1,16 @@
 // Runs the command as its users do.
 
+#include "tools/RunCommand.h"
+
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <string>
-#include <sys/wait.h>
 
+namespace Command {
 namespace {
 
 using namespace std::string_literals;
-
-std::string const scratch =
-    (std::filesystem::path(testing::TempDir()) / ("xmlattr" + std::to_string(getpid()))).string();
-
-// Nothing stays in the folder for temporary files.
-struct Cleaning : testing::Environment {
-    void TearDown() override { std::filesystem::remove_all(scratch); }
-};
-
-testing::Environment const* const cleaning = testing::AddGlobalTestEnvironment(new Cleaning);
-
-struct Result {
-    std::string output, errors;
-    int code;
-};
-
-std::string contentOf(std::string const& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-std::string write(std::string const& name, std::string const& content) {
-    std::filesystem::create_directories(scratch);
-    std::string const path = scratch + "/" + name;
-    std::ofstream(path, std::ios::binary) << content;
-    return path;
-}
-
-Result run(std::string const& arguments) {
-    std::string const errors = write("errors", "");
-    std::FILE* const pipe = popen((XMLATTR_COMMAND " "s + arguments + " 2>" + errors).c_str(), "r");
-    Result result{};
-    std::array<char, 4096> buffer;
-    while (std::size_t const count = std::fread(buffer.data(), 1, buffer.size(), pipe))
-        result.output.append(buffer.data(), count);
-    int const status = pclose(pipe);
-    result.code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    result.errors = contentOf(errors);
-    return result;
-}
 
 // The places of the findings, "line:column" each.
 std::string placesIn(std::string const& output, std::string const& file) {
@@ -280,3 +239,4 @@ TEST(Command, EndsCleanlyWhenNobodyReads) {
 }
 
 } // namespace
+} // namespace Command

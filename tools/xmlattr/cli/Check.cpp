@@ -163,7 +163,9 @@ Problem readConfigurations(CheckOptions const& options, std::span<std::string co
 
 Problem openBaselines(CheckOptions const& options, RunSettings const& run, Baselines& baselines) {
     if (options.newBaseline) baselines.recorded.emplace(*options.newBaseline);
-    std::optional<std::string> const& known = options.baseline ? options.baseline : run.baseline;
+    // A baseline that is written for the first time is not there yet.
+    bool const isConfigured = !options.baseline && !options.newBaseline;
+    std::optional<std::string> const& known = isConfigured ? run.baseline : options.baseline;
     return known ? baselines.known.emplace(*known).read() : std::nullopt;
 }
 
