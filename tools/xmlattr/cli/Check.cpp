@@ -47,7 +47,7 @@ public:
         if (baselines.recorded) baselines.recorded->add(names[file], finding);
         // What is recorded is known from now on.
         if (baselines.recorded || (baselines.known && baselines.known->take(names[file], finding))) {
-            ++(kindOf(finding.fault).isError ? known.errors : known.warnings);
+            ++known.of(kindOf(finding.fault).severity);
             return;
         }
         if (options.isGrouped) return groups.add(names[file], finding);
@@ -59,9 +59,7 @@ public:
 
     void ended(std::size_t file, FileEnd const& end) override {
         Counts ofFile = end.counts;
-        ofFile.known = known.findings();
-        ofFile.errors -= known.errors;
-        ofFile.warnings -= known.warnings;
+        ofFile.known = ofFile.leaveOut(known);
         known = {};
         counts += ofFile;
         hasFaults = hasFaults || ofFile.errors > 0 || (end.isStrict && ofFile.warnings > 0);
@@ -138,11 +136,14 @@ std::uint64_t sizeOf(std::vector<std::string> const& files) {
 // What is wrong with the call, or a file that it names.
 using Problem = std::optional<std::string>;
 
-Problem readFilter(CheckOptions const& options, Filter& filter) {
+Problem readSettings(CheckOptions const& options, FileSettings& settings) {
+    if (options.isStrict) settings.isStrict = true;
     for (std::string const& name : options.ignored)
-        if (auto const problem = filter.ignore(name)) return "--ignore: " + *problem;
+        if (auto const problem = settings.filter.ignore(name)) return "--ignore: " + *problem;
     for (std::string const& name : options.only)
-        if (auto const problem = filter.only(name)) return "--only: " + *problem;
+        if (auto const problem = settings.filter.only(name)) return "--only: " + *problem;
+    for (std::string const& word : options.shown)
+        if (auto const problem = settings.shown.add(word)) return "--show: " + *problem;
     return std::nullopt;
 }
 
@@ -176,8 +177,7 @@ int check(CheckOptions const& options) {
     Core::Log::setHandler([](Core::String const&) {});
 
     FileSettings settings;
-    if (options.isStrict) settings.isStrict = true;
-    if (auto const problem = readFilter(options, settings.filter)) return usageError(*problem);
+    if (auto const problem = readSettings(options, settings)) return usageError(*problem);
     std::vector<std::string> paths = options.paths;
     std::string unread;
     if (!options.filesFrom.empty() && !readPaths(options.filesFrom, paths, unread)) return usageError(unread);

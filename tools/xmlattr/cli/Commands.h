@@ -28,7 +28,7 @@ struct CheckOptions {
     bool isQuiet = false, isStrict = false, isGrouped = false;
     std::optional<std::uint64_t> maxFindings;
     std::optional<std::uint64_t> jobs;                // threads; as many as there are cores
-    std::vector<std::string> ignored, only;           // as Filter has them
+    std::vector<std::string> ignored, only, shown;    // as Filter and Shown have them
     std::optional<std::string> baseline, newBaseline; // files
 };
 

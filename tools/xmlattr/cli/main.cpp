@@ -102,6 +102,8 @@ int run(int argc, char** argv) {
              "Leave out findings with this id, attribute:NAME or element:NAME");
     addNames(*checkCommand, "--only", checking.only,
              "Report only findings with this id, attribute:NAME or element:NAME");
+    addNames(*checkCommand, "--show", checking.shown,
+             "Also report what is only counted: passed-over, not-covered or unknown");
     checkCommand->add_flag("--group", checking.isGrouped,
                            "Show equal findings once, with their number; the most frequent first");
     checkCommand->add_option("--baseline", checking.baseline, "Leave out the findings that are recorded in this file")

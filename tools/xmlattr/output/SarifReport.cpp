@@ -51,7 +51,7 @@ Json rules() {
                        {"shortDescription", {{"text", text.substr(0, std::min(text.find(". "), text.size() - 1) + 1)}}},
                        {"fullDescription", {{"text", text}}},
                        {"help", {{"text", text}}},
-                       {"defaultConfiguration", {{"level", kind.isError ? "error" : "warning"}}}});
+                       {"defaultConfiguration", {{"level", wordOf(kind.severity)}}}});
     }
     return all;
 }
@@ -123,7 +123,7 @@ private:
         FaultKind const& kind = kindOf(finding.fault);
         Json result = {{"ruleId", kind.id},
                        {"ruleIndex", &kind - faultKinds().data()},
-                       {"level", kind.isError ? "error" : "warning"},
+                       {"level", wordOf(kind.severity)},
                        {"message", {{"text", finding.message()}}},
                        {"locations", {locationOf(file, regionOf(finding))}},
                        {"partialFingerprints", {{"findingHash/v1", fingerprint(file, finding)}}}};

@@ -131,20 +131,23 @@ private:
         end.isStopped = shared.isStopping;
         if (end.isStopped) return; // and was not begun
         FileJob const& job = jobs[number];
-        Checker::Options options{shared.wanted, false};
+        Checker::Options options;
+        options.maxFindings = shared.wanted;
         for (FileSettings const* const settings : job.settings) {
             if (settings->isStrict) options.isStrict = *settings->isStrict;
+            options.showsPassedOver |= settings->shown.passedOver;
+            options.showsNotCovered |= settings->shown.notCovered;
+            options.showsUnknown |= settings->shown.unknown;
             if (!settings->filter.isEmpty()) options.maxFindings = UINT64_MAX; // each has to be looked at
         }
         end.file.isStrict = options.isStrict;
         Counts& counts = end.file.counts;
-        std::uint64_t ignoredErrors = 0;
+        Counts ignored;
         auto const report = [&](Finding const& finding) {
             bool const passes = std::ranges::all_of(
                 job.settings, [&](FileSettings const* settings) { return settings->filter.passes(finding); });
             if (passes) return queue.put(number, finding, sizeOf(finding), false);
-            ++counts.ignored;
-            if (kindOf(finding.fault).isError) ++ignoredErrors;
+            ++ignored.of(kindOf(finding.fault).severity);
         };
         Checker checker(counts, report, options);
         errno = 0;
@@ -161,8 +164,7 @@ private:
         if (!failure) checker.finish();
         end.isStopped = failure && failure->id == stopped;
         if (end.isStopped) failure.reset();
-        counts.errors -= ignoredErrors;
-        counts.warnings -= counts.ignored - ignoredErrors;
+        counts.ignored = counts.leaveOut(ignored);
     }
 
     std::span<FileJob const> jobs;

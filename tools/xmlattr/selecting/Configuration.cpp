@@ -56,6 +56,8 @@ private:
             readWords(value, [&](std::string_view name) { return settings.filter.ignore(name); });
         else if (key == "only")
             readWords(value, [&](std::string_view name) { return settings.filter.only(name); });
+        else if (key == "show")
+            readWords(value, [&](std::string_view word) { return settings.shown.add(word); });
         else
             return false;
         return true;
@@ -100,7 +102,7 @@ private:
                     });
                 else if (!readFileOption(key.str(), option, paths.settings))
                     refuse(key.source(), "no option of [[paths]] is called " + inQuotes(printable(key.str())) +
-                                             "; there are files, strict, ignore and only");
+                                             "; there are files, strict, ignore, only and show");
             }
             if (paths.patterns.empty()) refuse(node.source(), "[[paths]] without files");
         }
