@@ -129,6 +129,31 @@ TEST(Groups, PutEqualFindingsTogether) {
               std::string::npos);
 }
 
+TEST(Shown, ListsWhatIsCounted) {
+    std::string const document =
+        write("shown.svg", "<svg xmlns='http://www.w3.org/2000/svg' xmlns:o='urn:o' o:a='1' fill='inherit' "
+                           "href='#a' paint-order='fill'><o:b c='d'/></svg>");
+    struct Row {
+        char const* words;
+        std::vector<std::string> attributes;
+    };
+    for (Row const& row :
+         {Row{"", {}}, Row{"--show passed-over", {"fill"}}, Row{"--show unknown", {"href", "paint-order"}},
+          Row{"--show not-covered", {"a", "href", "paint-order", "c"}},
+          Row{"--show passed-over,unknown --ignore attribute:fill", {"href", "paint-order"}}}) {
+        Result const result = run("check "s + row.words + " " + document);
+        std::string expected;
+        for (std::string const& attribute : row.attributes) expected += ": note: " + attribute + "=";
+        std::string found;
+        for (std::size_t at = result.output.find(": note: "); at != result.output.npos;
+             at = result.output.find(": note: ", at + 1))
+            found += result.output.substr(at, result.output.find('=', at) - at + 1);
+        EXPECT_EQ(found, expected) << row.words << "\n" << result.output;
+        EXPECT_EQ(result.code, 0) << row.words;
+    }
+    EXPECT_EQ(run("check --show all " + document).code, 2);
+}
+
 TEST(Configuration, IsWrongAtAPlace) {
     struct Row {
         char const *content, *problem;

@@ -23,6 +23,14 @@ constexpr std::chrono::milliseconds patience(50);
 
 constexpr std::string_view stopped = "stopped"; // the failure of a file at whose end nobody waited any more
 
+// What to do about a file that was not read to its end.
+std::string_view remedyFor(std::string_view failure) {
+    if (failure == "malformed") return "; mend it there, nothing after it was checked";
+    if (failure == "limit") return "; nothing after it was checked";
+    if (failure == "encoding") return "; convert the file to UTF-8";
+    return {};
+}
+
 struct CloseFile {
     void operator()(std::FILE* file) const {
         if (file != stdin) std::fclose(file);
@@ -157,8 +165,12 @@ private:
             WatchedSource source(opened.get(), shared);
             failure = readXml(source, checker);
         } else {
-            failure = XmlFailure{"unreadable", "cannot be read: " + std::generic_category().message(errno), {}};
+            failure = XmlFailure{"unreadable",
+                                 "cannot be read: " + std::generic_category().message(errno) +
+                                     "; check the path and its permissions",
+                                 std::nullopt};
         }
+        if (failure) failure->message += remedyFor(failure->id);
         counts.files = 1;
         counts.failedFiles = failure ? 1 : 0;
         if (!failure) checker.finish();
