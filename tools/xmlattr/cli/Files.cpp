@@ -31,7 +31,9 @@ void gatherDirectory(fs::path const& directory, FileList& list) {
     fs::directory_iterator iterator(directory, error);
     for (; !error && iterator != fs::directory_iterator(); iterator.increment(error)) found.push_back(*iterator);
     if (error) list.problems.push_back(directory.string() + ": cannot be listed: " + error.message());
-    std::ranges::sort(found);
+    // By characters and not part by part, since they differ in the last alone.
+    std::ranges::sort(
+        found, {}, [](fs::directory_entry const& entry) -> auto const& { return entry.path().native(); });
     for (fs::directory_entry const& entry : found) {
         std::error_code ignored; // of a dangling link, say: then it is no document
         if (!entry.is_symlink(ignored) && entry.is_directory(ignored))

@@ -189,10 +189,14 @@ std::optional<std::string> Configurations::use(std::string const& file) {
 std::optional<std::string> Configurations::find(std::string const& document, Configuration const*& configuration) {
     configuration = named ? &*named : nullptr;
     if (named) return std::nullopt;
-    std::vector<std::string> visited;
+    // As the document is named, so that the next one beside it is found at once.
+    std::vector<std::string> visited = {fs::path(document).parent_path().string()};
+    if (auto const known = folders.find(visited.front()); known != folders.end()) {
+        configuration = known->second;
+        return std::nullopt;
+    }
     for (fs::path folder = absolute(document).parent_path();; folder = folder.parent_path()) {
-        auto const known = folders.find(folder.string());
-        if (known != folders.end()) {
+        if (auto const known = folders.find(folder.string()); known != folders.end()) {
             configuration = known->second;
             break;
         }
