@@ -91,8 +91,8 @@ public:
         reporter.finish(counts, shown);
         if (!options.isQuiet && !sorted.empty() && sorted.front()->count > 1) {
             FindingGroup const& first = *sorted.front();
-            printError(counted(sorted.size(), "distinct finding") + "; the most frequent " +
-                       counted(first.count, "time") + ": " + first.finding.message() + " [" +
+            printError(quantity(sorted.size(), "distinct finding") + "; the most frequent " +
+                       quantity(first.count, "time") + ": " + first.finding.message() + " [" +
                        std::string(kindOf(first.finding.fault).id) + "]\n");
         }
         return counts.failedFiles > 0 ? 2 : hasFaults ? 1 : 0;
@@ -117,7 +117,7 @@ void printGone(Baseline const& baseline) {
     constexpr std::size_t most = 20;
     std::vector<std::string> const lines = baseline.gone();
     if (lines.empty()) return;
-    printError(baseline.path() + ": " + counted(lines.size(), "entry", "entries") + " that no longer " +
+    printError(baseline.path() + ": " + quantity(lines.size(), "entry", "entries") + " that no longer " +
                (lines.size() == 1 ? "occurs" : "occur") + "; --write-baseline records what is there\n");
     for (std::size_t i = 0; i < std::min(most, lines.size()); ++i) printError("  " + lines[i] + "\n");
     if (lines.size() > most) printError("  and " + std::to_string(lines.size() - most) + " more\n");
@@ -214,7 +214,7 @@ int check(CheckOptions const& options) {
         runFiles(jobs, threads > 0 ? threads : std::max(1U, std::thread::hardware_concurrency()), teller);
     int const code = teller.finish();
     if (told < jobs.size()) {
-        printError("xmlattr: stopped after " + std::to_string(told) + " of " + counted(jobs.size(), "file") + "\n");
+        printError("xmlattr: stopped after " + std::to_string(told) + " of " + quantity(jobs.size(), "file") + "\n");
         flushOutput();
         Stop::end();
     }

@@ -1,6 +1,7 @@
 // SARIF 2.1.0, https://docs.oasis-open.org/sarif/sarif/v2.1.0/sarif-v2.1.0.html
 #include "output/Json.h"
 #include "output/Report.h"
+#include "text/Text.h"
 #include "xmlattr/core/Version.h"
 
 #include <algorithm>
@@ -138,18 +139,14 @@ private:
             lastFile = file;
             alike.clear();
         }
-        std::uint64_t hash = 14695981039346656037u;
-        auto const add = [&](std::string_view text) {
-            for (char const c : text) hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211u;
-            hash = (hash ^ 0xFF) * 1099511628211u; // which no text has
-        };
+        constexpr std::string_view end = "\xFF"; // which no text has
+        std::uint64_t hash = hashOf("");
         for (std::string_view const text : {kindOf(finding.fault).id, std::string_view(finding.element),
                                             std::string_view(finding.attribute), std::string_view(finding.text)})
-            add(text);
-        add(std::to_string(alike[hash]++));
+            hash = hashOf(end, hashOf(text, hash));
+        hash = hashOf(end, hashOf(std::to_string(alike[hash]++), hash));
         std::array<char, 16> digits;
-        char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), hash, 16).ptr;
-        return {digits.data(), end};
+        return {digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), hash, 16).ptr};
     }
 
     ReportFile& out;

@@ -71,10 +71,10 @@ std::string failureLine(std::string const& file, XmlFailure const& failure) {
 }
 
 std::string summaryLine(Counts const& counts, std::uint64_t shown) {
-    std::string line = counted(counts.files, "file");
+    std::string line = quantity(counts.files, "file");
     if (counts.failedFiles > 0) line += " (" + std::to_string(counts.failedFiles) + " not read to the end)";
-    line += ": " + counted(counts.attributes, "attribute");
-    if (counts.declarations > 0) line += " and " + counted(counts.declarations, "style declaration");
+    line += ": " + quantity(counts.attributes, "attribute");
+    if (counts.declarations > 0) line += " and " + quantity(counts.declarations, "style declaration");
     line += "; " + std::to_string(counts.read) + " read as written, " + std::to_string(counts.passedOver) +
             " passed over, " + std::to_string(counts.freeText) + " free text, " + std::to_string(counts.misread) +
             " misread, " + std::to_string(counts.lenient) + " lenient, " + std::to_string(counts.refused) +
@@ -90,8 +90,8 @@ std::string summaryLine(Counts const& counts, std::uint64_t shown) {
     reason(counts.unread, "with an entity that is not read");
     reason(counts.unknown, "unknown");
     if (!reasons.empty()) line += reasons + ")";
-    line += "; " + counted(counts.errors, "error") + ", " + counted(counts.warnings, "warning");
-    if (counts.notes > 0) line += ", " + counted(counts.notes, "note");
+    line += "; " + quantity(counts.errors, "error") + ", " + quantity(counts.warnings, "warning");
+    if (counts.notes > 0) line += ", " + quantity(counts.notes, "note");
     if (shown < counts.findings()) line += " (" + std::to_string(shown) + " shown)";
     if (counts.ignored > 0) line += ", " + std::to_string(counts.ignored) + " left out";
     if (counts.known > 0) line += ", " + std::to_string(counts.known) + " in the baseline";

@@ -17,16 +17,14 @@ namespace fs = std::filesystem;
 
 constexpr int version = 1;
 
-// A long text by its beginning and a hash (FNV-1a) of the whole.
+// A long text by its beginning and a hash of the whole.
 std::string recorded(std::string const& text) {
     constexpr std::size_t longest = 120, shown = 60;
     if (text.size() <= longest) return text;
-    std::uint64_t hash = 0xCBF29CE484222325u;
-    for (char const c : text) hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001B3u;
     std::size_t cut = shown;
     while ((static_cast<unsigned char>(text[cut]) & 0xC0) == 0x80) --cut; // inside of a code point
     char digits[17];
-    std::snprintf(digits, sizeof digits, "%016llx", static_cast<unsigned long long>(hash));
+    std::snprintf(digits, sizeof digits, "%016llx", static_cast<unsigned long long>(hashOf(text)));
     return text.substr(0, cut) + "... " + digits;
 }
 

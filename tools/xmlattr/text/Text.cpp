@@ -64,7 +64,7 @@ std::string inQuotes(std::string_view text) {
     return std::string(1, '"').append(text).append(1, '"');
 }
 
-std::string counted(std::uint64_t number, std::string_view noun, std::string_view plural) {
+std::string quantity(std::uint64_t number, std::string_view noun, std::string_view plural) {
     std::string text = std::to_string(number) + " ";
     if (number == 1 || plural.empty()) text += noun;
     if (number != 1) text += plural.empty() ? "s" : plural;
