@@ -1,12 +1,9 @@
 #include "cli/Commands.h"
 #include "cli/Files.h"
 #include "output/Report.h"
-#include "running/FileRun.h"
-#include "running/Progress.h"
 #include "running/Stop.h"
-#include "selecting/Baseline.h"
+#include "running/Teller.h"
 #include "selecting/Configuration.h"
-#include "selecting/Groups.h"
 #include "text/Text.h"
 
 #include "xmlattr/core/Log.h"
@@ -26,91 +23,6 @@ int usageError(std::string const& problem) {
     printError("xmlattr: " + problem + "\n");
     return 2;
 }
-
-struct Baselines {
-    std::optional<Baseline> known, recorded;
-};
-
-struct TellOptions {
-    bool isQuiet = false, isGrouped = false;
-    std::uint64_t maxFindings = UINT64_MAX;
-};
-
-// Counts what the files say, and has it reported.
-class Telling final : public RunListener {
-public:
-    Telling(TellOptions const& options, std::span<std::string const> names, Baselines& baselines, Reporter& reporter,
-            Progress& progress)
-        : options(options), names(names), baselines(baselines), reporter(reporter), progress(progress) {}
-
-    void finding(std::size_t file, Finding const& finding) override {
-        if (baselines.recorded) baselines.recorded->add(names[file], finding);
-        // What is recorded is known from now on.
-        if (baselines.recorded || (baselines.known && baselines.known->take(names[file], finding))) {
-            ++known.of(kindOf(finding.fault).severity);
-            return;
-        }
-        if (options.isGrouped) return groups.add(names[file], finding);
-        if (shown == options.maxFindings) return;
-        ++shown;
-        progress.clear();
-        reporter.finding(names[file], finding);
-    }
-
-    void ended(std::size_t file, FileEnd const& end) override {
-        Counts ofFile = end.counts;
-        ofFile.known = ofFile.leaveOut(known);
-        known = {};
-        counts += ofFile;
-        hasFaults = hasFaults || ofFile.errors > 0 || (end.isStrict && ofFile.warnings > 0);
-        done = file + 1;
-        if (!end.failure) {
-            if (baselines.known) baselines.known->finish(names[file]);
-            return;
-        }
-        progress.clear();
-        reporter.failure(names[file], *end.failure);
-    }
-
-    std::uint64_t wanted() const override {
-        bool const looksAtEach = options.isGrouped || baselines.known || baselines.recorded;
-        return looksAtEach ? UINT64_MAX : options.maxFindings - shown;
-    }
-
-    void passed(std::uint64_t bytes) override { progress.draw(done, bytes); }
-
-    // Ends the report; gives the exit code.
-    int finish() {
-        progress.clear();
-        std::vector<FindingGroup const*> const sorted = groups.byCount();
-        for (FindingGroup const* const group : sorted) {
-            if (shown == options.maxFindings) break;
-            ++shown;
-            reporter.group(*group);
-        }
-        reporter.finish(counts, shown);
-        if (!options.isQuiet && !sorted.empty() && sorted.front()->count > 1) {
-            FindingGroup const& first = *sorted.front();
-            printError(quantity(sorted.size(), "distinct finding") + "; the most frequent " +
-                       quantity(first.count, "time") + ": " + first.finding.message() + " [" +
-                       std::string(kindOf(first.finding.fault).id) + "]\n");
-        }
-        return counts.failedFiles > 0 ? 2 : hasFaults ? 1 : 0;
-    }
-
-private:
-    TellOptions const& options;
-    std::span<std::string const> names; // of the files
-    Baselines& baselines;
-    Reporter& reporter;
-    Progress& progress;
-    Groups groups;
-    Counts counts;
-    Counts known; // findings of the file at hand, by the baseline
-    bool hasFaults = false;
-    std::uint64_t shown = 0;
-    std::size_t done = 0;
-};
 
 // What a baseline has that the documents no longer have.
 void printGone(Baseline const& baseline) {
@@ -170,6 +82,44 @@ Problem openBaselines(CheckOptions const& options, RunSettings const& run, Basel
     return known ? baselines.known.emplace(*known).read() : std::nullopt;
 }
 
+// Checks the files; gives the exit code, or nothing when the run was stopped.
+std::optional<int> carryOut(CheckOptions const& options, FileList const& list, FileSettings const& settings) {
+    std::vector<std::string> names = list.files;
+    std::ranges::replace(names, "-", options.stdinName);
+    std::vector<FileJob> jobs;
+    for (std::string const& file : list.files) jobs.push_back({file, {}});
+    Configurations configurations;
+    RunSettings run;
+    if (auto const problem = readConfigurations(options, names, configurations, jobs, run)) return usageError(*problem);
+    for (FileJob& job : jobs) job.settings.push_back(&settings);
+    Baselines baselines;
+    if (auto const problem = openBaselines(options, run, baselines)) return usageError(*problem);
+
+    Teller::Options const telling{options.isQuiet || run.isQuiet.value_or(false),
+                                  options.isGrouped || run.isGrouped.value_or(false),
+                                  options.maxFindings.value_or(run.maxFindings.value_or(UINT64_MAX))};
+    ColorMode const color = options.color.value_or(run.color.value_or(ColorMode::Auto));
+    ReportFormat const& format = options.format ? *options.format : run.format ? **run.format : reportFormats().front();
+    ReportFile report(options.output);
+    std::unique_ptr<Reporter> const reporter =
+        format.make(report, {options.output.empty() && usesColor(color), telling.isQuiet, baselines.known.has_value()});
+    bool const showsProgress = !telling.isQuiet && isErrorTerminal();
+    Progress progress(jobs.size(), showsProgress ? sizeOf(list.files) : 0, showsProgress);
+    Teller teller(telling, names, baselines, *reporter, progress);
+    std::uint64_t const threads = options.jobs.value_or(run.jobs.value_or(0));
+    std::size_t const told =
+        runFiles(jobs, threads > 0 ? threads : std::max(1U, std::thread::hardware_concurrency()), teller);
+    int const code = teller.finish();
+    if (told < jobs.size()) {
+        printError("xmlattr: stopped after " + std::to_string(told) + " of " + quantity(jobs.size(), "file") + "\n");
+        return std::nullopt;
+    }
+    report.complete();
+    if (baselines.known && !telling.isQuiet) printGone(*baselines.known);
+    if (baselines.recorded) baselines.recorded->write();
+    return list.problems.empty() ? code : 2;
+}
+
 } // namespace
 
 int check(CheckOptions const& options) {
@@ -184,44 +134,12 @@ int check(CheckOptions const& options) {
     FileList const list = gatherFiles(paths);
     for (std::string const& line : list.problems) printError("xmlattr: " + line + "\n");
 
-    std::vector<std::string> names = list.files;
-    std::ranges::replace(names, "-", options.stdinName);
-    std::vector<FileJob> jobs;
-    for (std::string const& file : list.files) jobs.push_back({file, {}});
-    Configurations configurations;
-    RunSettings run;
-    if (auto const problem = readConfigurations(options, names, configurations, jobs, run)) return usageError(*problem);
-    for (FileJob& job : jobs) job.settings.push_back(&settings);
-    Baselines baselines;
-    if (auto const problem = openBaselines(options, run, baselines)) return usageError(*problem);
-
-    TellOptions const telling{options.isQuiet || run.isQuiet.value_or(false),
-                              options.isGrouped || run.isGrouped.value_or(false),
-                              options.maxFindings.value_or(run.maxFindings.value_or(UINT64_MAX))};
-    ColorMode const color = options.color.value_or(run.color.value_or(ColorMode::Auto));
-    ReportFormat const& format = options.format ? *options.format : run.format ? **run.format : reportFormats().front();
-    ReportFile report(options.output);
-    std::unique_ptr<Reporter> const reporter =
-        format.make(report, {options.output.empty() && usesColor(color), telling.isQuiet, baselines.known.has_value()});
-    bool const showsProgress = !telling.isQuiet && isErrorTerminal();
-    Progress progress(jobs.size(), showsProgress ? sizeOf(list.files) : 0, showsProgress);
-    Telling teller(telling, names, baselines, *reporter, progress);
     // A stop would wait for what somebody types.
     std::optional<Stop> stop;
     if (std::ranges::find(list.files, "-") == list.files.end()) stop.emplace();
-    std::uint64_t const threads = options.jobs.value_or(run.jobs.value_or(0));
-    std::size_t const told =
-        runFiles(jobs, threads > 0 ? threads : std::max(1U, std::thread::hardware_concurrency()), teller);
-    int const code = teller.finish();
-    if (told < jobs.size()) {
-        printError("xmlattr: stopped after " + std::to_string(told) + " of " + quantity(jobs.size(), "file") + "\n");
-        flushOutput();
-        Stop::end();
-    }
-    report.complete();
-    if (baselines.known && !telling.isQuiet) printGone(*baselines.known);
-    if (baselines.recorded) baselines.recorded->write();
-    return list.problems.empty() ? code : 2;
+    std::optional<int> const code = carryOut(options, list, settings);
+    if (!code) Stop::end();
+    return *code;
 }
 
 } // namespace Command

@@ -79,7 +79,8 @@ std::size_t sizeOf(Finding const& finding) {
     std::size_t size = sizeof(Told);
     for (std::string const* const text :
          {&finding.element, &finding.attribute, &finding.text, &finding.part, &finding.problem, &finding.held,
-          &finding.expected, &finding.newer, &finding.replacement, &finding.inserted})
+          &finding.expected, &finding.newer, &finding.replacement, &finding.inserted, &finding.source.before,
+          &finding.source.part, &finding.source.after})
         size += text->capacity();
     return size;
 }
@@ -89,8 +90,14 @@ public:
     Run(std::span<FileJob const> jobs, std::uint64_t threads, RunListener& listener)
         : jobs(jobs), listener(listener), queue(mostWaiting) {
         shared.wanted = listener.wanted();
-        for (std::size_t i = 0; i < std::min<std::uint64_t>(threads, jobs.size()); ++i)
-            workers.emplace_back([this] { work(); });
+        for (std::size_t i = 0; i < std::min<std::uint64_t>(threads, jobs.size()); ++i) {
+            try {
+                workers.emplace_back([this] { work(); });
+            } catch (std::system_error const&) {
+                if (workers.empty()) throw;
+                break; // the machine has no more threads
+            }
+        }
     }
     Run(Run const&) = delete;
     Run& operator=(Run const&) = delete;
