@@ -1,5 +1,5 @@
-// Checks files on several threads, and tells what was found on the thread of the caller, in the order of the files: what
-// is told does not depend on the number of threads.
+// Checks files on several threads, and tells what was found on the thread of the caller, in the order of the files:
+// what is told does not depend on the number of threads.
 #pragma once
 
 #include "checking/Checker.h"

@@ -31,8 +31,8 @@ public:
     bool take(std::string const& document, Finding const& finding);
     // Everything in the document that can be taken has been.
     void finish(std::string const& document);
-    // A line for each entry that was not taken, or not as often as it is there, of documents that are finished or do not
-    // exist any more.
+    // A line for each entry that was not taken, or not as often as it is there, of documents that are finished or do
+    // not exist any more.
     std::vector<std::string> gone() const;
 
 private:

@@ -14,8 +14,8 @@ namespace Command {
 // ("element:text", which is also svg:text; "element:fo:block" is that alone). Names are exact.
 class Filter {
 public:
-    // Leaves out what has the name, or lets pass only what has one of the names. Says what is wrong with the name, which
-    // then counts for nothing.
+    // Leaves out what has the name, or lets pass only what has one of the names. Says what is wrong with a name, which
+    // is not taken then.
     [[nodiscard]] std::optional<std::string> ignore(std::string_view name) { return ignored.add(name); }
     [[nodiscard]] std::optional<std::string> only(std::string_view name) { return wanted.add(name); }
 
