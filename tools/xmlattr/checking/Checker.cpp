@@ -7,6 +7,7 @@
 #include "xmlattr/catalogue/legality/Advice.h"
 #include "xmlattr/catalogue/legality/StyleAttribute.h"
 
+#include <iterator>
 #include <utility>
 
 namespace Command {
@@ -15,6 +16,9 @@ namespace {
 
 // The values of a list take up to twenty times the memory of its text.
 constexpr std::size_t longestList = 4 << 20;
+
+constexpr std::string_view foreign = "of another vocabulary", unknown = "unknown",
+                           cutByEntity = "with an entity that is not read", fromTemplate = "a template of a stylesheet";
 
 Fault faultOf(Xml::CatalogueEntry const& entry, Xml::Judgement const& judgement) {
     if (judgement.verdict == Xml::Verdict::Misread) return Fault::Misread;
@@ -32,6 +36,33 @@ std::optional<Xml::NameFact> unknownElement(Xml::Vocabulary vocabulary, std::str
 }
 
 } // namespace
+
+Counts& Counts::operator+=(Counts const& other) {
+    constexpr std::uint64_t Counts::*all[] = {
+        &Counts::files,      &Counts::failedFiles, &Counts::attributes, &Counts::declarations, &Counts::read,
+        &Counts::passedOver, &Counts::freeText,    &Counts::misread,    &Counts::lenient,      &Counts::refused,
+        &Counts::foreign,    &Counts::templates,   &Counts::tooLong,    &Counts::unread,       &Counts::unknown,
+        &Counts::errors,     &Counts::warnings,    &Counts::notes,      &Counts::ignored,      &Counts::known};
+    static_assert(sizeof(Counts) == std::size(all) * sizeof(std::uint64_t), "each is added");
+    for (std::uint64_t Counts::*const count : all) this->*count += other.*count;
+    return *this;
+}
+
+std::uint64_t& Counts::of(Severity severity) {
+    switch (severity) {
+    case Severity::Error: return errors;
+    case Severity::Warning: return warnings;
+    case Severity::Note: break;
+    }
+    return notes;
+}
+
+std::uint64_t Counts::leaveOut(Counts const& others) {
+    errors -= others.errors;
+    warnings -= others.warnings;
+    notes -= others.notes;
+    return others.findings();
+}
 
 // An attribute of a tag, a declaration in one, or what an xsl:attribute holds.
 struct Checker::Occurrence {
@@ -65,7 +96,11 @@ void Checker::startElement(XmlElement const& element, Tag& tag) {
     if (!vocabulary && isPlainSvg && element.space.empty()) vocabulary = Xml::Vocabulary::Svg;
     references.startElement(element, vocabulary, tag, [this](ReferenceFault const& fault) { find(fault); });
     if (!vocabulary) {
-        counts.foreign += element.attributes.size();
+        for (std::size_t i = 0; i < element.attributes.size(); ++i) {
+            ++counts.foreign;
+            showNotCovered({&tag, {}, element.name, i, element.attributes[i].name, element.attributes[i].value},
+                           foreign);
+        }
         if (std::optional<MadeElement> const made = elementMadeBy(element)) checkMade(*made, element, tag);
         return;
     }
@@ -85,11 +120,12 @@ void Checker::startElement(XmlElement const& element, Tag& tag) {
     bool const isInStylesheet = element.namespaces.hasXslt();
     for (std::size_t i = 0; i < element.attributes.size(); ++i) {
         XmlAttributeText const& attribute = element.attributes[i];
+        Occurrence occurrence{&tag, *vocabulary, element.name, i, attribute.name, attribute.value};
         if (isInStylesheet && isTemplate(attribute.value)) {
             ++counts.templates;
+            showNotCovered(occurrence, fromTemplate);
             continue;
         }
-        Occurrence occurrence{&tag, *vocabulary, element.name, i, attribute.name, attribute.value};
         std::string plain; // a template without expressions
         if (isInStylesheet && attribute.value.find_first_of("{}") != std::string_view::npos) {
             plain = templateText(attribute.value);
@@ -100,6 +136,7 @@ void Checker::startElement(XmlElement const& element, Tag& tag) {
             occurrence.name = prefixed;
         } else if (!attribute.space.empty()) {
             ++counts.foreign;
+            showNotCovered(occurrence, foreign);
             continue;
         }
         check(occurrence);
@@ -132,19 +169,24 @@ void Checker::text(XmlText const& text) {
     std::optional<MadeAttribute> const& made = stylesheet.made();
     if (!made || !text.isWhole) return;
     ++counts.attributes;
+    Occurrence occurrence{.tag = nullptr,
+                          .vocabulary = made->vocabulary,
+                          .element = made->element,
+                          .number = 0,
+                          .name = made->attribute,
+                          .value = text.text,
+                          .place = text.place,
+                          .named = made->named};
     if (made->hasTextTemplates && isTemplate(text.text)) {
         ++counts.templates;
-        return;
+        return showNotCovered(occurrence, fromTemplate);
     }
-    std::string const value = made->hasTextTemplates ? templateText(text.text) : std::string(text.text);
-    check({.tag = nullptr,
-           .vocabulary = made->vocabulary,
-           .element = made->element,
-           .number = 0,
-           .name = made->attribute,
-           .value = value,
-           .place = text.place,
-           .named = made->named});
+    std::string plain;
+    if (made->hasTextTemplates) {
+        plain = templateText(text.text);
+        occurrence.value = plain;
+    }
+    check(occurrence);
 }
 
 void Checker::finish() {
@@ -178,7 +220,8 @@ void Checker::checkName(Occurrence const& occurrence) {
     if (fact.standing == Xml::NameStanding::Known && occurrence.isMisplaced()) return findMisplaced(occurrence);
     // What a stylesheet makes outside of every element may belong to another vocabulary.
     bool const isElsewhere = occurrence.element.empty();
-    if (fact.standing != Xml::NameStanding::Unknown || isElsewhere || !isReported(Fault::UnknownAttribute)) return;
+    if (fact.standing != Xml::NameStanding::Unknown || isElsewhere) return showNotCovered(occurrence, unknown);
+    if (!isReported(Fault::UnknownAttribute)) return;
     Finding finding;
     finding.fault = Fault::UnknownAttribute;
     finding.attribute = occurrence.name;
@@ -189,7 +232,7 @@ void Checker::checkName(Occurrence const& occurrence) {
 void Checker::checkValue(Occurrence const& occurrence, Xml::CatalogueEntry const& entry) {
     if (occurrence.value.size() > longestList && entry.type() && entry.type()->readsList()) {
         ++counts.tooLong;
-        return;
+        return showNotCovered(occurrence, "too long");
     }
     if (entry.grammar.text() == "<text>") {
         ++counts.freeText;
@@ -203,13 +246,13 @@ void Checker::checkValue(Occurrence const& occurrence, Xml::CatalogueEntry const
     });
     if (Xml::isFault(verdict) && !occurrence.isWhole()) {
         ++counts.unread;
-        return;
+        return showNotCovered(occurrence, cutByEntity);
     }
     switch (verdict) {
     case Xml::Verdict::Read: ++counts.read; return;
-    case Xml::Verdict::PassedOver: ++counts.passedOver; return;
+    case Xml::Verdict::PassedOver: ++counts.passedOver; return showPassedOver(occurrence);
     case Xml::Verdict::FreeText: ++counts.freeText; return;
-    case Xml::Verdict::NotCovered: ++counts.unknown; return;
+    case Xml::Verdict::NotCovered: ++counts.unknown; return showNotCovered(occurrence, unknown);
     case Xml::Verdict::Misread: ++counts.misread; break;
     case Xml::Verdict::Lenient: ++counts.lenient; break;
     case Xml::Verdict::Refused: ++counts.refused; break;
@@ -259,7 +302,7 @@ void Checker::checkStyle(Occurrence const& occurrence) {
 void Checker::findFault(Occurrence const& piece, Xml::Declaration const& declaration) {
     if (!piece.isWhole()) {
         ++counts.unread;
-        return;
+        return showNotCovered(piece, cutByEntity);
     }
     ++counts.refused;
     if (!isReported(Fault::BadWord)) return;
@@ -273,9 +316,27 @@ void Checker::findFault(Occurrence const& piece, Xml::Declaration const& declara
     find(piece, std::move(finding));
 }
 
+void Checker::showPassedOver(Occurrence const& occurrence) {
+    if (!options.showsPassedOver || !isReported(Fault::PassedOver)) return;
+    Finding finding;
+    finding.fault = Fault::PassedOver;
+    finding.attribute = occurrence.name;
+    find(occurrence, std::move(finding));
+}
+
+void Checker::showNotCovered(Occurrence const& occurrence, std::string_view why) {
+    bool const isShown = options.showsNotCovered || (options.showsUnknown && why == unknown);
+    if (!isShown || !isReported(Fault::NotCovered)) return;
+    Finding finding;
+    finding.fault = Fault::NotCovered;
+    finding.attribute = occurrence.name;
+    finding.problem = why;
+    find(occurrence, std::move(finding));
+}
+
 bool Checker::isReported(Fault fault) {
     bool const isReported = counts.findings() < options.maxFindings;
-    ++(kindOf(fault).isError ? counts.errors : counts.warnings);
+    ++counts.of(kindOf(fault).severity);
     return isReported;
 }
 

@@ -27,10 +27,16 @@ struct Counts {
     // Not covered, by reason.
     std::uint64_t foreign = 0, templates = 0, tooLong = 0, unread = 0, unknown = 0;
     // Findings.
-    std::uint64_t errors = 0, warnings = 0;
+    std::uint64_t errors = 0, warnings = 0, notes = 0;
+    // What would be findings, had the user not left it out or recorded it in a baseline.
+    std::uint64_t ignored = 0, known = 0;
 
     std::uint64_t notCovered() const { return foreign + templates + tooLong + unread + unknown; }
-    std::uint64_t findings() const { return errors + warnings; }
+    std::uint64_t findings() const { return errors + warnings + notes; }
+    std::uint64_t& of(Severity severity);
+    // Findings that were counted and are to be none; gives their number.
+    std::uint64_t leaveOut(Counts const& others);
+    Counts& operator+=(Counts const& other);
 };
 
 class Checker final : public XmlHandler {
@@ -42,6 +48,8 @@ public:
         std::uint64_t maxFindings = UINT64_MAX;
         // Also reports attributes on elements that do not have them.
         bool isStrict = false;
+        // Also reports what is otherwise counted alone.
+        bool showsPassedOver = false, showsNotCovered = false, showsUnknown = false; // the last is a part of the second
     };
 
     Checker(Counts& counts, Report report, Options const& options)
@@ -68,6 +76,8 @@ private:
     void findFault(Occurrence const& piece, Xml::Declaration const& declaration);
     void find(Occurrence const& occurrence, Finding finding);
     void find(ReferenceFault const& fault);
+    void showPassedOver(Occurrence const& occurrence);
+    void showNotCovered(Occurrence const& occurrence, std::string_view why);
     // Counts a finding; whether it is to be reported.
     bool isReported(Fault fault);
 

@@ -9,36 +9,45 @@ namespace Command {
 namespace {
 
 constexpr FaultKind kinds[] = {
-    {Fault::BadValue, "bad-value", true,
+    {Fault::BadValue, "bad-value", Severity::Error,
      "The text is not legal on the attribute, and the value type that reads it refuses it. It is none of what the\n"
      "formatter works out by itself either: \"inherit\" or an expression of XSL-FO. The message tells what is legal,\n"
      "and what to write where that can be guessed. `xmlattr show TYPE TEXT` tries a text on a value type.\n"},
-    {Fault::BadWord, "bad-word", false,
+    {Fault::BadWord, "bad-word", Severity::Warning,
      "The text is not legal on the attribute by its recommendation. No value type reads the attribute, so that it\n"
      "depends on the formatter what becomes of it.\n"},
-    {Fault::Misread, "misread", false,
+    {Fault::Misread, "misread", Severity::Warning,
      "The text is legal, but the value type holds something else than it means: \"M0 0a.5.5 0 0 1 1 1\", say, where\n"
      "it takes \".5.5\" for one number. The message tells what is held, and a text with the same meaning that is\n"
      "read as it is written.\n"},
-    {Fault::Lenient, "lenient", false,
+    {Fault::Lenient, "lenient", Severity::Warning,
      "The text is not legal on the attribute, but the value type takes it nevertheless: margin=\"10\" is 1000%, say.\n"
      "The message tells what is held; other formatters may refuse the text or read it otherwise.\n"},
-    {Fault::Negative, "negative", false,
+    {Fault::Negative, "negative", Severity::Warning,
      "The recommendation forbids negative values of the attribute, and the text has one that the value type takes.\n"},
-    {Fault::NewerValue, "newer-value", false,
+    {Fault::NewerValue, "newer-value", Severity::Warning,
      "The text is a value of a recommendation that came after XSL-FO 1.1 and SVG 1.1, such as SVG 2 or CSS 3. It is\n"
      "no typing error, but the formatter does not read it.\n"},
-    {Fault::UnknownAttribute, "unknown-attribute", false,
+    {Fault::UnknownAttribute, "unknown-attribute", Severity::Warning,
      "The vocabulary has no attribute, or no property, of this name, and no newer recommendation that is known has\n"
      "one. Attributes of other namespaces, data-*, aria-* and event handlers are never reported.\n"},
-    {Fault::UnknownElement, "unknown-element", false, "The vocabulary has no element of this name.\n"},
-    {Fault::MisplacedAttribute, "misplaced-attribute", false,
+    {Fault::UnknownElement, "unknown-element", Severity::Warning, "The vocabulary has no element of this name.\n"},
+    {Fault::MisplacedAttribute, "misplaced-attribute", Severity::Warning,
      "The vocabulary has the attribute, but not on this element, where it has no effect. In XSL-FO inherited\n"
      "properties may stand on every element. Reported with --strict only.\n"},
-    {Fault::DuplicateId, "duplicate-id", false, "Another element of the document has the same id.\n"},
-    {Fault::DanglingReference, "dangling-reference", false,
+    {Fault::DuplicateId, "duplicate-id", Severity::Warning, "Another element of the document has the same id.\n"},
+    {Fault::DanglingReference, "dangling-reference", Severity::Warning,
      "The attribute refers to an id of the same document that no element has, or to a result that no filter primitive\n"
      "before it in the same filter has.\n"},
+    {Fault::PassedOver, "passed-over", Severity::Note,
+     "The text is legal, but no value type reads it: \"inherit\", an expression of XSL-FO, a word of an attribute "
+     "without\n"
+     "a value type. The formatter works it out by itself. Told with --show passed-over.\n"},
+    {Fault::NotCovered, "not-covered", Severity::Note,
+     "Nothing judges the attribute: it belongs to another vocabulary, is a template of a stylesheet, too long, cut by "
+     "an\n"
+     "entity that is not read, or unknown to the catalogue. Told with --show not-covered; those that are unknown also\n"
+     "with --show unknown.\n"},
 };
 
 // What a message shows of a long text: about the range that matters.
@@ -70,6 +79,15 @@ FaultKind const& kindOf(Fault fault) {
     return *std::ranges::find(kinds, fault, &FaultKind::fault);
 }
 
+std::string_view wordOf(Severity severity) {
+    switch (severity) {
+    case Severity::Error: return "error";
+    case Severity::Warning: return "warning";
+    case Severity::Note: break;
+    }
+    return "note";
+}
+
 std::string Finding::message() const {
     std::string const where = " on " + printable(element);
     switch (fault) {
@@ -86,6 +104,10 @@ std::string Finding::message() const {
     case Fault::DanglingReference:
         return attribute + where + " refers to " + inQuotes(printable(text)) + ", " +
                (problem.empty() ? "which no element has as its id" : problem);
+    case Fault::PassedOver:
+        return attribute + "=" + inQuotes(printable(text)) + where + " is legal, but no value type reads it";
+    case Fault::NotCovered:
+        return printable(attribute) + "=" + inQuotes(printable(text)) + where + " is not covered: " + problem;
     case Fault::BadValue:
     case Fault::BadWord:
     case Fault::Misread:

@@ -22,13 +22,21 @@ enum class Fault : std::uint8_t {
     UnknownElement,
     MisplacedAttribute, // on an element that does not have it
     DuplicateId,
-    DanglingReference
+    DanglingReference,
+    // Told on request.
+    PassedOver, // legal, but no value type reads it
+    NotCovered  // nothing judges it
 };
+
+enum class Severity : std::uint8_t { Error, Warning, Note };
+
+// "error", "warning" or "note".
+std::string_view wordOf(Severity severity);
 
 struct FaultKind {
     Fault fault;
     std::string_view id; // in messages, and for --explain
-    bool isError;        // else a warning
+    Severity severity;
     std::string_view explanation;
 };
 

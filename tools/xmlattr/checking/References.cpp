@@ -19,10 +19,8 @@ std::uint64_t mixed(std::uint64_t hash) {
     return hash ^ hash >> 29;
 }
 
-std::uint64_t hashOf(std::string_view id) {
-    std::uint64_t hash = 14695981039346656037u;
-    for (char const c : id) hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211u;
-    return mixed(hash);
+std::uint64_t hashOfId(std::string_view id) {
+    return mixed(hashOf(id));
 }
 
 // Where an id stands: the document without its embedded drawings, one of these, or any of these.
@@ -158,7 +156,7 @@ void References::addId(Occurrence const& occurrence, Report const& report) {
         isFull = true;
         return;
     }
-    std::uint64_t const hash = hashOf(id);
+    std::uint64_t const hash = hashOfId(id);
     if (drawingDepth) ids.add(placed(hash, anyDrawing));
     bool const isNew = ids.add(placed(hash, drawingDepth ? drawing : document));
     if (!isNew && report) report(occurrence.fault(ReferenceFault::DuplicateId, id));
@@ -170,7 +168,7 @@ bool References::isKnown(std::uint64_t id) const {
 
 void References::addReference(Occurrence const& occurrence, std::string_view id) {
     id = Xml::trimXmlSpace(id);
-    std::uint64_t const hash = hashOf(id);
+    std::uint64_t const hash = hashOfId(id);
     if (id.empty() || !knowsAllIds || isFull || isKnown(hash)) return;
     if (!occurrence.tag.isWhole(occurrence.number)) return;
     if (pending.size() >= limits.pending) makeRoom();

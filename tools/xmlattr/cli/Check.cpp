@@ -1,49 +1,124 @@
-#include "checking/Checker.h"
 #include "cli/Commands.h"
 #include "cli/Files.h"
 #include "output/Report.h"
+#include "running/Stop.h"
+#include "running/Teller.h"
+#include "selecting/Configuration.h"
 #include "text/Text.h"
 
 #include "xmlattr/core/Log.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
+#include <filesystem>
 #include <memory>
+#include <optional>
+#include <span>
+#include <thread>
 
 namespace Command {
 
 namespace {
 
-struct CloseFile {
-    void operator()(std::FILE* file) const {
-        if (file != stdin) std::fclose(file);
+int usageError(std::string const& problem) {
+    printError("xmlattr: " + problem + "\n");
+    return 2;
+}
+
+// What a baseline has that the documents no longer have.
+void printGone(Baseline const& baseline) {
+    constexpr std::size_t most = 20;
+    std::vector<std::string> const lines = baseline.gone();
+    if (lines.empty()) return;
+    printError(baseline.path() + ": " + quantity(lines.size(), "entry", "entries") + " that no longer " +
+               (lines.size() == 1 ? "occurs" : "occur") + "; --write-baseline records what is there\n");
+    for (std::size_t i = 0; i < std::min(most, lines.size()); ++i) printError("  " + lines[i] + "\n");
+    if (lines.size() > most) printError("  and " + std::to_string(lines.size() - most) + " more\n");
+}
+
+std::uint64_t sizeOf(std::vector<std::string> const& files) {
+    std::uint64_t sum = 0;
+    for (std::string const& file : files) {
+        std::error_code error;
+        std::uint64_t const size = std::filesystem::file_size(file, error);
+        if (!error) sum += size;
     }
-};
+    return sum;
+}
 
-using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
+// What is wrong with the call, or a file that it names.
+using Problem = std::optional<std::string>;
 
-// Progress, for a person who waits at a terminal.
-class Progress {
-public:
-    Progress(std::size_t total, bool on) : total(total), on(on && total > 20 && isErrorTerminal()) {}
-    ~Progress() { clear(); }
+Problem readSettings(CheckOptions const& options, FileSettings& settings) {
+    if (options.isStrict) settings.isStrict = true;
+    for (std::string const& name : options.ignored)
+        if (auto const problem = settings.filter.ignore(name)) return "--ignore: " + *problem;
+    for (std::string const& name : options.only)
+        if (auto const problem = settings.filter.only(name)) return "--only: " + *problem;
+    for (std::string const& word : options.shown)
+        if (auto const problem = settings.shown.add(word)) return "--show: " + *problem;
+    return std::nullopt;
+}
 
-    void next(std::string const& file) {
-        ++done;
-        if (!on) return;
-        flushOutput();
-        std::fprintf(stderr, "\r\x1b[K[%zu/%zu] %s", done, total, printable(file).c_str());
+// Adds the settings of each document. What holds for the whole run is taken from the configuration of the first.
+Problem readConfigurations(CheckOptions const& options, std::span<std::string const> names,
+                           Configurations& configurations, std::vector<FileJob>& jobs, RunSettings& run) {
+    if (!options.configuration.empty())
+        if (auto problem = configurations.use(options.configuration)) return problem;
+    for (std::size_t i = 0; i < jobs.size(); ++i) {
+        Configuration const* configuration = nullptr;
+        if (auto problem = configurations.find(names[i], configuration)) return problem;
+        if (!configuration) continue;
+        configuration->addSettings(names[i], jobs[i].settings);
+        if (i == 0) run = configuration->run;
     }
+    return std::nullopt;
+}
 
-    void clear() const {
-        if (on) std::fputs("\r\x1b[K", stderr);
+Problem openBaselines(CheckOptions const& options, RunSettings const& run, Baselines& baselines) {
+    if (options.newBaseline) baselines.recorded.emplace(*options.newBaseline);
+    // A baseline that is written for the first time is not there yet.
+    bool const isConfigured = !options.baseline && !options.newBaseline;
+    std::optional<std::string> const& known = isConfigured ? run.baseline : options.baseline;
+    return known ? baselines.known.emplace(*known).read() : std::nullopt;
+}
+
+// Checks the files; gives the exit code, or nothing when the run was stopped.
+std::optional<int> carryOut(CheckOptions const& options, FileList const& list, FileSettings const& settings) {
+    std::vector<std::string> names = list.files;
+    std::ranges::replace(names, "-", options.stdinName);
+    std::vector<FileJob> jobs;
+    for (std::string const& file : list.files) jobs.push_back({file, {}});
+    Configurations configurations;
+    RunSettings run;
+    if (auto const problem = readConfigurations(options, names, configurations, jobs, run)) return usageError(*problem);
+    for (FileJob& job : jobs) job.settings.push_back(&settings);
+    Baselines baselines;
+    if (auto const problem = openBaselines(options, run, baselines)) return usageError(*problem);
+
+    Teller::Options const telling{options.isQuiet || run.isQuiet.value_or(false),
+                                  options.isGrouped || run.isGrouped.value_or(false),
+                                  options.maxFindings.value_or(run.maxFindings.value_or(UINT64_MAX))};
+    ColorMode const color = options.color.value_or(run.color.value_or(ColorMode::Auto));
+    ReportFormat const& format = options.format ? *options.format : run.format ? **run.format : reportFormats().front();
+    ReportFile report(options.output);
+    std::unique_ptr<Reporter> const reporter =
+        format.make(report, {options.output.empty() && usesColor(color), telling.isQuiet, baselines.known.has_value()});
+    bool const showsProgress = !telling.isQuiet && isErrorTerminal();
+    Progress progress(jobs.size(), showsProgress ? sizeOf(list.files) : 0, showsProgress);
+    Teller teller(telling, names, baselines, *reporter, progress);
+    std::uint64_t const threads = options.jobs.value_or(run.jobs.value_or(0));
+    std::size_t const told =
+        runFiles(jobs, threads > 0 ? threads : std::max(1U, std::thread::hardware_concurrency()), teller);
+    int const code = teller.finish();
+    if (told < jobs.size()) {
+        printError("xmlattr: stopped after " + std::to_string(told) + " of " + quantity(jobs.size(), "file") + "\n");
+        return std::nullopt;
     }
-
-private:
-    std::size_t done = 0, total;
-    bool on;
-};
+    report.complete();
+    if (baselines.known && !telling.isQuiet) printGone(*baselines.known);
+    if (baselines.recorded) baselines.recorded->write();
+    return list.problems.empty() ? code : 2;
+}
 
 } // namespace
 
@@ -51,46 +126,20 @@ int check(CheckOptions const& options) {
     // What the colour parser warns about is legal.
     Core::Log::setHandler([](Core::String const&) {});
 
+    FileSettings settings;
+    if (auto const problem = readSettings(options, settings)) return usageError(*problem);
     std::vector<std::string> paths = options.paths;
-    std::string problem;
-    if (!options.filesFrom.empty() && !readPaths(options.filesFrom, paths, problem)) {
-        printError("xmlattr: " + problem + "\n");
-        return 2;
-    }
+    std::string unread;
+    if (!options.filesFrom.empty() && !readPaths(options.filesFrom, paths, unread)) return usageError(unread);
     FileList const list = gatherFiles(paths);
     for (std::string const& line : list.problems) printError("xmlattr: " + line + "\n");
 
-    ReportFile report(options.output);
-    std::unique_ptr<Reporter> const reporter =
-        options.format->make(report, {options.output.empty() && usesColor(options.color), options.isQuiet});
-    Counts counts;
-    Progress progress(list.files.size(), !options.isQuiet);
-    for (std::string const& file : list.files) {
-        std::string const& name = file == "-" ? options.stdinName : file;
-        progress.next(name);
-        auto const tell = [&](Finding const& finding) {
-            progress.clear();
-            reporter->finding(name, finding);
-        };
-        Checker checker(counts, tell, {options.maxFindings, options.isStrict});
-        ++counts.files;
-        OpenFile const opened(file == "-" ? stdin : std::fopen(file.c_str(), "rb"));
-        std::optional<XmlFailure> const failure =
-            opened ? readXml(opened.get(), checker)
-                   : XmlFailure{"unreadable", std::string("cannot be read: ") + std::strerror(errno), std::nullopt};
-        if (!failure) {
-            checker.finish();
-            continue;
-        }
-        ++counts.failedFiles;
-        progress.clear();
-        reporter->failure(name, *failure);
-    }
-    progress.clear();
-    reporter->finish(counts, std::min(counts.findings(), options.maxFindings));
-    report.complete();
-    if (counts.failedFiles > 0 || !list.problems.empty()) return 2;
-    return counts.errors > 0 || (options.isStrict && counts.warnings > 0) ? 1 : 0;
+    // A stop would wait for what somebody types.
+    std::optional<Stop> stop;
+    if (std::ranges::find(list.files, "-") == list.files.end()) stop.emplace();
+    std::optional<int> const code = carryOut(options, list, settings);
+    if (!code) Stop::end();
+    return *code;
 }
 
 } // namespace Command

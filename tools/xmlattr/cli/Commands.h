@@ -16,15 +16,20 @@ namespace Command {
 
 enum class OutputFormat { Text, Json };
 
+// What is absent may stand in a configuration file.
 struct CheckOptions {
     std::vector<std::string> paths;
     std::string filesFrom;
     std::string stdinName = "<stdin>";
-    ReportFormat const* format = &reportFormats().front();
+    std::string configuration; // the file; empty for the nearest of each document
+    ReportFormat const* format = nullptr;
     std::string output; // the file to write the report to; empty for standard output
-    ColorMode color = ColorMode::Auto;
-    bool isQuiet = false, isStrict = false;
-    std::uint64_t maxFindings = UINT64_MAX;
+    std::optional<ColorMode> color;
+    bool isQuiet = false, isStrict = false, isGrouped = false;
+    std::optional<std::uint64_t> maxFindings;
+    std::optional<std::uint64_t> jobs;                // threads; as many as there are cores
+    std::vector<std::string> ignored, only, shown;    // as Filter and Shown have them
+    std::optional<std::string> baseline, newBaseline; // files
 };
 
 struct FixOptions {

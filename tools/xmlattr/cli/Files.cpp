@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <set>
 
 namespace Command {
 
@@ -23,19 +24,23 @@ bool isDocument(fs::path const& path) {
                                [&](std::u16string_view known) { return Core::equalsNoCase(extension, known); });
 }
 
-void gatherDirectory(std::string const& directory, FileList& list) {
+// Adds files in the order of their paths.
+void gatherDirectory(fs::path const& directory, FileList& list) {
+    std::vector<fs::directory_entry> found;
     std::error_code error;
-    std::size_t const before = list.files.size();
-    fs::recursive_directory_iterator iterator(directory, error);
-    for (; !error && iterator != fs::recursive_directory_iterator(); iterator.increment(error)) {
+    fs::directory_iterator iterator(directory, error);
+    for (; !error && iterator != fs::directory_iterator(); iterator.increment(error)) found.push_back(*iterator);
+    if (error) list.problems.push_back(directory.string() + ": cannot be listed: " + error.message());
+    // By characters and not part by part, since they differ in the last alone.
+    std::ranges::sort(
+        found, {}, [](fs::directory_entry const& entry) -> auto const& { return entry.path().native(); });
+    for (fs::directory_entry const& entry : found) {
         std::error_code ignored; // of a dangling link, say: then it is no document
-        if (isDocument(iterator->path()) && iterator->is_regular_file(ignored))
-            list.files.push_back(iterator->path().string());
+        if (!entry.is_symlink(ignored) && entry.is_directory(ignored))
+            gatherDirectory(entry.path(), list);
+        else if (isDocument(entry.path()) && entry.is_regular_file(ignored))
+            list.files.push_back(entry.path().string());
     }
-    if (error) list.problems.push_back(directory + ": " + error.message());
-    std::sort(list.files.begin() + static_cast<std::ptrdiff_t>(before), list.files.end());
-    if (!error && list.files.size() == before)
-        list.problems.push_back(directory + ": no .fo, .svg, .svgz, .xml, .xsl or .xslt file in this directory");
 }
 
 } // namespace
@@ -44,11 +49,19 @@ FileList gatherFiles(std::vector<std::string> const& paths) {
     FileList list;
     for (std::string const& path : paths) {
         std::error_code ignored;
-        if (path != "-" && fs::is_directory(path, ignored))
-            gatherDirectory(path, list);
-        else if (path != "-" || std::ranges::find(list.files, path) == list.files.end())
+        if (path == "-" || !fs::is_directory(path, ignored)) {
             list.files.push_back(path);
+            continue;
+        }
+        std::size_t const files = list.files.size(), problems = list.problems.size();
+        gatherDirectory(path, list);
+        if (list.files.size() == files && list.problems.size() == problems)
+            list.problems.push_back(path + ": no .fo, .svg, .svgz, .xml, .xsl or .xslt file in this directory");
     }
+    std::set<std::string> known;
+    std::erase_if(list.files, [&](std::string const& file) {
+        return !known.insert(fs::path(file).lexically_normal().string()).second;
+    });
     return list;
 }
 

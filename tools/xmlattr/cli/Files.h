@@ -12,7 +12,7 @@ struct FileList {
 };
 
 // Files as they are; a directory stands for every .fo, .svg, .svgz, .xml, .xsl and .xslt file in it and
-// below it, in the order of their names. Standard input is read once.
+// below it, in the order of their names. What is named twice is there once, where it was first.
 FileList gatherFiles(std::vector<std::string> const& paths);
 
 // The lines of a file that lists paths, empty ones left out; "-" is standard input. False when it

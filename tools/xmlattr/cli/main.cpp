@@ -48,7 +48,7 @@ void addExplain(CLI::App& app, std::string& id) {
     app.add_option("--explain", id, "Print what findings with this id mean, and exit")->type_name("ID");
 }
 
-void addColor(CLI::App& app, ColorMode& color) {
+template <class Color> void addColor(CLI::App& app, Color& color) {
     addChoice<ColorMode>(app, "--color", color,
                          {{"auto", ColorMode::Auto}, {"always", ColorMode::Always}, {"never", ColorMode::Never}},
                          "Print in colour; auto does on a terminal, unless NO_COLOR is set (default: auto)");
@@ -57,6 +57,10 @@ void addColor(CLI::App& app, ColorMode& color) {
 std::string checkCount(std::string const& text) {
     bool const isCount = !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
     return isCount ? "" : inQuotes(printable(text)) + " is no whole number";
+}
+
+void addNames(CLI::App& app, std::string const& name, std::vector<std::string>& names, std::string const& help) {
+    app.add_option(name, names, help)->allow_extra_args(false)->delimiter(',')->type_name("WHAT");
 }
 
 int run(int argc, char** argv) {
@@ -82,7 +86,7 @@ int run(int argc, char** argv) {
         ->type_name("NAME");
     Choices<ReportFormat const*> formats;
     for (ReportFormat const& format : reportFormats()) formats.emplace_back(format.word, &format);
-    addChoice(*checkCommand, "--format", checking.format, "FORMAT", formats,
+    addChoice(*checkCommand, "--format", checking.format, formats,
               "text; json: one object a line; sarif and github: for services; html: a page to read");
     checkCommand
         ->add_option("--output", checking.output, "Write the report to this file, which appears when it is whole")
@@ -92,6 +96,27 @@ int run(int argc, char** argv) {
     checkCommand->add_flag("--strict", checking.isStrict,
                            "Report attributes on elements that do not have them too, and fail for warnings too");
     checkCommand->add_option("--max-findings", checking.maxFindings, "Print no more findings than this (default: all)")
+        ->check(checkCount)
+        ->type_name("N");
+    addNames(*checkCommand, "--ignore", checking.ignored,
+             "Leave out findings with this id, attribute:NAME or element:NAME");
+    addNames(*checkCommand, "--only", checking.only,
+             "Report only findings with this id, attribute:NAME or element:NAME");
+    addNames(*checkCommand, "--show", checking.shown,
+             "Also report what is only counted: passed-over, not-covered or unknown");
+    checkCommand->add_flag("--group", checking.isGrouped,
+                           "Show equal findings once, with their number; the most frequent first");
+    checkCommand->add_option("--baseline", checking.baseline, "Leave out the findings that are recorded in this file")
+        ->type_name("FILE");
+    checkCommand
+        ->add_option("--write-baseline", checking.newBaseline,
+                     "Record the findings in this file; they are no faults then")
+        ->type_name("FILE");
+    checkCommand
+        ->add_option("--config", checking.configuration,
+                     "The configuration; else the nearest xmlattr.toml of each document")
+        ->type_name("FILE");
+    checkCommand->add_option("-j,--jobs", checking.jobs, "Check so many files at a time; as many as there are cores")
         ->check(checkCount)
         ->type_name("N");
     addExplain(*checkCommand, explained);

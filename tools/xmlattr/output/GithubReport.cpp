@@ -20,18 +20,22 @@ std::string escaped(std::string_view text, bool isProperty) {
     return out;
 }
 
+std::string_view levelOf(Severity severity) {
+    return severity == Severity::Note ? "notice" : wordOf(severity);
+}
+
 class GithubReporter final : public Reporter {
 public:
     GithubReporter(ReportFile& out, ReportSettings const& settings) : out(out), settings(settings) {}
 
     void finding(std::string const& file, Finding const& finding) override {
         FaultKind const& kind = kindOf(finding.fault);
-        annotate(kind.isError ? "error" : "warning", file, finding.place, kind.id, finding.message());
+        annotate(levelOf(kind.severity), file, finding.place, kind.id, finding.message());
     }
 
     void group(FindingGroup const& group) override {
         FaultKind const& kind = kindOf(group.finding.fault);
-        annotate(kind.isError ? "error" : "warning", group.places.front().file, group.finding.place, kind.id,
+        annotate(levelOf(kind.severity), group.places.front().file, group.finding.place, kind.id,
                  group.finding.message() + " (" + std::to_string(group.count) + " places)");
     }
 

@@ -52,6 +52,9 @@ public:
                              {"unknown", counts.unknown}}},
                            {"errors", counts.errors},
                            {"warnings", counts.warnings},
+                           {"notes", counts.notes},
+                           {"ignored", counts.ignored},
+                           {"known", counts.known},
                            {"shown", shown}}));
     }
 
@@ -60,7 +63,7 @@ private:
         Json line = {{"file", file},
                      {"line", finding.place.line},
                      {"column", finding.place.column},
-                     {"severity", kindOf(finding.fault).isError ? "error" : "warning"},
+                     {"severity", wordOf(kindOf(finding.fault).severity)},
                      {"id", kindOf(finding.fault).id},
                      {"element", finding.element},
                      {"attribute", finding.attribute},

@@ -14,7 +14,7 @@ namespace Command {
 namespace {
 
 [[noreturn]] void fail(std::string const& path, std::string const& reason) {
-    throw std::runtime_error(path + ": the report cannot be written: " + reason);
+    throw std::runtime_error(path + ": cannot be written: " + reason);
 }
 
 } // namespace

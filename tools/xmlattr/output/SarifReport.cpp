@@ -1,6 +1,7 @@
 // SARIF 2.1.0, https://docs.oasis-open.org/sarif/sarif/v2.1.0/sarif-v2.1.0.html
 #include "output/Json.h"
 #include "output/Report.h"
+#include "text/Text.h"
 #include "xmlattr/core/Version.h"
 
 #include <algorithm>
@@ -51,7 +52,7 @@ Json rules() {
                        {"shortDescription", {{"text", text.substr(0, std::min(text.find(". "), text.size() - 1) + 1)}}},
                        {"fullDescription", {{"text", text}}},
                        {"help", {{"text", text}}},
-                       {"defaultConfiguration", {{"level", kind.isError ? "error" : "warning"}}}});
+                       {"defaultConfiguration", {{"level", wordOf(kind.severity)}}}});
     }
     return all;
 }
@@ -123,7 +124,7 @@ private:
         FaultKind const& kind = kindOf(finding.fault);
         Json result = {{"ruleId", kind.id},
                        {"ruleIndex", &kind - faultKinds().data()},
-                       {"level", kind.isError ? "error" : "warning"},
+                       {"level", wordOf(kind.severity)},
                        {"message", {{"text", finding.message()}}},
                        {"locations", {locationOf(file, regionOf(finding))}},
                        {"partialFingerprints", {{"findingHash/v1", fingerprint(file, finding)}}}};
@@ -138,18 +139,14 @@ private:
             lastFile = file;
             alike.clear();
         }
-        std::uint64_t hash = 14695981039346656037u;
-        auto const add = [&](std::string_view text) {
-            for (char const c : text) hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211u;
-            hash = (hash ^ 0xFF) * 1099511628211u; // which no text has
-        };
+        constexpr std::string_view end = "\xFF"; // which no text has
+        std::uint64_t hash = hashOf("");
         for (std::string_view const text : {kindOf(finding.fault).id, std::string_view(finding.element),
                                             std::string_view(finding.attribute), std::string_view(finding.text)})
-            add(text);
-        add(std::to_string(alike[hash]++));
+            hash = hashOf(end, hashOf(text, hash));
+        hash = hashOf(end, hashOf(std::to_string(alike[hash]++), hash));
         std::array<char, 16> digits;
-        char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), hash, 16).ptr;
-        return {digits.data(), end};
+        return {digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), hash, 16).ptr};
     }
 
     ReportFile& out;

@@ -12,9 +12,13 @@ std::string location(std::string const& file, Place place) {
     return file + ":" + std::to_string(place.line) + ":" + std::to_string(place.column) + ":";
 }
 
-// "1 file", "2 files".
-std::string count(std::uint64_t number, std::string_view noun) {
-    return std::to_string(number).append(" ").append(noun).append(number == 1 ? "" : "s");
+std::string_view colorOf(Severity severity) {
+    switch (severity) {
+    case Severity::Error: return "1;31";
+    case Severity::Warning: return "1;35";
+    case Severity::Note: break;
+    }
+    return "1;36";
 }
 
 class TextReporter final : public Reporter {
@@ -57,7 +61,7 @@ private:
 std::string findingLine(std::string const& file, Finding const& finding, bool isColored) {
     FaultKind const& kind = kindOf(finding.fault);
     return colored(location(file, finding.place), "1", isColored) + " " +
-           colored(kind.isError ? "error:" : "warning:", kind.isError ? "1;31" : "1;35", isColored) + " " +
+           colored(std::string(wordOf(kind.severity)) + ":", colorOf(kind.severity), isColored) + " " +
            finding.message() + " [" + std::string(kind.id) + "]\n";
 }
 
@@ -67,10 +71,10 @@ std::string failureLine(std::string const& file, XmlFailure const& failure) {
 }
 
 std::string summaryLine(Counts const& counts, std::uint64_t shown) {
-    std::string line = count(counts.files, "file");
+    std::string line = quantity(counts.files, "file");
     if (counts.failedFiles > 0) line += " (" + std::to_string(counts.failedFiles) + " not read to the end)";
-    line += ": " + count(counts.attributes, "attribute");
-    if (counts.declarations > 0) line += " and " + count(counts.declarations, "style declaration");
+    line += ": " + quantity(counts.attributes, "attribute");
+    if (counts.declarations > 0) line += " and " + quantity(counts.declarations, "style declaration");
     line += "; " + std::to_string(counts.read) + " read as written, " + std::to_string(counts.passedOver) +
             " passed over, " + std::to_string(counts.freeText) + " free text, " + std::to_string(counts.misread) +
             " misread, " + std::to_string(counts.lenient) + " lenient, " + std::to_string(counts.refused) +
@@ -86,8 +90,11 @@ std::string summaryLine(Counts const& counts, std::uint64_t shown) {
     reason(counts.unread, "with an entity that is not read");
     reason(counts.unknown, "unknown");
     if (!reasons.empty()) line += reasons + ")";
-    line += "; " + count(counts.errors, "error") + ", " + count(counts.warnings, "warning");
+    line += "; " + quantity(counts.errors, "error") + ", " + quantity(counts.warnings, "warning");
+    if (counts.notes > 0) line += ", " + quantity(counts.notes, "note");
     if (shown < counts.findings()) line += " (" + std::to_string(shown) + " shown)";
+    if (counts.ignored > 0) line += ", " + std::to_string(counts.ignored) + " left out";
+    if (counts.known > 0) line += ", " + std::to_string(counts.known) + " in the baseline";
     return line + "\n";
 }
 

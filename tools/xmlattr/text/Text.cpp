@@ -64,6 +64,13 @@ std::string inQuotes(std::string_view text) {
     return std::string(1, '"').append(text).append(1, '"');
 }
 
+std::string quantity(std::uint64_t number, std::string_view noun, std::string_view plural) {
+    std::string text = std::to_string(number) + " ";
+    if (number == 1 || plural.empty()) text += noun;
+    if (number != 1) text += plural.empty() ? "s" : plural;
+    return text;
+}
+
 std::string joinWith(std::vector<std::string> const& words, std::string_view last) {
     std::string text;
     for (std::size_t i = 0; i < words.size(); ++i) {

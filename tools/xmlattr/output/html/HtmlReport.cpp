@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <numeric>
 #include <unordered_map>
 #include <vector>
@@ -31,7 +32,7 @@ constexpr std::size_t mostEntries = 10'000, mostPlaces = 12, mostFiles = 5'000, 
 constexpr std::size_t longestText = 240; // code points
 
 std::string_view severityOf(Fault fault) {
-    return kindOf(fault).isError ? "error" : "warning";
+    return wordOf(kindOf(fault).severity);
 }
 
 std::string placeText(Place place) {
@@ -56,7 +57,7 @@ struct Entry {
 
 struct File {
     std::string name;
-    std::uint64_t errors = 0, warnings = 0;
+    std::map<Severity, std::uint64_t> counts{};
     struct Link {
         std::size_t entry;
         Place place;
@@ -126,7 +127,7 @@ public:
     void finding(std::string const& file, Finding const& finding) override {
         Entry* const entry = entryFor(finding, 1);
         File& in = fileFor(file);
-        ++(kindOf(finding.fault).isError ? in.errors : in.warnings);
+        ++in.counts[kindOf(finding.fault).severity];
         if (!entry) return;
         if (entry->places.size() < mostPlaces) entry->places.push_back({files.size() - 1, finding.place});
         if (links == mostLinks) return;
@@ -153,7 +154,7 @@ public:
     void finish(Counts const& counts, std::uint64_t shown) override {
         writeHead();
         writeSummary(counts);
-        writeTools();
+        writeTools(counts);
         writeKinds();
         writeFiles();
         out.write("</main>\n<footer><p>xmlattr " + escaped(Core::version()) + "</p></footer>\n<script>");
@@ -279,11 +280,14 @@ private:
     }
 
     // Hidden until the script works them.
-    void writeTools() {
+    void writeTools(Counts const& counts) {
         out.write("<div class='tools' role='search' hidden>\n<label class='grow'>Filter <input type='search' "
                   "id='filter' placeholder='words of a finding, a file or a kind' aria-keyshortcuts='/'></label>\n"
                   "<label><input type='checkbox' data-severity='error' checked> Errors</label>\n"
-                  "<label><input type='checkbox' data-severity='warning' checked> Warnings</label>\n"
+                  "<label><input type='checkbox' data-severity='warning' checked> Warnings</label>\n" +
+                  std::string(counts.notes > 0
+                                  ? "<label><input type='checkbox' data-severity='note' checked> Notes</label>\n"
+                                  : "") +
                   "<button type='button' id='open'>Open all</button>\n"
                   "<button type='button' id='close'>Close all</button>\n"
                   "<output aria-live='polite' data-all='" +
@@ -343,9 +347,11 @@ private:
         for (std::size_t i = 0; i < std::min(files.size(), mostFiles); ++i) {
             File const& file = files[i];
             std::string text = "<details class='group'><summary><h3>" + escaped(file.name) + "</h3><span class='soft'>";
-            if (file.errors > 0) text += counted(file.errors, "error");
-            if (file.errors > 0 && file.warnings > 0) text += ", ";
-            if (file.warnings > 0) text += counted(file.warnings, "warning");
+            std::string_view separator;
+            for (auto const& [severity, count] : file.counts) {
+                text.append(separator) += counted(count, wordOf(severity));
+                separator = ", ";
+            }
             text += "</span></summary>\n<ol>";
             for (File::Link const& link : file.links)
                 text += "<li><a class='place' href='#f" + std::to_string(link.entry) + "'>" + placeText(link.place) +

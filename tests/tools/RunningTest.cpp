@@ -1,0 +1,140 @@
+// Many files on several threads say what they say on one.
+
+#include "running/FileRun.h"
+#include "running/OrderedQueue.h"
+#include "running/Progress.h"
+#include "running/Stop.h"
+#include "tools/RunCommand.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <csignal>
+#include <cstdio>
+#include <random>
+#include <string>
+#include <sys/stat.h>
+#include <thread>
+#include <vector>
+
+namespace Command {
+namespace {
+
+using namespace std::chrono_literals;
+
+TEST(OrderedQueue, GivesWhatLanesHoldInTheirOrder) {
+    OrderedQueue<int> queue(100);
+    queue.put(1, 10, 1, false);
+    queue.put(2, 20, 1, true);
+    EXPECT_TRUE(queue.take(0ms).empty()) << "it is not their turn";
+    queue.put(0, 1, 1, false);
+    EXPECT_EQ(queue.take(0ms), std::vector({1}));
+    queue.put(0, 2, 1, true);
+    EXPECT_EQ(queue.take(0ms), std::vector({2}));
+    EXPECT_EQ(queue.take(0ms), std::vector({10}));
+    queue.put(1, 11, 1, true);
+    EXPECT_EQ(queue.take(0ms), std::vector({11}));
+    EXPECT_EQ(queue.take(0ms), std::vector({20}));
+}
+
+TEST(OrderedQueue, LetsThoseWaitThatAreFarAhead) {
+    OrderedQueue<int> queue(2);
+    std::atomic<int> put = 0;
+    std::jthread const ahead([&] {
+        for (int i = 0; i < 4; ++i, ++put) queue.put(1, i, 1, i == 3);
+    });
+    // The first lane is not held up by the other, which waits with two items in the queue.
+    for (int i = 0; i < 10; ++i) {
+        queue.put(0, i, 1, i == 9);
+        EXPECT_EQ(queue.take(1s).size(), 1u);
+        EXPECT_LE(put, 2);
+    }
+    std::size_t taken = 0;
+    while (taken < 4) taken += queue.take(1s).size();
+    EXPECT_EQ(taken, 4u);
+}
+
+TEST(OrderedQueue, LetsNobodyWaitOnceItIsLifted) {
+    OrderedQueue<int> queue(1);
+    std::jthread const ahead([&] {
+        for (int i = 0; i < 100; ++i) queue.put(1, i, 1, false);
+    });
+    queue.lift();
+}
+
+TEST(Progress, TellsTheTimeLeft) {
+    struct Row {
+        std::uint64_t bytes, allBytes;
+        double seconds;
+        char const* line;
+    };
+    for (Row const& row :
+         {Row{0, 0, 0, "[3/20] 0.0 MB, 0.0 MB/s"}, Row{0, 9'000'000, 1, "[3/20] 0.0 of 9.0 MB, 0.0 MB/s"},
+          Row{2'000'000, 9'000'000, 2, "[3/20] 2.0 of 9.0 MB, 1.0 MB/s, 8 s left"},
+          Row{1'000'000, 91'000'000, 1, "[3/20] 1.0 of 91.0 MB, 1.0 MB/s, 1 min 31 s left"},
+          Row{9'000'000, 1'000'000, 9, "[3/20] 9.0 of 1.0 MB, 1.0 MB/s"}})
+        EXPECT_EQ(progressLine(3, 20, row.bytes, row.allBytes, std::chrono::duration<double>(row.seconds)), row.line);
+}
+
+// Remembers how it ended, and interrupts the run after the first file.
+struct Interrupting : RunListener {
+    void finding(std::size_t, Finding const&) override {}
+    void ended(std::size_t file, FileEnd const& end) override {
+        if (file == 0) std::raise(SIGINT);
+        counts += end.counts;
+    }
+    std::uint64_t wanted() const override { return UINT64_MAX; }
+    void passed(std::uint64_t) override {}
+
+    Counts counts;
+};
+
+TEST(FileRun, EndsInTheMiddleOfAFileWhenItIsStopped) {
+    std::string const sound = write("sound.svg", "<svg xmlns='http://www.w3.org/2000/svg' width='1'/>");
+    std::string const endless = scratch + "/endless.svg";
+    ASSERT_EQ(mkfifo(endless.c_str(), 0600), 0);
+    auto const oldHandler = std::signal(SIGPIPE, SIG_IGN);
+    std::jthread author([&] {
+        std::FILE* const file = std::fopen(endless.c_str(), "w");
+        std::fputs("<svg xmlns='http://www.w3.org/2000/svg'>", file);
+        while (std::fputs("<g/>", file) >= 0) {
+        }
+        std::fclose(file);
+    });
+    std::vector<FileJob> const jobs = {{sound, {}}, {endless, {}}, {sound, {}}, {sound, {}}};
+    Interrupting listener;
+    {
+        Stop const stop;
+        EXPECT_EQ(runFiles(jobs, 2, listener), 1u);
+    }
+    EXPECT_EQ(listener.counts.files, 2u);
+    EXPECT_EQ(listener.counts.failedFiles, 1u) << "the one that was not read to its end";
+    EXPECT_EQ(listener.counts.attributes, 1u);
+    author.join();
+    std::signal(SIGPIPE, oldHandler);
+}
+
+TEST(Check, SaysTheSameOnSeveralThreads) {
+    std::mt19937 random(7);
+    char const* const parts[] = {"<path d='M1 1l.5.5'/>", "<rect width='broad'/>",    "<g font-size='12 q'/>",
+                                 "<circle r='3'/>",       "<text style='fill:blu'/>", "<g id='a'/>"};
+    for (int i = 0; i < 2000; ++i) {
+        std::string document = "<svg xmlns='http://www.w3.org/2000/svg'>";
+        for (std::size_t n = random() % (i % 100 == 0 ? 500 : 8); n > 0; --n)
+            document += parts[random() % std::size(parts)];
+        write("many/" + std::to_string(i) + ".svg", random() % 50 == 0 ? document : document + "</svg>");
+    }
+    for (std::string const options : {"", "--strict --format json", "--max-findings 1234", "--group --ignore misread",
+                                      "--only element:rect,duplicate-id --max-findings 99"}) {
+        Result const one = run("check -j 1 " + options + " " + scratch + "/many");
+        Result const four = run("check -j 4 " + options + " " + scratch + "/many");
+        EXPECT_FALSE(one.output.empty()) << options;
+        EXPECT_TRUE(one.output == four.output) << options;
+        EXPECT_EQ(one.errors, four.errors) << options;
+        EXPECT_EQ(one.code, four.code) << options;
+    }
+    EXPECT_EQ(run("check -j 4 " + scratch + "/many | head -n 1 >/dev/null").errors, "") << "nobody reads any more";
+}
+
+} // namespace
+} // namespace Command
