@@ -6,8 +6,9 @@
 
 namespace Reference {
 
-// The lines that one page has and the other has not, each under the heading that it stands below; under a line that
-// took the place of another, marks show where the two differ. Empty for equal pages.
+// The paragraphs, items and rows that one page has ("-", before) and the other has not ("+", after), each under the
+// heading that it stands below. Where one took the place of another, a long one is shortened to its beginning and to
+// what is different, which has marks below it. Empty for equal pages.
 std::string changesBetween(std::string_view before, std::string_view after);
 
 } // namespace Reference
