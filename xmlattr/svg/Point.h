@@ -6,6 +6,7 @@
 
 namespace Xml {
 
+// A point of a polyline or polygon.
 struct XMLATTR_API Point {
     SLength x, y;
 
