@@ -59,7 +59,9 @@ Page attributesPage(Names const& names) {
     page.paragraph(
         "Which type reads which attribute, and what the recommendation says of it: the grammar of its "
         "values, in the notation that `xmlattr/catalogue/grammar/Grammar.h` describes, its initial value and "
-        "whether it is inherited. [Kinds of values](kinds-of-values.md) lists what stands in angle brackets.");
+        "whether it is inherited. [Kinds of values](kinds-of-values.md) has what stands in angle brackets. A row that "
+        "names no element is for all that have no row of their own; [another page](elements-" +
+        std::string(names.file) + ".md) has the attributes of each element.");
     std::vector<Row> rows;
     for (CatalogueEntry const& entry : Xml::Catalogue::entries()) {
         if (entry.vocabulary != names.vocabulary) continue;

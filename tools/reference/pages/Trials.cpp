@@ -151,6 +151,7 @@ constexpr TextRow textsOfOwners[] = {
     {"Value", u"2023-02-29"},
     {"Value", u"2020-01-31T10:20:30Z"},
 
+    {"BarcodeValueType", u"TEXT"},
     {"Keep", u"720"},
     {"Keep", u"-1"},
     {"Keep", u"2147483648"},

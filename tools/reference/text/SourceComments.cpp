@@ -114,6 +114,7 @@ void SourceComments::readSource(fs::path const& file, std::string const& name) {
     Comment comment;
     for (std::string line; std::getline(in, line);) {
         std::string const text = trimmed(line);
+        if (text.starts_with("// clang-format") || text.starts_with("// NOLINT")) continue;
         if (text.starts_with("//")) {
             comment.push_back(text.size() > 3 ? text.substr(3) : "");
             continue;
