@@ -5,7 +5,6 @@
 # Headers that only the library itself includes; every other one is public, compiles alone and declares nothing that
 # does not link.
 set(internal_headers
-  attributes/TXmlAttributeImpl.h
   attributes/TextCursor.h
   catalogue/FoProperties.inc
   catalogue/Properties.inc

@@ -32,6 +32,7 @@ struct Description {
 struct XMLATTR_API Words {
     Core::Vector<std::u16string_view> list;
 
+    // The word is not copied.
     void add(std::u16string_view word);
     // The words of a table, except those that only begin a call.
     template <class Rows> void addAll(Rows const& rows) {

@@ -1,4 +1,5 @@
-// The bodies of the attribute template; only the source of the instantiations includes them.
+// The bodies of the attribute template. The source of the instantiations includes them, and so does a program that has
+// attributes of value types of its own.
 #pragma once
 
 #include "xmlattr/attributes/TXmlAttribute.h"

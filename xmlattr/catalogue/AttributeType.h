@@ -80,6 +80,7 @@ public:
     AnyAttribute& operator=(AnyAttribute&& other) noexcept;
     ~AnyAttribute();
 
+    // The type of the value, which changes with an assignment alone.
     AttributeType const& type() const noexcept { return *attributeType; }
     // The attribute itself.
     XmlAttribute& operator*() noexcept;

@@ -16,8 +16,10 @@ namespace Xml {
 
 class AttributeType;
 
+// XSL-FO 1.1 and SVG 1.1.
 enum class Vocabulary : std::uint8_t { Fo, Svg };
 
+// What a text on the attribute is.
 enum class AttributeKind : std::uint8_t {
     Typed,      // the value type reads it
     Shorthand,  // sets several attributes, which have rows of their own
@@ -64,6 +66,7 @@ struct CatalogueEntry {
     XMLATTR_API AttributeType const* type() const noexcept;
 };
 
+// The rows. Any thread may look one up; nothing is allocated.
 class XMLATTR_API Catalogue {
 public:
     // Every row: the vocabularies one after the other, each sorted by attribute.

@@ -18,7 +18,9 @@ public:
     // catalogue say; or null. Takes logarithmic time.
     static DefaultConstant const* find(std::string_view name) noexcept;
 
+    // As programs name it: "DefaultFontSize".
     std::string_view name() const noexcept { return constantName; }
+    // The type of its value.
     AttributeType const& type() const noexcept { return AttributeType::all()[typeNumber]; }
     // The constant itself. Its text prints whatever its type.
     XmlAttribute const& operator*() const noexcept { return *attribute; }

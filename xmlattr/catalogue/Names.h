@@ -6,6 +6,7 @@
 
 namespace Xml {
 
+// Who knows a name.
 enum class NameStanding : std::uint8_t {
     Known, // the vocabulary has it, on some element at least
     Newer, // a newer recommendation has it: SVG 2, SVG Tiny 1.2, CSS
@@ -13,6 +14,7 @@ enum class NameStanding : std::uint8_t {
     Unknown
 };
 
+// What is known of a name. Its text lives as long as the program.
 struct NameFact {
     NameStanding standing;
     // Of a newer name: the recommendation that has it. Of an unknown one: the known name that differs in case only,
@@ -24,6 +26,7 @@ struct NameFact {
 // constant time, others in time linear in the vocabulary; nothing is allocated.
 class XMLATTR_API Names {
 public:
+    // Names are exact in case.
     static NameFact ofElement(Vocabulary vocabulary, std::string_view element) noexcept;
     static NameFact ofAttribute(Vocabulary vocabulary, std::string_view attribute) noexcept;
     // Whether SVG 2 gives the element of SVG 1.1 an attribute that SVG 1.1 has on others alone: class, style,

@@ -43,6 +43,7 @@ template <> struct XMLATTR_API AttributeTraits<SmartPtr<Drawing::Color>> {
 // the colour in the target; false leaves the target as it was.
 class XMLATTR_API ColorParse {
 public:
+    // The attribute that takes the colour.
     using Target = TXmlAttribute<SmartPtr<Drawing::Color>>;
 
     // "#" and three or six hexadecimal digits of either case.
@@ -64,6 +65,7 @@ public:
     // Drawing::SpotColorMapper is asked for the name.
     static bool parseSpotColor(Core::String const& text, Target* target);
 
+    // A colour keyword, a system colour, "transparent" or "none", in any case.
     static bool parseColorName(Core::String const& text, Target* target);
 
     // Empty for null, for a colour of another class, for an ICC colour without a space or with other

@@ -15,6 +15,7 @@ namespace Xml {
 // a second paint for instance, is ignored. Nothing is trimmed; there is no printer.
 class XMLATTR_API SColor {
 public:
+    // Whether there is no paint, a reference or a colour.
     enum ColorType : std::int32_t { None = 0, Url = 1, Color = 2 };
 
     SColor() = default;

@@ -8,12 +8,14 @@
 
 namespace Core {
 
+// What the library throws, with a message for developers.
 class XMLATTR_API Exception : public std::exception {
 public:
     explicit Exception(std::string message);
     Exception(Exception const&) = default;
     Exception& operator=(Exception const&) = default;
     ~Exception() override;
+    // The message, in UTF-8.
     char const* what() const noexcept override;
 
 private:

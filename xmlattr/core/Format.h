@@ -5,6 +5,7 @@
 
 namespace Core {
 
+// Numbers from texts and back.
 class XMLATTR_API Format {
 public:
     // Reads the whole text as a number: [sign] digits [. digits] [e [sign] digits] with at least

@@ -8,8 +8,10 @@
 
 namespace Core {
 
+// Where warnings go. Any thread may call either function.
 class XMLATTR_API Log {
 public:
+    // Gets the text of a warning, without a line break.
     using Handler = std::function<void(String const&)>;
 
     // Every warning goes to this handler from now on; without one (as at first, or for an empty
@@ -17,6 +19,7 @@ public:
     // may be called by any thread that parses.
     static Handler setHandler(Handler handler);
 
+    // Passes a warning to the handler.
     static void warning(String const& message);
 };
 

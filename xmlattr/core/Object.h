@@ -59,6 +59,7 @@ public:
         return *this;
     }
 
+    // Null where there is no object; the reference stays with this pointer.
     T* get() const noexcept { return object; }
     T* operator->() const { return &operator*(); }
     T& operator*() const {

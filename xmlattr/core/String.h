@@ -11,6 +11,7 @@
 
 namespace Core {
 
+// The list type of list-valued attributes.
 template <class T> using Vector = std::vector<T>;
 
 // A sequence of UTF-16 code units; positions are `int` indexes in code units, and lone surrogates
@@ -25,11 +26,14 @@ public:
 
     // Malformed UTF-8 and lone surrogates become U+FFFD, one for each maximal ill-formed part.
     static String fromUtf8(std::string_view text);
+    // A lone surrogate becomes U+FFFD.
     std::string toUtf8() const;
 
     operator std::u16string_view() const noexcept { return units; }
 
+    // In code units.
     int length() const noexcept { return static_cast<int>(units.size()); }
+    // Whether there is no code unit.
     bool empty() const noexcept { return units.empty(); }
     // The code unit at an index inside the text; throws std::out_of_range elsewhere.
     char16_t operator[](int index) const { return units.at(static_cast<std::size_t>(index)); }
@@ -38,6 +42,7 @@ public:
     int compare(std::u16string_view other) const noexcept;
     // The same with ASCII letters folded to lower case.
     int compareNoCase(std::u16string_view other) const noexcept;
+    // Exact in case; every text starts and ends with the empty one.
     bool startsWith(std::u16string_view prefix) const noexcept;
     bool endsIn(std::u16string_view suffix) const noexcept;
 
@@ -51,6 +56,7 @@ public:
     // The pieces between code units that stand in `separators`, without the empty ones.
     Vector<String> split(std::u16string_view separators) const;
 
+    // Without the white space of isSpace at both ends, or at the end alone.
     String trim() const;
     String trimEnd() const;
     // ASCII letters only.

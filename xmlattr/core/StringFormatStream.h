@@ -23,6 +23,7 @@ public:
 
     String getString() const;
 
+    // What a placeholder may be filled with.
     using Argument = std::variant<String, int, float, double>;
 
 private:

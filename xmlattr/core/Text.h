@@ -47,21 +47,25 @@ constexpr char16_t toLower(char16_t unit) noexcept {
     return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + (u'a' - u'A')) : unit;
 }
 
+// Whether the texts differ at most in the case of ASCII letters.
 constexpr bool equalsNoCase(std::u16string_view left, std::u16string_view right) noexcept {
     return left.size() == right.size() && std::equal(left.begin(), left.end(), right.begin(),
                                                      [](char16_t a, char16_t b) { return toLower(a) == toLower(b); });
 }
 
+// Without the white space at the start.
 constexpr std::u16string_view trimStart(std::u16string_view text) noexcept {
     while (!text.empty() && isSpace(text.front())) text.remove_prefix(1);
     return text;
 }
 
+// Without the white space at the end.
 constexpr std::u16string_view trimEnd(std::u16string_view text) noexcept {
     while (!text.empty() && isSpace(text.back())) text.remove_suffix(1);
     return text;
 }
 
+// Without the white space at both ends.
 constexpr std::u16string_view trim(std::u16string_view text) noexcept {
     return trimEnd(trimStart(text));
 }

@@ -7,8 +7,10 @@
 
 namespace Core {
 
+// A value of one of several kinds; here only the kinds matter.
 class XMLATTR_API Variant {
 public:
+    // The numbers are shared with the data sources that fill variants.
     enum class VariantType : std::int32_t {
         NullValue = 0,
         BoolValue = 1,

@@ -37,19 +37,24 @@ struct PackedWord {
     constexpr PackedWord(std::size_t newStart = 0, std::size_t newLength = 0)
         : lengthAndNext(static_cast<std::uint32_t>(newLength)), start(static_cast<std::uint16_t>(newStart)) {}
 
+    // In code units.
     constexpr std::size_t length() const { return lengthAndNext & 0xFFFF; }
+    // The number of the next row; 0 when there is none.
     constexpr std::size_t next() const { return lengthAndNext >> 16; }
     constexpr void setNext(std::size_t row) { lengthAndNext |= static_cast<std::uint32_t>(row) << 16; }
 };
 
+// The number of no row.
 inline constexpr std::size_t noWord = SIZE_MAX;
 
 // The number of the row whose word is the text, or noWord. The slot of the text's mark holds the first row that it
 // may be. A table comes in pieces, which are passed in registers; as one it would go through memory.
 XMLATTR_API std::size_t findWord(PackedWord const* words, char16_t const* letters, std::uint16_t const* firstRows,
                                  std::u16string_view text, std::uint64_t factor);
+// The same for letters of one byte.
 XMLATTR_API std::size_t findWord(PackedWord const* words, char const* letters, std::uint16_t const* firstRows,
                                  std::string_view text, std::uint64_t factor);
+// The same where ASCII letters of either case match.
 XMLATTR_API std::size_t findWordInAnyCase(PackedWord const* words, char16_t const* letters,
                                           std::uint16_t const* firstRows, std::u16string_view text,
                                           std::uint64_t factor);
@@ -266,6 +271,7 @@ public:
             return indexOfNumber(text.size() > longest ? 0 : detail::numberOf(text));
     }
 
+    // The value of the row whose word is the text.
     static std::optional<Value> find(Text text) {
         std::size_t const row = indexOf(text);
         return row == noWord ? std::nullopt : std::optional(WordTable::value(row));

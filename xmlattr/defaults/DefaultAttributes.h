@@ -16,6 +16,7 @@
 
 namespace Xml {
 
+// Declares a constant of the list that follows.
 #define XMLATTR_DEFAULT(type, name) extern XMLATTR_API TXmlAttribute<type> const name;
 #include "xmlattr/defaults/DefaultAttributes.inc"
 

@@ -10,6 +10,7 @@ namespace Xml {
 // "auto", "days", "months" or "years" in any case, or a number other than 0. There is no printer.
 class XMLATTR_API AxisUnits {
 public:
+    // The words, or that a number says it.
     enum Type : std::int32_t { Auto = 0, Days = 1, Months = 2, Years = 3, Numeric = 4 };
 
     constexpr AxisUnits() = default;

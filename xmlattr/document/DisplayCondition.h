@@ -13,14 +13,17 @@ namespace Xml {
 // exact in case. White space around a condition and around its argument is dropped.
 class XMLATTR_API DisplayCondition {
 public:
+    // How data is compared with the argument.
     enum class Operator : std::int32_t { IsAfter = 0, IsBefore = 1, Match = 2 };
 
+    // One operator and its argument, which is kept as text.
     struct Condition {
         Operator op = Operator::IsAfter;
         Core::String argument;
     };
 
     Core::Vector<Condition> const& getConditions() const { return conditions; }
+    // Adds a condition that must hold too.
     void append(Condition condition) { conditions.push_back(std::move(condition)); }
 
     // Intended: a test of containment. Each condition of this list must stand in the other one,

@@ -7,6 +7,7 @@
 
 namespace Xml {
 
+// The keywords, and the two calls.
 enum class XMLATTR_API ForcePageCountType : std::int32_t {
     Auto = 0,
     Even = 1,

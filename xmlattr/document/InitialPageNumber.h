@@ -7,6 +7,7 @@
 
 namespace Xml {
 
+// The keywords, or what the number of the value is.
 enum class XMLATTR_API InitialPageNumberType : std::int32_t {
     Auto = 0,
     AutoOdd = 1,
@@ -65,6 +66,7 @@ template <> struct XMLATTR_API AttributeTraits<InitialPageNumber> {
     static void parts(InitialPageNumber const& value, Parts& out);
 };
 
+// Whether the number of the sheet is given.
 enum class XMLATTR_API InitialSheetNumberType : std::int32_t { Auto = 0, Number = 1 };
 
 // "auto" (exact case) or a number from 1 on. Intended: every text is accepted, and what is neither

@@ -7,6 +7,7 @@
 
 namespace Xml {
 
+// Whether there is a limit.
 enum class XMLATTR_API MaxDataPointsType : std::int32_t { All = 0, Count = 1 };
 
 // "all", in any case and with white space around it, or an integer of any sign.

@@ -9,6 +9,7 @@
 
 namespace Xml {
 
+// The rule, or that there is none.
 enum class XMLATTR_API TPRuleType : std::int32_t { FindKeyword = 0, None = 1 };
 
 // "FIND_KEYWORD(" a keyword ")", exact in case; the keyword is taken untrimmed, and what follows the

@@ -11,6 +11,7 @@
 
 namespace Xml {
 
+// Which field of a Value counts.
 enum class XMLATTR_API ValueType : std::int32_t { None = 0, Number = 1, Date = 2, String = 3 };
 
 // A number, a date or a string, and its place among the others. A text reads as the first of these

@@ -5,6 +5,7 @@
 
 namespace Drawing {
 
+// What all colours have in common; the class of the object tells the rest.
 class XMLATTR_API Color : public Core::Object {
 public:
     ~Color() override;
@@ -17,6 +18,7 @@ protected:
     Color(Color const&) = default;
 };
 
+// Components from 0 to 255.
 class XMLATTR_API RGBColor : public Color {
 public:
     RGBColor(unsigned char newR, unsigned char newG, unsigned char newB) : r(newR), g(newG), b(newB) {}

@@ -8,6 +8,7 @@ namespace Drawing {
 
 using Core::SmartPtr;
 
+// What all colour spaces have in common.
 class XMLATTR_API ColorSpace : public Core::Object {
 public:
     ~ColorSpace() override;

@@ -7,6 +7,7 @@
 
 namespace Drawing {
 
+// Which points are inside of a path that crosses itself: fill-rule of SVG 1.1.
 enum class XMLATTR_API FillMode : std::int32_t { NonZero = 0, EvenOdd = 1 };
 
 } // namespace Drawing

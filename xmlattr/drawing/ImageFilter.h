@@ -12,6 +12,7 @@ namespace Drawing {
 // "nearest", "bilinear", "bicubic" or "auto", in any case.
 class XMLATTR_API ImageFilter {
 public:
+    // The numbers are shared with the renderers.
     enum Type : std::int32_t { Nearest = 0, Bilinear = 1, Bicubic = 2, Auto = 3 };
     static constexpr Core::WordRow<Type> rows[] = {
         {u"nearest", Nearest}, {u"bilinear", Bilinear}, {u"bicubic", Bicubic}, {u"auto", Auto}};

@@ -153,6 +153,7 @@ enum class XMLATTR_API LanguageId : std::int32_t {
     Zulu = 139,
 };
 
+// The numbers stay, like those of the languages.
 enum class XMLATTR_API CountryId : std::int32_t { None = 0, UnitedStates = 1, GreatBritain = 2, Australia = 3 };
 
 } // namespace Drawing

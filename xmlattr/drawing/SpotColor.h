@@ -37,6 +37,7 @@ private:
     double exponent;
 };
 
+// A tint of an ink, 1 for all of it, and how it looks where the ink is not at hand; the function may be null.
 class XMLATTR_API SpotColor : public Color {
 public:
     SpotColor(Core::String colorName, float tint, SmartPtr<SpotColorFunction> function);

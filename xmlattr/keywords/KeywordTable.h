@@ -12,6 +12,7 @@ namespace Xml {
 
 using Core::Case;
 
+// A keyword and the enumerator that it gives.
 template <class E> using KeywordRow = Core::WordRow<E>;
 
 // Specialised under each enumeration E:
@@ -92,17 +93,20 @@ template <KeywordEnumeration E> struct KeywordTraits {
     static_assert(KeywordsPrintEmpty<E> + KeywordsThrow<E> + KeywordsFallBack<E> <= 1,
                   "a value without a keyword prints in one way");
 
+    // False for a text that is no keyword; then the value is untouched.
     static bool parse(E& value, std::u16string_view text) {
         std::size_t const row = detail::ReadTable<E>::indexOf(text);
         if (row != Core::noWord) value = detail::ReadTable<E>::value(row);
         return row != Core::noWord;
     }
 
+    // The keywords, in the order of the table.
     static void words(Words& out) { out.addAll(Keywords<E>::rows); }
 
     // The number of the enumerator, which no document shows.
     static void parts(E const& value, Parts& out) { out.add(u"number") << static_cast<std::int32_t>(value); }
 
+    // The first keyword of the value; Keywords says what else. Throws UnreacheableCodeException where it says so.
     static Core::String print(E const& value) requires(!KeywordsPrintEmpty<E>) {
         using Table = typename detail::PrintTable<E>::type;
         std::size_t const row = Table::findValue(value);

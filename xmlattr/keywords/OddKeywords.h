@@ -74,6 +74,7 @@ template <> struct XMLATTR_API AttributeTraits<FontWeight> : KeywordTraits<FontW
 template <KeywordEnumeration E, bool accepts> struct OtherTextTraits : KeywordTraits<E> {
     static constexpr Description describe{.forms = {accepts ? u"any other text" : u""}, .readsAnyText = accepts};
 
+    // Stores Other for a text that is no keyword.
     static bool parse(E& value, std::u16string_view text) {
         if (KeywordTraits<E>::parse(value, text)) return true;
         value = E::Other;

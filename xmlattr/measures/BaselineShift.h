@@ -15,6 +15,7 @@ template <> struct Keywords<BaselineShiftMode> {
     static constexpr KeywordRow<BaselineShiftMode> rows[] = {{u"baseline", Baseline}, {u"sub", Sub}, {u"super", Super}};
 };
 
+// A mode, or a measure that raises the baseline.
 template <class Measure>
 class BaselineShiftOf : public TaggedMeasure<BaselineShiftMode, BaselineShiftMode::LengthOrPercent, Measure> {
 public:

@@ -13,6 +13,7 @@ namespace Xml {
 template <class RelativeWord, std::int32_t relativeNumber, class Measure, std::int32_t absoluteNumber>
 class FontMeasure {
 public:
+    // Which of the two members counts.
     enum Type : std::int32_t { NoValue = 0, Relative = relativeNumber, Absolute = absoluteNumber };
 
     constexpr Type getType() const { return type; }

@@ -12,6 +12,7 @@ public:
     constexpr LeaderPatternWidth() = default;
     constexpr LeaderPatternWidth(LengthOrPercent const& newMeasure) : AutoOrMeasure(newMeasure) {}
 
+    // Whether the width is that of the pattern itself.
     constexpr bool usesFontMetrics() const { return isAuto(); }
 
     constexpr bool operator==(LeaderPatternWidth const&) const = default;

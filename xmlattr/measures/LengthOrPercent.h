@@ -53,12 +53,15 @@ protected:
 
 static_assert(sizeof(AutoOrMeasure) == 20);
 
+// The parts of all that are automatic or measured.
 struct XMLATTR_API AutoOrMeasureParts {
+    // That it is automatic, or those of the measure.
     static void parts(AutoOrMeasure const& value, Parts& out);
 };
 
 // The printer of those whose automatic state has no word: it prints the empty text.
 struct XMLATTR_API AutoOrMeasurePrinter : AutoOrMeasureParts {
+    // The measure; the empty text for an automatic value.
     static Core::String print(AutoOrMeasure const& value);
 };
 

@@ -9,6 +9,7 @@ namespace Xml {
 // hold is 0.
 template <class LengthType> class MeasureOrPercent {
 public:
+    // Whether the length counts or the percentage.
     enum Kind : std::int32_t { KindLength = 1, KindPercent = 2 };
 
     constexpr Kind getKind() const { return kind; }

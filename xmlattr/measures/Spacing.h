@@ -10,6 +10,7 @@ namespace Xml {
 // Whether a spacing is the normal one or a length.
 enum XMLATTR_API SpacingKind : std::int32_t { SpacingNormal = 0, SpacingLength = 1 };
 
+// Normal spacing, or a length that comes on top of it.
 template <class LengthType> class SpacingOf : public TaggedMeasure<SpacingKind, SpacingLength, LengthType> {
 public:
     constexpr SpacingKind getKind() const { return this->tag; }

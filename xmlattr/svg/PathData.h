@@ -10,6 +10,7 @@ namespace Xml {
 
 // Unscoped, so that its enumerators compare with the integers they are, but only with their scope.
 namespace PathCommandKinds {
+// The commands; a relative one has the number of its absolute one.
 enum XMLATTR_API PathCommandKind : std::int32_t {
     MoveTo = 2,
     ClosePath = 3,

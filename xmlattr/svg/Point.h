@@ -6,6 +6,7 @@
 
 namespace Xml {
 
+// A point of a polyline or polygon.
 struct XMLATTR_API Point {
     SLength x, y;
 
@@ -27,7 +28,7 @@ struct XMLATTR_API Point {
 
 static_assert(sizeof(Point) == 16);
 
-// Reads and prints as the two functions above.
+// Read by Point::parsePointList and printed by Point::getPointListValueAsString.
 template <> struct XMLATTR_API AttributeTraits<Core::Vector<Point>> {
     static bool parse(Core::Vector<Point>& value, std::u16string_view text);
     static Core::String print(Core::Vector<Point> const& value);

@@ -9,6 +9,7 @@
 
 namespace Xml {
 
+// The functions of SVG 1.1.
 enum class XMLATTR_API TransformType : std::int32_t {
     Matrix = 1,
     Translate = 2,
@@ -24,6 +25,7 @@ struct TransformArguments {
     int least, most;
 };
 
+// Their names, exact in case.
 inline constexpr Core::WordRow<TransformArguments> transformWords[] = {
     {u"matrix", {TransformType::Matrix, 6, 6}}, {u"translate", {TransformType::Translate, 1, 2}},
     {u"scale", {TransformType::Scale, 1, 2}},   {u"rotate", {TransformType::Rotate, 1, 3}},

@@ -12,6 +12,7 @@ namespace Xml {
 
 // A step of a compiled grammar; each names the step that comes next.
 struct GrammarStep {
+    // What the step takes from the text.
     enum Kind : std::uint8_t {
         Accept,    // the text must end here
         Value,     // a value of the token, within the range
@@ -63,6 +64,7 @@ public:
     constexpr Grammar(std::string_view text, std::span<GrammarStep const> steps) : source(text), program(steps) {}
 
     constexpr explicit operator bool() const { return !program.empty(); }
+    // As it is written in the catalogue.
     constexpr std::string_view text() const { return source; }
     // The last one is the first to take, and the first one accepts.
     constexpr std::span<GrammarStep const> steps() const { return program; }

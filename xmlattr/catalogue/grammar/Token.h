@@ -10,6 +10,7 @@
 
 namespace Xml {
 
+// The kinds of values that have a reader.
 enum class Token : std::uint8_t {
     Number,     // 1.5
     Integer,    // -3
@@ -44,10 +45,12 @@ enum class Token : std::uint8_t {
 
 namespace TokenTables {
 
+// What a grammar calls a token.
 struct Name {
     std::string_view name;
     Token token;
 };
+// Every token once.
 inline constexpr Name names[] = {
     {"number", Token::Number},
     {"integer", Token::Integer},
@@ -80,9 +83,11 @@ inline constexpr Name names[] = {
     {"content-type", Token::ContentType},
 };
 
+// A name that stands for a grammar.
 struct Production {
     std::string_view name, grammar;
 };
+// A production may name those before it.
 inline constexpr Production productions[] = {
     {"absolute-size", "xx-small | x-small | small | medium | large | x-large | xx-large"},
     {"relative-size", "larger | smaller"},

@@ -11,6 +11,7 @@
 
 namespace Xml {
 
+// What to tell the author of a text.
 struct Advice {
     // What the value type makes of the text, or of the judgement's part, as it prints it; empty when it takes nothing
     // or prints nothing.
@@ -24,6 +25,7 @@ struct Advice {
     bool isExact = false;
     // The range of code units of the text that the replacement changes, and what it has in their place.
     std::size_t offset = 0, length = 0;
+    // Lives as long as the advice.
     std::u16string_view inserted() const {
         return std::u16string_view(replacement).substr(offset, replacement.size() - unchangedEnd - offset);
     }

@@ -12,6 +12,7 @@
 
 namespace Xml {
 
+// How a text stands on its attribute.
 enum class Verdict : std::uint8_t {
     Read,       // legal, and the value type holds what it means; in a shorthand, of one part at least
     PassedOver, // legal, but the formatter's business and no value type's: "inherit", an expression of XSL-FO

@@ -1,0 +1,11 @@
+# Runs a program and compares what it prints with a file:
+#   cmake -DEXPECTED=FILE -P compare.cmake -- PROGRAM ARGUMENT...
+math(EXPR last "${CMAKE_ARGC} - 1")
+foreach(i RANGE 5 ${last})
+  list(APPEND command "${CMAKE_ARGV${i}}")
+endforeach()
+execute_process(COMMAND ${command} OUTPUT_VARIABLE printed)
+file(READ ${EXPECTED} expected)
+if(NOT printed STREQUAL expected)
+  message(FATAL_ERROR "${EXPECTED} has\n${expected}\nbut the program prints\n${printed}")
+endif()

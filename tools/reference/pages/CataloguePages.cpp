@@ -1,0 +1,169 @@
+// The pages of the catalogue: attributes, elements, kinds of values, functions and newer names.
+#include "tools/reference/pages/Pages.h"
+
+#include "xmlattr/catalogue/Catalogue.h"
+#include "xmlattr/catalogue/Elements.h"
+#include "xmlattr/catalogue/grammar/GrammarText.h"
+#include "xmlattr/catalogue/legality/ExpressionFunctions.h"
+
+#include <algorithm>
+
+namespace Reference {
+
+namespace {
+
+using Xml::AttributeKind, Xml::CatalogueEntry, Xml::Vocabulary;
+
+struct Names {
+    Vocabulary vocabulary;
+    std::string_view file, title;
+};
+
+constexpr Names vocabularies[] = {{Vocabulary::Fo, "fo", "XSL-FO 1.1"}, {Vocabulary::Svg, "svg", "SVG 1.1"}};
+
+template <class Texts> std::vector<std::string> codesOf(Texts const& texts) {
+    std::vector<std::string> codes;
+    for (std::string_view const text : texts) codes.push_back(codeOf(text));
+    return codes;
+}
+
+// "`border-width`, `border-style` and `border-color`, in up to 3 parts".
+std::string partsOf(CatalogueEntry const& entry) {
+    if (entry.longhands.empty()) return "several, of which nothing is known";
+    std::vector<std::string> longhands;
+    for (CatalogueEntry const* const longhand : entry.longhands) longhands.push_back(codeOf(longhand->attribute));
+    std::string line = listOf(longhands);
+    line += entry.isFont ? ", as a font has them" : ", up to " + std::to_string(entry.mostParts);
+    if (!entry.ownWords.empty()) line += "; or " + listOf(codesOf(entry.ownWords), "or");
+    return line;
+}
+
+std::string readsOf(CatalogueEntry const& entry) {
+    switch (entry.kind) {
+    case AttributeKind::Typed: return codeOf(entry.valueType);
+    case AttributeKind::Shorthand: return "shorthand of " + partsOf(entry);
+    case AttributeKind::Identifier: return "identifier";
+    case AttributeKind::Text: return "free text";
+    case AttributeKind::Untyped: return "no type";
+    }
+    return "";
+}
+
+std::string codeOrNothing(std::string_view text) {
+    return text.empty() ? "" : codeOf(text);
+}
+
+Page attributesPage(Names const& names) {
+    bool const isSvg = names.vocabulary == Vocabulary::Svg;
+    Page page("attributes-" + std::string(names.file) + ".md", "Attributes of " + std::string(names.title));
+    page.paragraph(
+        "Which type reads which attribute, and what the recommendation says of it: the grammar of its "
+        "values, in the notation that `xmlattr/catalogue/grammar/Grammar.h` describes, its initial value and "
+        "whether it is inherited. [Kinds of values](kinds-of-values.md) has what stands in angle brackets. A row that "
+        "names no element is for all that have no row of their own; [another page](elements-" +
+        std::string(names.file) + ".md) has the attributes of each element.");
+    std::vector<Row> rows;
+    for (CatalogueEntry const& entry : Xml::Catalogue::entries()) {
+        if (entry.vocabulary != names.vocabulary) continue;
+        std::string const elements = entry.isForEveryElement() ? "" : listOf(codesOf(entry.elements));
+        Row row{codeOf(entry.attribute),
+                elements,
+                readsOf(entry),
+                codeOrNothing(entry.defaultConstant),
+                codeOrNothing(entry.grammar.text()),
+                codeOrNothing(entry.initial),
+                entry.isInherited ? "yes" : "no"};
+        if (isSvg) row.push_back(entry.isPresentation ? "yes" : "no");
+        row.push_back(markdownOf(entry.note));
+        rows.push_back(std::move(row));
+    }
+    Row titles{"attribute", "on", "read by", "constant", "grammar", "initial value", "inherited"};
+    if (isSvg) titles.emplace_back("property");
+    titles.emplace_back("note");
+    page.table(titles, rows);
+    return page;
+}
+
+Page elementsPage(Names const& names) {
+    Page page("elements-" + std::string(names.file) + ".md", "Elements of " + std::string(names.title));
+    auto const elements = Xml::Elements::names(names.vocabulary);
+    std::vector<std::string> onEvery;
+    std::vector<std::vector<std::string>> others(elements.size());
+    for (std::string_view const attribute : Xml::Elements::attributes(names.vocabulary)) {
+        auto const hasIt = [&](std::string_view element) {
+            return Xml::Elements::has(names.vocabulary, element, attribute);
+        };
+        if (std::ranges::all_of(elements, hasIt)) {
+            onEvery.push_back(codeOf(attribute));
+            continue;
+        }
+        for (std::size_t i = 0; i < elements.size(); ++i)
+            if (hasIt(elements[i])) others[i].push_back(codeOf(attribute));
+    }
+    page.paragraph("Every element has " + listOf(onEvery) +
+                   ". Below stand the attributes that an element has besides.");
+    for (std::size_t i = 0; i < elements.size(); ++i) {
+        page.heading(2, "`" + std::string(elements[i]) + "`");
+        page.paragraph(others[i].empty() ? "None." : listOf(others[i]) + ".");
+    }
+    return page;
+}
+
+// What a grammar of this one kind of value asks for.
+std::string nounOf(Xml::Token token, Xml::Dialect dialect) {
+    Xml::GrammarStep steps[2];
+    steps[1].kind = Xml::GrammarStep::Value;
+    steps[1].token = token;
+    return markdownOf(Xml::describeGrammar(Xml::Grammar("", steps), dialect));
+}
+
+Page kindsPage() {
+    Page page("kinds-of-values.md", "Kinds of values");
+    page.paragraph("What stands in angle brackets in the grammars of attributes.");
+    page.heading(2, "Kinds that have a reader");
+    std::vector<Row> rows;
+    for (auto const& [name, token] : Xml::TokenTables::names)
+        rows.push_back({codeOf("<" + std::string(name) + ">"), nounOf(token, Xml::Dialect::Fo),
+                        nounOf(token, Xml::Dialect::SvgAttribute)});
+    page.table({"kind", "XSL-FO 1.1", "SVG 1.1"}, rows);
+    page.heading(2, "Kinds that are short for a grammar");
+    rows.clear();
+    for (auto const& [name, grammar] : Xml::TokenTables::productions)
+        rows.push_back({codeOf("<" + std::string(name) + ">"), codeOf(grammar)});
+    page.table({"kind", "grammar"}, rows);
+    page.heading(2, "Functions of expressions");
+    page.paragraph("XSL-FO 1.1 allows them in every property.");
+    rows.clear();
+    for (auto const& [name, function] : Xml::expressionFunctions) {
+        std::string arguments = std::to_string(function.least);
+        if (function.most > function.least) arguments.append(" to ").append(std::to_string(function.most));
+        rows.push_back({codeOf(name), arguments, function.copiesValue ? "the value of another property" : ""});
+    }
+    page.table({"function", "arguments", "gives"}, rows);
+    return page;
+}
+
+Page newerNamesPage() {
+    Page page("newer-names.md", "Newer names");
+    page.paragraph("Names that SVG 1.1 does not have and a newer recommendation has.");
+    std::vector<Row> rows;
+#define XMLATTR_NEWER(kind, name, source) rows.push_back({codeOf(std::string_view(name)), #kind, source});
+#include "xmlattr/catalogue/NewerNames.inc"
+#undef XMLATTR_NEWER
+    for (Row& row : rows) row[1] = row[1] == "Element" ? "element" : row[1] == "Attribute" ? "attribute" : "property";
+    page.table({"name", "what", "where"}, rows);
+    return page;
+}
+
+} // namespace
+
+std::vector<Page> cataloguePages() {
+    std::vector<Page> pages;
+    for (Names const& names : vocabularies) pages.push_back(attributesPage(names));
+    for (Names const& names : vocabularies) pages.push_back(elementsPage(names));
+    pages.push_back(kindsPage());
+    pages.push_back(newerNamesPage());
+    return pages;
+}
+
+} // namespace Reference

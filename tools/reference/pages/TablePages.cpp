@@ -1,0 +1,106 @@
+// The pages of the tables that value types read by.
+#include "tools/reference/pages/Pages.h"
+#include "tools/reference/pages/Trials.h"
+
+#include "xmlattr/catalogue/DefaultConstant.h"
+#include "xmlattr/color/ColorNames.h"
+#include "xmlattr/core/Format.h"
+#include "xmlattr/core/SystemColors.h"
+#include "xmlattr/language/Language.h"
+#include "xmlattr/language/LanguageTable.h"
+#include "xmlattr/measures/Units.h"
+
+#include <cstdio>
+
+namespace Reference {
+
+namespace {
+
+Page constantsPage() {
+    Page page("constants.md", "Default constants");
+    page.paragraph("The constants of `xmlattr/defaults/DefaultAttributes.h`: the values of properties that a document "
+                   "does not set. `DefaultFontFamily` and `DefaultFontSize` may come from the configuration; these are "
+                   "the values without one.");
+    std::vector<Row> rows;
+    for (Xml::DefaultConstant const& constant : Xml::DefaultConstant::all()) {
+        State const state = stateOf(Xml::AnyAttribute(constant.type(), *constant));
+        rows.push_back({codeOf(constant.name()), codeOf(constant.type().name()), printOf(state), partsOf(state)});
+    }
+    page.table({"constant", "type", "prints", "value"}, rows);
+    return page;
+}
+
+// As a colour attribute reads the name.
+template <class Rows> std::vector<Row> colorRows(Rows const& names) {
+    std::vector<Row> rows;
+    for (auto const& name : names) {
+        Xml::AnyAttribute color(*Xml::AttributeType::find("SmartPtr<Drawing::Color>"));
+        color.parseValue(name.word);
+        char number[16];
+        std::snprintf(number, sizeof number, "#%06X", color.parts().rgb.value_or(0));
+        rows.push_back({codeOf(name.word), codeOf(std::string_view(number)), codeOf(color.getValueAsString())});
+    }
+    return rows;
+}
+
+Page colorsPage() {
+    Page page("colour-names.md", "Names of colours");
+    page.paragraph("What colour attributes read besides functions and numbers: the colour keywords of SVG 1.1 and the "
+                   "system colours of CSS 2, in any case.");
+    page.heading(2, "Colour keywords");
+    page.table({"name", "number", "prints"}, colorRows(Xml::colorNames));
+    page.heading(2, "System colours");
+    page.paragraph("These are the colours of a plain desktop; a program may set others, and more names, by "
+                   "`Core::OSInfo::setSystemColor`.");
+    page.table({"name", "number", "prints"}, colorRows(Core::systemColors));
+    return page;
+}
+
+Page languagesPage() {
+    Page page("languages.md", "Languages");
+    page.paragraph("What `Language` reads, in any case: codes of ISO 639-1 and a few more tags.");
+    std::vector<Row> rows;
+    for (auto const& tag : Xml::languageTags) {
+        Xml::Language language;
+        Xml::Language::parseLanguage(tag.word, language);
+        rows.push_back({codeOf(tag.word), std::to_string(static_cast<int>(language.getLanguage())),
+                        codeOf(Xml::Language::getISO639LanguageName(language)),
+                        codeOf(Xml::Language::getFullLanguageNameById(language.getLanguage())),
+                        std::to_string(static_cast<int>(language.getCountry()))});
+    }
+    page.table({"tag", "number", "name in ISO 639", "full name", "country"}, rows);
+    return page;
+}
+
+std::string numberOf(float number) {
+    return Core::Format::toShortest(number).toUtf8();
+}
+
+Page unitsPage() {
+    Page page("units.md", "Units of length");
+    page.paragraph("What one of each unit is in pixels, at 96 pixels to the inch, and how many of them 96 pixels are. "
+                   "The two types of lengths number their units in ways of their own.");
+    std::vector<Row> rows;
+    for (auto const& unit : Xml::unitRows) {
+        auto const [inLength, inSLength] = std::pair(unit.value.length, unit.value.sLength);
+        Row row{codeOf(unit.word)};
+        row.push_back(numberOf(Xml::Length(1, inLength).pxSize()));
+        row.push_back(numberOf(Xml::Length::pxSizeToUnitSize(96, inLength)));
+        row.push_back(std::to_string(static_cast<int>(inLength)));
+        row.push_back(numberOf(Xml::SLength(1, inSLength).pxSize()));
+        row.push_back(std::to_string(static_cast<int>(inSLength)));
+        rows.push_back(std::move(row));
+    }
+    page.table({"unit", "pixels of one", "of 96 pixels", "number in `Length`", "pixels of one `SLength`",
+                "number in `SLength`"},
+               rows);
+    return page;
+}
+
+} // namespace
+
+std::vector<Page> tablePages() {
+    return {constantsPage(), colorsPage(), languagesPage(), unitsPage()};
+}
+
+} // namespace Reference
