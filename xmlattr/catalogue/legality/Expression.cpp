@@ -149,15 +149,12 @@ private:
         --depth;
         isMoreThanValue = true;
         if (count < function->least || count > function->most) return false;
+        bool const areNumbers = areNumeric && arguments.power.value_or(0) == 0;
         switch (function->result) {
         case ExpressionFunction::Argument: value = arguments; return areNumeric;
-        case ExpressionFunction::Number:
-            value = {.kind = Expression::Numeric, .power = 0};
-            return areNumeric && arguments.power.value_or(0) == 0;
+        case ExpressionFunction::Number: value = {.kind = Expression::Numeric, .power = 0}; return areNumbers;
         case ExpressionFunction::Length: value = {.kind = Expression::Numeric, .power = 1}; break;
-        case ExpressionFunction::Share:
-            value = {.kind = Expression::Share, .power = 1};
-            return areNumeric && arguments.power.value_or(0) == 0;
+        case ExpressionFunction::Share: value = {.kind = Expression::Share, .power = 1}; return areNumbers;
         case ExpressionFunction::Color: value.kind = Expression::Color; break;
         case ExpressionFunction::Font: value.kind = count == 1 ? Expression::Font : Expression::Any; break;
         case ExpressionFunction::Copy: break;
