@@ -27,7 +27,9 @@ bool isOfValue(Fault fault) {
     case Fault::UnknownElement:
     case Fault::MisplacedAttribute:
     case Fault::DuplicateId:
-    case Fault::DanglingReference: return false;
+    case Fault::DanglingReference:
+    case Fault::PassedOver:
+    case Fault::NotCovered: return false;
     }
     return false;
 }
