@@ -117,6 +117,19 @@ std::string nounOf(Xml::Token token, Xml::Dialect dialect) {
     return markdownOf(Xml::describeGrammar(Xml::Grammar("", steps), dialect));
 }
 
+std::string resultOf(Xml::ExpressionFunction::Result result) {
+    switch (result) {
+    case Xml::ExpressionFunction::Argument: return "one of the arguments";
+    case Xml::ExpressionFunction::Number: return "a number";
+    case Xml::ExpressionFunction::Length: return "a length";
+    case Xml::ExpressionFunction::Share: return "a share of the width that is left";
+    case Xml::ExpressionFunction::Color: return "a colour";
+    case Xml::ExpressionFunction::Font: return "a property of a font";
+    case Xml::ExpressionFunction::Copy: return "the value of another property";
+    }
+    return "";
+}
+
 Page kindsPage() {
     Page page("kinds-of-values.md", "Kinds of values");
     page.paragraph("What stands in angle brackets in the grammars of attributes.");
@@ -137,7 +150,7 @@ Page kindsPage() {
     for (auto const& [name, function] : Xml::expressionFunctions) {
         std::string arguments = std::to_string(function.least);
         if (function.most > function.least) arguments.append(" to ").append(std::to_string(function.most));
-        rows.push_back({codeOf(name), arguments, function.copiesValue ? "the value of another property" : ""});
+        rows.push_back({codeOf(name), arguments, resultOf(function.result)});
     }
     page.table({"function", "arguments", "gives"}, rows);
     return page;
