@@ -350,12 +350,14 @@ void Checker::find(Occurrence const& occurrence, Finding finding) {
         finding.element = nameInDocument(occurrence.element, *occurrence.tag);
         bool const isName = finding.fault == Fault::UnknownAttribute || finding.fault == Fault::MisplacedAttribute;
         if (occurrence.offset) {
-            // The value of a declaration is a part of the style.
+            // The value of a declaration is a part of the style; what is no declaration is a fault as a whole.
             bool const isValue = occurrence.isDeclaration() && !isName;
-            finding.source = tag.excerptInValue(
-                occurrence.number,
-                isValue ? static_cast<std::size_t>(occurrence.value.data() - style.data()) : *occurrence.offset,
-                isName ? occurrence.name.size() : occurrence.value.size());
+            std::size_t const offset =
+                isValue ? static_cast<std::size_t>(occurrence.value.data() - style.data()) : *occurrence.offset;
+            std::size_t const length = isValue  ? occurrence.value.size()
+                                       : isName ? occurrence.name.size()
+                                                : finding.length;
+            finding.source = tag.excerptInValue(occurrence.number, offset, length);
         } else {
             finding.source = isName ? tag.excerptOfName(occurrence.number) : tag.excerptOfValue(occurrence.number);
         }

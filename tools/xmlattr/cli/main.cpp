@@ -87,7 +87,7 @@ int run(int argc, char** argv) {
     Choices<ReportFormat const*> formats;
     for (ReportFormat const& format : reportFormats()) formats.emplace_back(format.word, &format);
     addChoice(*checkCommand, "--format", checking.format, formats,
-              "text; json: one object a line; sarif and github: for services; html: a page to read");
+              "Print text, json (one object a line), sarif, annotations of github or a page of html (default: text)");
     checkCommand
         ->add_option("--output", checking.output, "Write the report to this file, which appears when it is whole")
         ->type_name("FILE");
