@@ -59,8 +59,13 @@ std::string checkCount(std::string const& text) {
     return isCount ? "" : inQuotes(printable(text)) + " is no whole number";
 }
 
-void addNames(CLI::App& app, std::string const& name, std::vector<std::string>& names, std::string const& help) {
-    app.add_option(name, names, help)->allow_extra_args(false)->delimiter(',')->type_name("WHAT");
+// An option that may stand several times, each time with one name or more.
+CLI::Option* addNames(CLI::App& app, std::string const& option, std::vector<std::string>& names,
+                      std::string const& help) {
+    auto const add = [&names](std::string const& list) {
+        for (std::string const& name : CLI::detail::split(list, ',')) names.push_back(name);
+    };
+    return app.add_option_function<std::string>(option, add, help)->trigger_on_parse()->take_last()->type_name("WHAT");
 }
 
 int run(int argc, char** argv) {
@@ -102,10 +107,10 @@ int run(int argc, char** argv) {
              "Leave out findings with this id, attribute:NAME or element:NAME");
     addNames(*checkCommand, "--only", checking.only,
              "Report only findings with this id, attribute:NAME or element:NAME");
-    addNames(*checkCommand, "--show", checking.shown,
-             "Also report what is only counted: passed-over, not-covered or unknown");
+    addNames(*checkCommand, "--show", checking.shown, "Report also what is only counted")
+        ->type_name("passed-over|not-covered|unknown");
     checkCommand->add_flag("--group", checking.isGrouped,
-                           "Show equal findings once, with their number; the most frequent first");
+                           "Print equal findings once, with their number, the most frequent first");
     checkCommand->add_option("--baseline", checking.baseline, "Leave out the findings that are recorded in this file")
         ->type_name("FILE");
     checkCommand
@@ -114,9 +119,10 @@ int run(int argc, char** argv) {
         ->type_name("FILE");
     checkCommand
         ->add_option("--config", checking.configuration,
-                     "The configuration; else the nearest xmlattr.toml of each document")
+                     "Take options from this file (default: the nearest xmlattr.toml of each document)")
         ->type_name("FILE");
-    checkCommand->add_option("-j,--jobs", checking.jobs, "Check so many files at a time; as many as there are cores")
+    checkCommand
+        ->add_option("-j,--jobs", checking.jobs, "Check so many files at a time (default: as many as there are cores)")
         ->check(checkCount)
         ->type_name("N");
     addExplain(*checkCommand, explained);
