@@ -40,9 +40,10 @@ TEST(Advice, WritesWhatIsMisreadAnotherWay) {
     expectAdvice({
         {Svg, "path", "d", u"M0 0a.5.5 0 1 1 1 1", Misread, "0", "M0 0a.5 .5 0 1 1 1 1", true},
         {Svg, "path", "d", u"m1,1l2-3", Read, "", ""},
+        {Svg, "path", "d", u"\n M0 0l.5.5 ", Misread, "0", "\n M0 0l.5 .5 ", true},
         {Svg, "g", "transform", u"translate(-1-1)", Misread, "no transform", "translate(-1 -1)", true},
         {Svg, "polygon", "points", u"0,0 1-1", Read, "", ""},
-        {Svg, "svg", "viewBox", u" 0,0,9,9", Misread, "", "0 0 9 9", true},
+        {Svg, "svg", "viewBox", u" 0,0,9,9", Misread, "", " 0 0 9 9", true},
         {Svg, "rect", "fill", u"rgb(300,-1,0)", Misread, "rgb(44,255,0)", "rgb(255,0,0)", true},
         {Svg, "rect", "fill", u"url('#u')", Misread, "url(#u')", "url(#u)", true},
         {Svg, "rect", "stroke", u"url( #u )", Read, "", ""},

@@ -125,13 +125,16 @@ public:
           judgement(judgement),
           part(judgement.part.data() ? judgement.part : text) {}
 
+    // Blanks around the text stay where they do no harm.
     Advice advise() {
         Dialect const dialect = dialectOf(entry, notation);
         advice.expected = describeGrammar(entry.grammar, dialect);
         if (judgement.verdict != Verdict::Refused) setHeld();
         if (judgement.verdict == Verdict::Misread && entry.type()) {
             if (auto rewritten = rewriteTyped(entry, dialect, text)) {
-                advice.replacement = std::move(*rewritten);
+                part = trimXmlSpace(text);
+                if (part.size() < text.size()) take(*rewritten);
+                if (advice.replacement.empty()) advice.replacement = std::move(*rewritten);
                 advice.isExact = true;
             }
         } else if (text.size() <= longestGuess && !judgement.isNegative && judgement.newer.empty()) {
@@ -161,7 +164,6 @@ private:
         if (trimmed.empty()) return;
         std::vector<std::u16string> guesses = variantsOf(trimmed);
         addNearest(guesses, trimmed);
-        // Blanks around the text stay where they do no harm.
         std::u16string_view const whole = std::exchange(part, trimmed);
         if (takeFirst(guesses) || whole.size() == trimmed.size()) return;
         part = whole;
