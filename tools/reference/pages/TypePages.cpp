@@ -117,6 +117,7 @@ void addFailures(Page& page, Xml::AttributeType const& type, TypeFacts const& fa
         return;
     }
     std::vector<std::string> texts;
+    texts.reserve(changes.size());
     for (Change const& change : changes) texts.push_back(codeOf(change.refused));
     Change const& first = changes.front();
     page.item((changes.size() == refused.size() ? "Every refused text may change the value"
