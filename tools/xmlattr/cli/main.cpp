@@ -145,7 +145,7 @@ int run(int argc, char** argv) {
     fixCommand->add_flag("-q,--quiet", fixing.isQuiet, "No summary");
     fixCommand->footer(
         "Values with one right answer are rewritten where they stand; the new text of standard input goes to standard\n"
-        "output. The exit code is 0 when check would report nothing any more, 1 when a finding is left, and 2 when a\n"
+        "output; the exit code is 0 when check would report nothing any more, 1 when a finding is left, and 2 when a\n"
         "file could not be read or written.");
 
     ShowOptions showing;
