@@ -118,12 +118,6 @@ TEST(Fix, FollowsTheBranchesOfStylesheets) {
                "</x:text></x:when><x:otherwise>\n " + second + "\n</x:otherwise></x:choose></x:attribute></path></x:t>";
     };
     EXPECT_EQ(fixDocument(document("M0 0l.5.5", "M1 1l.5.5")).document, document("M0 0l.5 .5", "M1 1l.5 .5"));
-    // An element that is no part of the value is met before the value is known.
-    Outcome const outcome =
-        fixDocument(stylesheet + "<g><x:attribute name='width'><x:choose><x:when test='1'>1PX</x:when>"
-                                 "<x:when test='2'><g stroke-width='1PX'/></x:when></x:choose>"
-                                 "</x:attribute></g></x:t>");
-    EXPECT_EQ(outcome.reasons, "width: what stands after the value has been rewritten already\n");
 }
 
 TEST(Fix, TellsWhatItLeaves) {
