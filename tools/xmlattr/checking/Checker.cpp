@@ -277,7 +277,6 @@ void Checker::checkValue(Occurrence const& occurrence, Xml::CatalogueEntry const
     finding.length = advice.length;
     finding.inserted = toUtf8(advice.inserted());
     finding.entry = &entry;
-    finding.notation = occurrence.notation;
     find(occurrence, std::move(finding));
 }
 
@@ -362,7 +361,7 @@ void Checker::find(Occurrence const& occurrence, Finding finding) {
             finding.source = isName ? tag.excerptOfName(occurrence.number) : tag.excerptOfValue(occurrence.number);
         }
     }
-    finding.isDeclaration = occurrence.isDeclaration();
+    finding.notation = occurrence.notation;
     finding.text = occurrence.value;
     finding.number = occurrence.number;
     if (occurrence.isDeclaration())

@@ -95,7 +95,8 @@ std::string Finding::message() const {
         return printable(element) + " is no element of its vocabulary" +
                (replacement.empty() ? "" : "; did you mean " + inQuotes(replacement) + "?");
     case Fault::UnknownAttribute:
-        return printable(attribute) + where + " is no known " + (isDeclaration ? "property" : "attribute") +
+        return printable(attribute) + where + " is no known " +
+               (notation == Xml::Notation::Declaration ? "property" : "attribute") +
                (replacement.empty() ? "" : "; did you mean " + inQuotes(replacement) + "?");
     case Fault::MisplacedAttribute:
         return printable(attribute) + where + " has no effect: the element does not have it";

@@ -48,7 +48,6 @@ struct Finding {
     Place place;
     std::string element;        // as the document names it
     std::string attribute;      // as the catalogue writes it; of a declaration the property; empty for an element
-    bool isDeclaration = false; // in a style attribute
     std::string text;           // of the attribute
     Excerpt source;             // the value as the document writes it; of a name that is wrong the name
 
