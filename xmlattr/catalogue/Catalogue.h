@@ -1,5 +1,5 @@
-// Which value type an attribute of XSL-FO 1.1 or SVG 1.1 has, and what else is known of it: a table that is compiled in.
-// legality/Judge.h tells whether a text is legal on an attribute.
+// Which value type an attribute of XSL-FO 1.1 or SVG 1.1 has, and what else is known of it: a table that is compiled
+// in. legality/Judge.h tells whether a text is legal on an attribute.
 #pragma once
 
 #include "xmlattr/catalogue/grammar/Grammar.h"
@@ -40,8 +40,9 @@ struct CatalogueEntry {
     // The local name; those of the XML and XLink namespaces have their usual prefix: "xml:lang".
     std::string_view attribute;
 
-    // The values that the recommendation allows, without "inherit" and expressions; and the one that an absent attribute
-    // has, in UTF-8, empty when there is none, when it depends on other attributes or is left to the formatter.
+    // The values that the recommendation allows, without "inherit" and expressions; and the one that an absent
+    // attribute has, in UTF-8, empty when there is none, when it depends on other attributes or is left to the
+    // formatter.
     Grammar grammar;
     std::string_view initial;
     // For people: what to know of the attribute and its type.

@@ -27,7 +27,7 @@ template <class Texts> std::vector<std::string> codesOf(Texts const& texts) {
     return codes;
 }
 
-// "`border-width`, `border-style` and `border-color`, in up to 3 parts".
+// "`border-width`, `border-style` and `border-color`, up to 3".
 std::string partsOf(CatalogueEntry const& entry) {
     if (entry.longhands.empty()) return "several, of which nothing is known";
     std::vector<std::string> longhands;

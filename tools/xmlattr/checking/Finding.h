@@ -46,10 +46,10 @@ FaultKind const& kindOf(Fault fault);
 struct Finding {
     Fault fault{};
     Place place;
-    std::string element;        // as the document names it
-    std::string attribute;      // as the catalogue writes it; of a declaration the property; empty for an element
-    std::string text;           // of the attribute
-    Excerpt source;             // the value as the document writes it; of a name that is wrong the name
+    std::string element;   // as the document names it
+    std::string attribute; // as the catalogue writes it; of a declaration the property; empty for an element
+    std::string text;      // of the attribute
+    Excerpt source;        // the value as the document writes it; of a name that is wrong the name
 
     // Of a value, in UTF-8. Empty where they do not apply.
     std::string part;        // of the text: what is wrong, or held otherwise

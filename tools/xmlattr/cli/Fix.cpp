@@ -96,7 +96,7 @@ std::vector<Job> jobsOf(FixOptions const& options, std::vector<std::string>& pro
                     file == path ? fs::path(file).filename() : fs::path(file).lexically_relative(path);
                 job.target = fs::path(options.output) / below;
             }
-            if (targets.insert(job.target).second)
+            if (targets.insert(job.target.lexically_normal()).second)
                 jobs.push_back(std::move(job));
             else if (!options.output.empty())
                 problems.push_back(file + ": another file has the name " + job.target.string() + " already");

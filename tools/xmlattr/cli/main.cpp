@@ -142,7 +142,7 @@ int run(int argc, char** argv) {
     fixCommand->add_flag("--suggestions", fixing.takesSuggestions,
                          "Also write what is but likely to be meant: a unit, the nearest word");
     addColor(*fixCommand, fixing.color);
-    fixCommand->add_flag("-q,--quiet", fixing.isQuiet, "No summary");
+    fixCommand->add_flag("-q,--quiet", fixing.isQuiet, "Print no summary");
     fixCommand->footer(
         "Values with one right answer are rewritten where they stand; the new text of standard input goes to standard\n"
         "output; the exit code is 0 when check would report nothing any more, 1 when a finding is left, and 2 when a\n"

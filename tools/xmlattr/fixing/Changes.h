@@ -14,8 +14,8 @@ struct Change {
     std::u32string inserted;
 };
 
-// The changes that make one UTF-8 text of the other, in their order. They are small where the texts differ in few places
-// each: what stays between two changes keeps its line ends and references in a file. Linear in the texts.
+// The changes that make one UTF-8 text of the other, in their order. They are small where the texts differ in few
+// places each: what stays between two changes keeps its line ends and references in a file. Linear in the texts.
 std::vector<Change> changesBetween(std::string_view from, std::string_view to);
 
 } // namespace Command

@@ -15,10 +15,10 @@ namespace Command {
 // Whatever fails before, a loss of power included, leaves the old file as it was.
 class ReplacedFile final : public RewrittenDocument {
 public:
-    // The target and its folder need not exist; where it is a link, that to which it leads is replaced. Mode and owner are those
-    // of the other file. Nothing is written before the first bytes are.
-    // Folders with a new name in them are gathered: until they are on the disk as well, which one call does for many
-    // files, a loss of power may bring the old file back.
+    // The target and its folder need not exist; where it is a link, that to which it leads is replaced. Mode and owner
+    // are those of the other file. Nothing is written before the first bytes are. Folders with a new name in them are
+    // gathered: until they are on the disk as well, which one call does for many files, a loss of power may bring the
+    // old file back.
     ReplacedFile(FileSystem& system, std::set<std::filesystem::path>& folders, std::filesystem::path target,
                  std::filesystem::path like);
     ReplacedFile(ReplacedFile const&) = delete;

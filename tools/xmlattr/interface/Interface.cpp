@@ -156,7 +156,7 @@ std::string inShellQuotes(std::string const& text) {
     return "'" + replaced(text, "'", "'\\''") + "'";
 }
 
-// A description inside of a specification of _arguments.
+// A description as _arguments reads it.
 std::string zshText(std::string text) {
     for (char const* const special : {"\\", "[", "]", ":"}) text = replaced(text, special, "\\" + std::string(special));
     return text;
@@ -169,16 +169,16 @@ std::string zshAction(Argument const& argument) {
                                      : "(" + joined(argument.words, " ") + ")");
 }
 
-// The specifications of a part for _arguments, one a line.
-std::string zshSpecifications(Part const& part, std::string const& indent) {
+// The options of a part as _arguments reads them, one a line.
+std::string zshRows(Part const& part, std::string const& indent) {
     std::string text;
     for (Argument const& option : part.options) {
         Texts const spellings = option.spellings();
         for (std::string const& spelling : spellings) {
-            std::string specification = option.isRepeated ? "*" : "(" + joined(spellings, " ") + ")";
-            specification += spelling + "[" + zshText(option.help) + "]";
-            if (!option.placeholder.empty()) specification += zshAction(option);
-            text += indent + inShellQuotes(specification) + " \\\n";
+            std::string row = option.isRepeated ? "*" : "(" + joined(spellings, " ") + ")";
+            row += spelling + "[" + zshText(option.help) + "]";
+            if (!option.placeholder.empty()) row += zshAction(option);
+            text += indent + inShellQuotes(row) + " \\\n";
         }
     }
     for (Argument const& argument : part.arguments)
@@ -191,9 +191,9 @@ std::string zsh(std::vector<Part> const& parts) {
     for (Part const& part : parts) {
         if (part.name.empty()) continue;
         commands += "        " + inShellQuotes(zshText(part.name) + ":" + part.help) + "\n";
-        std::string specifications = zshSpecifications(part, "            ");
-        specifications.erase(specifications.size() - 3); // the last line does not go on
-        arguments += "        " + part.name + ")\n            _arguments -s \\\n" + specifications + " ;;\n";
+        std::string rows = zshRows(part, "            ");
+        rows.erase(rows.size() - 3); // the last line does not go on
+        arguments += "        " + part.name + ")\n            _arguments -s \\\n" + rows + " ;;\n";
     }
     return "#compdef xmlattr\n"
            "# Completions of xmlattr for zsh.\n"
@@ -203,7 +203,7 @@ std::string zsh(std::vector<Part> const& parts) {
            commands +
            "    )\n"
            "    _arguments -C \\\n" +
-           zshSpecifications(parts.front(), "        ") +
+           zshRows(parts.front(), "        ") +
            "        '1:command:->command' '*::argument:->argument'\n"
            "    case $state in\n"
            "    command) _describe command commands ;;\n"

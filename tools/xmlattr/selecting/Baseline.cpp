@@ -35,7 +35,10 @@ Baseline::Baseline(std::string file) : file(std::move(file)) {}
 std::optional<std::string> Baseline::read() {
     errno = 0;
     std::ifstream opened(file, std::ios::binary);
-    if (!opened) return file + ": the baseline cannot be read: " + std::generic_category().message(errno);
+    std::error_code ignored;
+    bool const isFolder = fs::is_directory(file, ignored);
+    if (!opened || isFolder)
+        return file + ": the baseline cannot be read: " + std::generic_category().message(isFolder ? EISDIR : errno);
     try {
         Json const content = Json::parse(opened);
         if (content.at("baseline") != version) return file + ": a baseline of another version; write it anew";
@@ -99,9 +102,9 @@ std::vector<std::string> Baseline::gone() const {
         for (auto const& [key, count] : document.counts) {
             if (count == 0) continue;
             auto const& [id, element, attribute, text] = key;
-            std::string line = name + ": " +
-                               (attribute.empty() ? "" : attribute + "=" + inQuotes(printable(text)) + " on ") +
-                               printable(element) + " [" + id + "]";
+            std::string line = name + ": ";
+            if (!attribute.empty()) line.append(attribute).append("=").append(inQuotes(printable(text))).append(" on ");
+            line.append(printable(element)).append(" [").append(id).append("]");
             if (count > 1) line += ", " + std::to_string(count) + " times";
             lines.push_back(std::move(line));
         }

@@ -162,7 +162,11 @@ private:
 std::optional<std::string> Configuration::read(std::string const& file) {
     errno = 0;
     std::ifstream opened(file, std::ios::binary);
-    if (!opened) return file + ": the configuration cannot be read: " + std::generic_category().message(errno);
+    std::error_code ignored;
+    bool const isFolder = std::filesystem::is_directory(file, ignored);
+    if (!opened || isFolder)
+        return file +
+               ": the configuration cannot be read: " + std::generic_category().message(isFolder ? EISDIR : errno);
     folder = absolute(file).parent_path().string();
     Reader reader(*this, file);
     toml::parse_result const result = toml::parse(opened);

@@ -12,12 +12,12 @@ using Split = std::pair<std::string_view, std::string_view>;
 // The part before the first slash, and what follows the slash.
 Split split(std::string_view path) {
     std::size_t const slash = path.find('/');
-    return slash == path.npos ? Split(path, {}) : Split(path.substr(0, slash), path.substr(slash + 1));
+    return slash == std::string_view::npos ? Split(path, {}) : Split(path.substr(0, slash), path.substr(slash + 1));
 }
 
 // When a text does not match after a star, the star takes one character more; only the last star need ever do so.
 bool matchesPart(std::string_view pattern, std::string_view part) {
-    std::size_t p = 0, i = 0, star = pattern.npos, taken = 0;
+    std::size_t p = 0, i = 0, star = std::string_view::npos, taken = 0;
     while (i < part.size()) {
         if (p < pattern.size() && pattern[p] == '*') {
             star = p++;
@@ -25,14 +25,14 @@ bool matchesPart(std::string_view pattern, std::string_view part) {
         } else if (p < pattern.size() && (pattern[p] == '?' || pattern[p] == part[i])) {
             ++p;
             ++i;
-        } else if (star != pattern.npos) {
+        } else if (star != std::string_view::npos) {
             p = star + 1;
             i = ++taken;
         } else {
             return false;
         }
     }
-    return pattern.find_first_not_of('*', p) == pattern.npos;
+    return pattern.find_first_not_of('*', p) == std::string_view::npos;
 }
 
 // The same by parts.
@@ -66,7 +66,7 @@ bool matchesParts(std::string_view pattern, std::string_view path) {
 
 bool matchesGlob(std::string_view pattern, std::string_view path) {
     if (pattern.ends_with('/')) return matchesParts(std::string(pattern) + "**", path);
-    if (pattern.find('/') == pattern.npos) return matchesPart(pattern, path.substr(path.rfind('/') + 1));
+    if (pattern.find('/') == std::string_view::npos) return matchesPart(pattern, path.substr(path.rfind('/') + 1));
     return matchesParts(pattern, path);
 }
 

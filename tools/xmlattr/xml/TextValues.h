@@ -24,8 +24,8 @@ public:
     };
 
     void startElement(XmlElement const& element);
-    // A piece of text; a line end comes alone. `bytes` says where it stands when it follows the tag or the piece before it
-    // at once, character by character.
+    // A piece of text; a line end comes alone. `bytes` says where it stands when it follows the tag or the piece before
+    // it at once, character by character.
     void text(std::string_view piece, Place place, std::optional<std::uint64_t> bytes = {});
     // False when it is the end of the element itself, after which its values are known.
     bool endElement(Place place);

@@ -70,10 +70,10 @@ using Meaning = ShortList<Item, 6>;
 
 enum class Ranges : std::uint8_t { Kept, Ignored };
 
-// Whether the text is legal by the grammar, its ranges of numbers ignored on demand, and then what it means; white space
-// of XML around it does not count. Takes time linear in the text for grammars of one list, and bounded by its length
-// times the steps of the grammar, times the subsets of options in any order, for every grammar. A grammar without steps
-// allows nothing.
+// Whether the text is legal by the grammar, its ranges of numbers ignored on demand, and then what it means; white
+// space of XML around it does not count. Takes time linear in the text for grammars of one list, and bounded by its
+// length times the steps of the grammar, times the subsets of options in any order, for every grammar. A grammar
+// without steps allows nothing.
 bool readMeaning(Meaning& meaning, Grammar const& grammar, Dialect dialect, std::u16string_view text,
                  Ranges ranges = Ranges::Kept);
 

@@ -213,8 +213,8 @@ private:
         return part.data() ? static_cast<std::size_t>(part.data() - text.data()) : 0;
     }
 
-    // Tries the text with this in the place of the part: it is to be read as written, or to have no fault before a later
-    // part, of which advice is taken too, if there is any. False when another candidate may be better.
+    // Tries the text with this in the place of the part: it is to be read as written, or to have no fault before a
+    // later part, of which advice is taken too, if there is any. False when another candidate may be better.
     bool take(std::u16string_view candidate) {
         std::u16string whole = with(candidate);
         Judgement const next = judge(entry, whole, notation);

@@ -51,7 +51,8 @@ struct Judgement {
 enum class Notation : std::uint8_t { Attribute, Declaration };
 
 // White space of XML around the text is no fault where the value type refuses it and reads the rest.
-// Colours of which the value type warns go to Core::Log. Takes time linear in the text; allocates for lists, shorthands and faults only; throws nothing but bad_alloc.
+// Colours of which the value type warns go to Core::Log. Takes time linear in the text; allocates for lists, shorthands
+// and faults only; throws nothing but bad_alloc.
 [[nodiscard]] XMLATTR_API Judgement judge(CatalogueEntry const& entry, std::u16string_view text,
                                           Notation notation = Notation::Attribute);
 

@@ -105,8 +105,8 @@ template <class T> TypeReading readAs(Grammar const& grammar, Dialect dialect, s
     return result;
 }
 
-// A value in its plainest form: "+.5e1" as "5", "rgb(300,-1,0)" as "rgb(255,0,0)", "url( 'a' )" as "url(a)". Nothing for
-// others, and for a colour that is no whole number of its kind.
+// A value in its plainest form: "+.5e1" as "5", "rgb(300,-1,0)" as "rgb(255,0,0)", "url( 'a' )" as "url(a)". Nothing
+// for others, and for a colour that is no whole number of its kind.
 std::optional<std::u16string> inPlainForm(Item const& item) {
     switch (item.kind) {
     case ItemKind::Number:

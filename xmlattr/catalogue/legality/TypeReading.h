@@ -27,7 +27,8 @@ TypeReading readTyped(CatalogueEntry const& entry, Dialect dialect, std::u16stri
 // A text with the same meaning that the value type reads as it is written; nothing where none is known.
 std::optional<std::u16string> rewriteTyped(CatalogueEntry const& entry, Dialect dialect, std::u16string_view text);
 
-// What the type, which has no printer, holds after reading the text: "0.5", "12pt". Empty where there is nothing to tell.
+// What the type, which has no printer, holds after reading the text: "0.5", "12pt". Empty where there is nothing to
+// tell.
 std::u16string heldWithoutPrinter(AttributeType const& type, std::u16string_view text);
 
 // What the items of a list may be by its grammar, which has nothing but one kind of number or length, once or often.

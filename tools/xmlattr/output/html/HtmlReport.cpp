@@ -221,7 +221,7 @@ private:
             counted(counts.attributes, "attribute");
         if (counts.declarations > 0) text += " and " + counted(counts.declarations, "style declaration");
         text += ".</p>\n";
-        if (told + untold < counts.findings()) text += "<p>" + counted(told + untold, "finding") + " are shown.</p>\n";
+        if (told + untold < counts.findings()) text += "<p>Shown: " + counted(told + untold, "finding") + ".</p>\n";
         if (untold > 0)
             text += "<p>" + counted(untold, "finding") + " came after the first " + grouped(mostEntries) +
                     " different ones and are counted only.</p>\n";
