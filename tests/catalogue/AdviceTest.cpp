@@ -59,6 +59,10 @@ TEST(Advice, GuessesOnlyWhatIsLegalAndRead) {
     expectAdvice({
         {Fo, "block", "margin", u"10", Lenient, "1000%", "10pt"},
         {Svg, "rect", "opacity", u"50%", Lenient, "0.5", ""},
+        {Svg, "rect", "fill", u"URL(#MyGrad)", Refused, "", "url(#MyGrad)", true},
+        {Fo, "block", "color", u"RGB-ICC(1,2,3,#MyProfile,.5)", Refused, "", "rgb-icc(1,2,3,#MyProfile,.5)", true},
+        {Fo, "block", "color", u"rgb-icc(300,0,0,#CMYK,0,0,0,1)", Misread, "rgb-icc(44,0,0,#CMYK,0, 0, 0, 1)", ""},
+        {Fo, "external-graphic", "src", u"url()", Misread, "url()", ""},
         {Svg, "rect", "width", u"1 cm", Lenient, "1cm", "1cm", true},
         {Fo, "block", "font-size", u"10", Lenient, "1000%", "10pt"},
         {Fo, "block", "hyphenate", u"treu", Lenient, "", "true"},

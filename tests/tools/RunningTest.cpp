@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <chrono>
 #include <csignal>
 #include <cstdio>
@@ -80,13 +81,17 @@ TEST(Progress, TellsTheTimeLeft) {
 struct Interrupting : RunListener {
     void finding(std::size_t, Finding const&) override {}
     void ended(std::size_t file, FileEnd const& end) override {
-        if (file == 0) std::raise(SIGINT);
+        if (file == 0) {
+            isSecondOpen.wait(false);
+            std::raise(SIGINT);
+        }
         counts += end.counts;
     }
     std::uint64_t wanted() const override { return UINT64_MAX; }
     void passed(std::uint64_t) override {}
 
     Counts counts;
+    std::atomic<bool> isSecondOpen = false;
 };
 
 TEST(FileRun, EndsInTheMiddleOfAFileWhenItIsStopped) {
@@ -94,15 +99,17 @@ TEST(FileRun, EndsInTheMiddleOfAFileWhenItIsStopped) {
     std::string const endless = scratch + "/endless.svg";
     ASSERT_EQ(mkfifo(endless.c_str(), 0600), 0);
     auto const oldHandler = std::signal(SIGPIPE, SIG_IGN);
-    std::jthread author([&] {
-        std::FILE* const file = std::fopen(endless.c_str(), "w");
+    Interrupting listener;
+    std::thread author([&] {
+        std::FILE* const file = std::fopen(endless.c_str(), "w"); // returns when the other end is open
+        listener.isSecondOpen = true;
+        listener.isSecondOpen.notify_one();
         std::fputs("<svg xmlns='http://www.w3.org/2000/svg'>", file);
         while (std::fputs("<g/>", file) >= 0) {
         }
         std::fclose(file);
     });
     std::vector<FileJob> const jobs = {{sound, {}}, {endless, {}}, {sound, {}}, {sound, {}}};
-    Interrupting listener;
     {
         Stop const stop;
         EXPECT_EQ(runFiles(jobs, 2, listener), 1u);

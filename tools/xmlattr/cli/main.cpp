@@ -54,6 +54,11 @@ template <class Color> void addColor(CLI::App& app, Color& color) {
                          "Print in colour; auto does on a terminal, unless NO_COLOR is set (default: auto)");
 }
 
+// What a variable of a shell leaves when it is not set.
+std::string checkNotEmpty(std::string const& text) {
+    return text.empty() ? "the name is empty" : "";
+}
+
 std::string checkCount(std::string const& text) {
     bool const isCount = !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
     return isCount ? "" : inQuotes(printable(text)) + " is no whole number";
@@ -85,6 +90,7 @@ int run(int argc, char** argv) {
         ->add_option("FILE", checking.paths, "Documents, stylesheets, directories of both, or - for standard input")
         ->type_name("");
     checkCommand->add_option("--files-from", checking.filesFrom, "Check also what this file names, one path a line")
+        ->check(checkNotEmpty)
         ->type_name("FILE");
     checkCommand
         ->add_option("--stdin-name", checking.stdinName, "Call standard input so in findings (default: <stdin>)")
@@ -95,6 +101,7 @@ int run(int argc, char** argv) {
               "Print text, json (one object a line), sarif, annotations of github or a page of html (default: text)");
     checkCommand
         ->add_option("--output", checking.output, "Write the report to this file, which appears when it is whole")
+        ->check(checkNotEmpty)
         ->type_name("FILE");
     addColor(*checkCommand, checking.color);
     checkCommand->add_flag("-q,--quiet", checking.isQuiet, "Print no summary and no progress");
@@ -112,14 +119,17 @@ int run(int argc, char** argv) {
     checkCommand->add_flag("--group", checking.isGrouped,
                            "Print equal findings once, with their number, the most frequent first");
     checkCommand->add_option("--baseline", checking.baseline, "Leave out the findings that are recorded in this file")
+        ->check(checkNotEmpty)
         ->type_name("FILE");
     checkCommand
         ->add_option("--write-baseline", checking.newBaseline,
                      "Record the findings in this file; they are no faults then")
+        ->check(checkNotEmpty)
         ->type_name("FILE");
     checkCommand
         ->add_option("--config", checking.configuration,
                      "Take options from this file (default: the nearest xmlattr.toml of each document)")
+        ->check(checkNotEmpty)
         ->type_name("FILE");
     checkCommand
         ->add_option("-j,--jobs", checking.jobs, "Check so many files at a time (default: as many as there are cores)")
@@ -138,6 +148,7 @@ int run(int argc, char** argv) {
     fixCommand->add_flag("-n,--dry-run", fixing.isDryRun,
                          "Write nothing; show what would change as a diff for patch -p0");
     fixCommand->add_option("-o,--output", fixing.output, "Write all documents into this folder, and not in place")
+        ->check(checkNotEmpty)
         ->type_name("DIR");
     fixCommand->add_flag("--suggestions", fixing.takesSuggestions,
                          "Also write what is but likely to be meant: a unit, the nearest word");
@@ -145,8 +156,9 @@ int run(int argc, char** argv) {
     fixCommand->add_flag("-q,--quiet", fixing.isQuiet, "Print no summary");
     fixCommand->footer(
         "Values with one right answer are rewritten where they stand; the new text of standard input goes to standard\n"
-        "output; the exit code is 0 when check would report nothing any more, 1 when a finding is left, and 2 when a\n"
-        "file could not be read or written.");
+        "output; the exit code is 0 when check without a configuration would report nothing any more, 1 when a finding "
+        "is\n"
+        "left, and 2 when a file could not be read or written.");
 
     ShowOptions showing;
     CLI::App* const showCommand = app.add_subcommand("show", "Show what a value type makes of a text");

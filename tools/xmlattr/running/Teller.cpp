@@ -6,7 +6,8 @@ namespace Command {
 
 void Teller::finding(std::size_t file, Finding const& finding) {
     if (baselines.recorded) baselines.recorded->add(names[file], finding);
-    if (baselines.recorded || (baselines.known && baselines.known->take(names[file], finding))) {
+    bool const isKnown = baselines.known && baselines.known->take(names[file], finding);
+    if (baselines.recorded || isKnown) {
         ++known.of(kindOf(finding.fault).severity);
         return;
     }

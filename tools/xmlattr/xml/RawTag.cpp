@@ -171,8 +171,11 @@ Excerpt RawTag::excerptOfValue(std::size_t attribute) const {
 
 Excerpt RawTag::excerptInValue(std::size_t attribute, std::size_t offset, std::size_t length) {
     if (attribute >= attributes.size() || !seek(attribute, offset)) return {};
-    Cursor const begin = last.cursor;
-    return seek(attribute, offset + length) ? excerpt(begin, begin, last.cursor.index) : Excerpt();
+    auto const begin = last;
+    Cursor const* const end = seek(attribute, offset + length);
+    std::size_t const index = end ? end->index : 0;
+    last = begin; // what is asked for next stands after the beginning, and often before the end
+    return end ? excerpt(begin.cursor, begin.cursor, index) : Excerpt();
 }
 
 bool RawTag::refersOnlyTo(std::size_t attribute, std::set<std::string> const& entities) const {

@@ -103,10 +103,22 @@ std::u16string unquoted(std::u16string_view text) {
     return std::u16string(isQuoted ? text.substr(1, text.size() - 2) : text);
 }
 
-// What texts have in common that differ only in the case of their letters, in blanks around them or before a unit, and
+// The text with the letters in lower case that are not in parentheses, where names of others may stand.
+std::u16string withLowerNames(std::u16string_view text) {
+    std::u16string out;
+    int depth = 0;
+    for (char16_t const unit : text) {
+        if (unit == u')') --depth;
+        out += depth == 0 ? Core::toLower(unit) : unit;
+        if (unit == u'(') ++depth;
+    }
+    return out;
+}
+
+// What texts have in common that differ only in the case of their names, in blanks around them or before a unit, and
 // in the mark of the decimals. A comma before three digits may be one of thousands.
 std::u16string spelling(std::u16string_view text) {
-    std::u16string lower = toLower(trimXmlSpace(text));
+    std::u16string lower = withLowerNames(trimXmlSpace(text));
     if (lower.empty() || lower.find_first_of(u"0123456789") > lower.find_first_not_of(u"+-.,")) return lower;
     std::erase_if(lower, isXmlSpace);
     std::size_t const comma = lower.find(u',');
@@ -255,6 +267,7 @@ std::vector<std::u16string> variantsOf(std::u16string_view text) {
     text = trimXmlSpace(text);
     std::vector<std::u16string> variants{std::u16string(text)};
     addNumbers(variants, text);
+    variants.push_back(withLowerNames(text));
     variants.push_back(toLower(text));
     variants.push_back(unquoted(text));
     addColors(variants, text);

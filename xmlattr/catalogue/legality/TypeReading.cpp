@@ -105,6 +105,12 @@ template <class T> TypeReading readAs(Grammar const& grammar, Dialect dialect, s
     return result;
 }
 
+// Whether a colour has a profile or the name of an ink beside its components: "rgb-icc(...)", "red icc-color(...)".
+bool hasInk(std::u16string_view color) {
+    std::u16string_view const name = color.substr(0, color.find(u'('));
+    return name.find(u'-') != std::u16string_view::npos || color.find(u'(') != color.rfind(u'(');
+}
+
 // A value in its plainest form: "+.5e1" as "5", "rgb(300,-1,0)" as "rgb(255,0,0)", "url( 'a' )" as "url(a)". Nothing
 // for others, and for a colour that is no whole number of its kind.
 std::optional<std::u16string> inPlainForm(Item const& item) {
@@ -113,13 +119,15 @@ std::optional<std::u16string> inPlainForm(Item const& item) {
     case ItemKind::Length:
     case ItemKind::Percentage: return std::u16string(Core::Format::toShortest(item.number)).append(item.unit);
     case ItemKind::Color: {
-        if (item.number != 0) break;
+        if (item.number != 0 || hasInk(item.text)) break;
         auto const component = [&](int shift) { return static_cast<unsigned char>(item.rgb >> shift); };
         Core::String const plain =
             ColorParse::getColorAsString(new Drawing::RGBColor(component(16), component(8), component(0)));
         return std::u16string(std::u16string_view(plain));
     }
-    case ItemKind::Uri: return std::u16string(u"url(").append(item.text).append(u")");
+    case ItemKind::Uri:
+        if (item.text.empty() || item.text.starts_with(u"url(")) break; // nothing, which is taken for a name
+        return std::u16string(u"url(").append(item.text).append(u")");
     case ItemKind::Word:
     case ItemKind::Angle:
     case ItemKind::Time:
