@@ -82,6 +82,13 @@ Problem openBaselines(CheckOptions const& options, RunSettings const& run, Basel
     return known ? baselines.known.emplace(*known).read() : std::nullopt;
 }
 
+// Whether findings are left out, of which nobody knows then whether they still occur.
+bool isFiltered(std::span<FileJob const> jobs) {
+    return std::ranges::any_of(jobs, [](FileJob const& job) {
+        return std::ranges::any_of(job.settings, [](FileSettings const* each) { return !each->filter.isEmpty(); });
+    });
+}
+
 // Checks the files; gives the exit code, or nothing when the run was stopped.
 std::optional<int> carryOut(CheckOptions const& options, FileList const& list, FileSettings const& settings) {
     std::vector<std::string> names = list.files;
@@ -115,7 +122,7 @@ std::optional<int> carryOut(CheckOptions const& options, FileList const& list, F
         return std::nullopt;
     }
     report.complete();
-    if (baselines.known && !telling.isQuiet) printGone(*baselines.known);
+    if (baselines.known && !telling.isQuiet && !isFiltered(jobs)) printGone(*baselines.known);
     if (baselines.recorded) baselines.recorded->write();
     return list.problems.empty() ? code : 2;
 }
