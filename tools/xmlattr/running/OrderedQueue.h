@@ -11,8 +11,8 @@
 
 namespace Command {
 
-// The lane whose turn it is has the reader's ear: what is put there is taken soon. What the lanes after it hold is
-// bounded together, so that a thread which is far ahead waits. Lanes are numbered from 0 and each has one writer,
+// What is put into the lane whose turn it is is taken soon, but not one by one: to wake the reader costs more than
+// most items. What the lanes after it hold is bounded together, so that a thread which is far ahead waits. Lanes are numbered from 0 and each has one writer,
 // and each is started before the ones after it: the lane at turn never waits for one that waits for it.
 template <class Item> class OrderedQueue {
 public:
@@ -24,19 +24,20 @@ public:
         std::unique_lock lock(mutex);
         room.wait(lock, [&] { return isLifted || (number == turn ? lanes[number].size : ahead) < limit; });
         Lane& lane = lanes[number];
+        bool const isAwaited = !isWorthTaking(lane);
         lane.items.push_back(std::move(item));
         lane.size += size;
         lane.isEnded = isLast;
         if (number != turn)
             ahead += size;
-        else if (lane.items.size() == 1)
+        else if (isAwaited && isWorthTaking(lane))
             arrived.notify_one();
     }
 
-    // What the lane at turn holds; empty when nothing arrived for so long.
+    // What the lane at turn holds, as soon as it is much or all, and after so long whatever it is.
     std::vector<Item> take(std::chrono::milliseconds patience) {
         std::unique_lock lock(mutex);
-        if (!arrived.wait_for(lock, patience, [this] { return !lanes[turn].items.empty(); })) return {};
+        arrived.wait_for(lock, patience, [this] { return isWorthTaking(lanes[turn]); });
         Lane& lane = lanes[turn];
         std::vector<Item> items = std::exchange(lane.items, {});
         lane.size = 0;
@@ -64,6 +65,8 @@ private:
         std::size_t size = 0;
         bool isEnded = false;
     };
+
+    bool isWorthTaking(Lane const& lane) const { return lane.isEnded || lane.size > limit / 256; }
 
     std::mutex mutex;
     std::condition_variable arrived, room;
