@@ -33,6 +33,15 @@ protected:
     std::optional<SourceFailure> failed;
 };
 
+// Closes the file with its owner; standard input stays open.
+struct CloseFile {
+    void operator()(std::FILE* file) const {
+        if (file != stdin) std::fclose(file);
+    }
+};
+
+using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
+
 class FileSource final : public ByteSource {
 public:
     explicit FileSource(std::FILE* file) : file(file) {}

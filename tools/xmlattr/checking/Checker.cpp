@@ -273,9 +273,9 @@ void Checker::checkValue(Occurrence const& occurrence, Xml::CatalogueEntry const
     finding.expected = advice.expected;
     finding.replacement = toUtf8(advice.replacement);
     finding.isExact = advice.isExact;
-    finding.offset = advice.offset;
-    finding.length = advice.length;
-    finding.inserted = toUtf8(advice.inserted());
+    std::u16string_view const judged = utf16;
+    finding.offset = toUtf8(judged.substr(0, advice.offset)).size();
+    finding.length = toUtf8(judged.substr(advice.offset, advice.length)).size();
     finding.entry = &entry;
     find(occurrence, std::move(finding));
 }

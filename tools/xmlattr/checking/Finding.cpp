@@ -17,9 +17,11 @@ constexpr FaultKind kinds[] = {
      "The text is not legal on the attribute by its recommendation. No value type reads the attribute, so that it\n"
      "depends on the formatter what becomes of it.\n"},
     {Fault::Misread, "misread", Severity::Warning,
-     "The text is legal, but the value type holds something else than it means: \"M0 0a.5.5 0 0 1 1 1\", say, where\n"
-     "it takes \".5.5\" for one number. The message tells what is held, and a text with the same meaning that is\n"
-     "read as it is written.\n"},
+     "The text is legal, but the value type holds something else than it means, \"M0 0a.5.5 0 0 1 1 1\", say, where "
+     "it\n"
+     "takes \".5.5\" for one number; or it refuses the text and reads the same in another one. The message tells what "
+     "is\n"
+     "held, and a text with the same meaning that is read as it is written.\n"},
     {Fault::Lenient, "lenient", Severity::Warning,
      "The text is not legal on the attribute, but the value type takes it nevertheless: margin=\"10\" is 1000%, say.\n"
      "The message tells what is held; other formatters may refuse the text or read it otherwise.\n"},
@@ -40,14 +42,12 @@ constexpr FaultKind kinds[] = {
      "The attribute refers to an id of the same document that no element has, or to a result that no filter primitive\n"
      "before it in the same filter has.\n"},
     {Fault::PassedOver, "passed-over", Severity::Note,
-     "The text is legal, but no value type reads it: \"inherit\", an expression of XSL-FO, a word of an attribute "
-     "without\n"
-     "a value type. The formatter works it out by itself. Told with --show passed-over.\n"},
+     "The text is legal, but no value type reads it: \"inherit\", an expression of XSL-FO, a word of an attribute\n"
+     "without a value type. The formatter works it out by itself. Told with --show passed-over.\n"},
     {Fault::NotCovered, "not-covered", Severity::Note,
-     "Nothing judges the attribute: it belongs to another vocabulary, is a template of a stylesheet, too long, cut by "
-     "an\n"
-     "entity that is not read, or unknown to the catalogue. Told with --show not-covered; those that are unknown also\n"
-     "with --show unknown.\n"},
+     "Nothing judges the attribute: it belongs to another vocabulary, is a template of a stylesheet, too long, cut by\n"
+     "an entity that is not read, or unknown to the catalogue. Told with --show not-covered; those that are unknown\n"
+     "also with --show unknown.\n"},
 };
 
 // What a message shows of a long text: about the range that matters.
@@ -137,7 +137,7 @@ std::string Finding::message() const {
         line += ", but the formatter takes it";
     }
     if (!replacement.empty())
-        line += "; write " + inQuotes(around(replacement, offset, inserted.size()));
+        line += "; write " + inQuotes(around(replacement, offset, replacement.size() + length - text.size()));
     else if (needsExpected && !expected.empty())
         line += "; expected " + expected;
     return line;

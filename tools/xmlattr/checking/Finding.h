@@ -5,6 +5,7 @@
 #include "xmlattr/catalogue/legality/Judge.h"
 
 #include <cstdint>
+#include <map>
 #include <span>
 #include <string>
 #include <string_view>
@@ -43,6 +44,9 @@ struct FaultKind {
 std::span<FaultKind const> faultKinds();
 FaultKind const& kindOf(Fault fault);
 
+// How many findings there are of each kind.
+using FaultCounts = std::map<Fault, std::uint64_t>;
+
 struct Finding {
     Fault fault{};
     Place place;
@@ -60,9 +64,8 @@ struct Finding {
     std::string newer;       // the recommendation that has it
     std::string replacement; // the whole text to write instead; of a name the name
     bool isExact = false;    // whether that means the same; else it is what the author may have wanted
-    // The range of code units of the text that the replacement changes, and what it has there.
+    // The range of the text, in bytes, that the replacement changes, or that is wrong.
     std::size_t offset = 0, length = 0;
-    std::string inserted;
 
     // Of a value in a tag: the number of its attribute, and how many bytes of that precede the text.
     std::size_t number = 0, textOffset = 0;

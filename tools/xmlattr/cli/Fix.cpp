@@ -6,6 +6,7 @@
 #include "fixing/ReplacedFile.h"
 #include "fixing/UnifiedDiff.h"
 #include "output/Report.h"
+#include "text/Text.h"
 
 #include "xmlattr/core/Log.h"
 
@@ -28,14 +29,6 @@ namespace Command {
 namespace {
 
 namespace fs = std::filesystem;
-
-struct CloseFile {
-    void operator()(std::FILE* file) const {
-        if (file != stdin) std::fclose(file);
-    }
-};
-
-using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
 
 class PrintedDocument final : public RewrittenDocument {
 public:
@@ -136,7 +129,7 @@ public:
     bool hasLeft() const { return !left.empty(); }
 
     std::string summary() const {
-        std::string line = std::to_string(files) + (files == 1 ? " file" : " files");
+        std::string line = quantity(files, "file");
         if (failedFiles > 0) line += " (" + std::to_string(failedFiles) + " failed)";
         line += options.isDryRun ? ", to be rewritten " : ", rewritten ";
         line += std::to_string(rewrittenFiles) + "; values fixed " + byId(fixed) + ", findings left " + byId(left);

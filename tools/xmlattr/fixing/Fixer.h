@@ -8,15 +8,11 @@
 
 #include <cstdint>
 #include <functional>
-#include <map>
 #include <optional>
 #include <string_view>
 #include <vector>
 
 namespace Command {
-
-// Findings, by the kind of their fault.
-using FaultCounts = std::map<Fault, std::uint64_t>;
 
 struct FixCounts {
     FaultCounts fixed, left;

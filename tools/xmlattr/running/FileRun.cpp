@@ -31,14 +31,6 @@ std::string_view remedyFor(std::string_view failure) {
     return {};
 }
 
-struct CloseFile {
-    void operator()(std::FILE* file) const {
-        if (file != stdin) std::fclose(file);
-    }
-};
-
-using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
-
 // What the threads of a run share.
 struct Shared {
     std::atomic<std::size_t> next = 0; // file that nobody has begun
@@ -79,8 +71,8 @@ std::size_t sizeOf(Finding const& finding) {
     std::size_t size = sizeof(Told);
     for (std::string const* const text :
          {&finding.element, &finding.attribute, &finding.text, &finding.part, &finding.problem, &finding.held,
-          &finding.expected, &finding.newer, &finding.replacement, &finding.inserted, &finding.source.before,
-          &finding.source.part, &finding.source.after})
+          &finding.expected, &finding.newer, &finding.replacement, &finding.source.before, &finding.source.part,
+          &finding.source.after})
         size += text->capacity();
     return size;
 }

@@ -1,10 +1,10 @@
 #include "selecting/Baseline.h"
 
+#include "bytes/TextFile.h"
 #include "output/Json.h"
 #include "output/ReportFile.h"
 #include "text/Text.h"
 
-#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <system_error>
@@ -33,12 +33,8 @@ std::string recorded(std::string const& text) {
 Baseline::Baseline(std::string file) : file(std::move(file)) {}
 
 std::optional<std::string> Baseline::read() {
-    errno = 0;
-    std::ifstream opened(file, std::ios::binary);
-    std::error_code ignored;
-    bool const isFolder = fs::is_directory(file, ignored);
-    if (!opened || isFolder)
-        return file + ": the baseline cannot be read: " + std::generic_category().message(isFolder ? EISDIR : errno);
+    std::ifstream opened;
+    if (auto const problem = openText(file, opened)) return file + ": the baseline cannot be read: " + *problem;
     try {
         Json const content = Json::parse(opened);
         if (content.at("baseline") != version) return file + ": a baseline of another version; write it anew";

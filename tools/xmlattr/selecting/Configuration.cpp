@@ -1,10 +1,10 @@
 #include "selecting/Configuration.h"
 
+#include "bytes/TextFile.h"
 #include "selecting/Glob.h"
 #include "text/Text.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -160,13 +160,8 @@ private:
 };
 
 std::optional<std::string> Configuration::read(std::string const& file) {
-    errno = 0;
-    std::ifstream opened(file, std::ios::binary);
-    std::error_code ignored;
-    bool const isFolder = std::filesystem::is_directory(file, ignored);
-    if (!opened || isFolder)
-        return file +
-               ": the configuration cannot be read: " + std::generic_category().message(isFolder ? EISDIR : errno);
+    std::ifstream opened;
+    if (auto const problem = openText(file, opened)) return file + ": the configuration cannot be read: " + *problem;
     folder = absolute(file).parent_path().string();
     Reader reader(*this, file);
     toml::parse_result const result = toml::parse(opened);

@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <array>
 #include <map>
-#include <numeric>
 #include <unordered_map>
 #include <vector>
 
@@ -177,7 +176,7 @@ private:
 
     // Null for one that is counted only.
     Entry* entryFor(Finding const& finding, std::uint64_t count) {
-        countByFault[static_cast<std::size_t>(finding.fault)] += count;
+        countByFault[finding.fault] += count;
         std::string const key = keyOf(finding);
         auto found = entryOf.find(key);
         if (found == entryOf.end()) {
@@ -256,14 +255,13 @@ private:
     }
 
     std::string kindTable() const {
-        std::uint64_t const all = std::accumulate(countByFault.begin(), countByFault.end(), std::uint64_t{0});
+        std::uint64_t all = 0;
+        for (auto const& [fault, count] : countByFault) all += count;
         std::string text = tableHead("Findings", "Id", "Findings");
-        for (FaultKind const& kind : faultKinds()) {
-            std::uint64_t const count = countByFault[static_cast<std::size_t>(kind.fault)];
-            if (count == 0) continue;
-            std::string link("<a href='#");
-            link.append(kind.id).append("'>").append(kind.id).append("</a>");
-            text += tableRow(link, count, bar(shareOf(count, all), severityOf(kind.fault)));
+        for (auto const& [fault, count] : countByFault) {
+            std::string const id(kindOf(fault).id);
+            text +=
+                tableRow("<a href='#" + id + "'>" + id + "</a>", count, bar(shareOf(count, all), severityOf(fault)));
         }
         return text + "</tbody></table>\n";
     }
@@ -298,12 +296,15 @@ private:
         out.write("<section id='kinds'>\n<h2>By kind</h2>\n");
         if (entries.empty()) out.write("<p>Nothing was found.</p>\n");
         for (FaultKind const& kind : faultKinds()) {
-            std::uint64_t const count = countByFault[static_cast<std::size_t>(kind.fault)];
-            if (count == 0) continue;
+            auto const found = countByFault.find(kind.fault);
+            if (found == countByFault.end()) continue;
             std::string_view const severity = severityOf(kind.fault);
             std::string text("<details class='group' id='");
             text.append(kind.id).append("' open><summary><h3>").append(kind.id).append("</h3><span class='");
-            text.append(severity).append("'>").append(counted(count, severity)).append("</span></summary>\n<p>");
+            text.append(severity)
+                .append("'>")
+                .append(counted(found->second, severity))
+                .append("</span></summary>\n<p>");
             out.write(text.append(withCode(escaped(kind.explanation))).append("</p>\n"));
             for (std::size_t i = 0; i < entries.size(); ++i)
                 if (entries[i].fault == kind.fault) writeEntry(i);
@@ -367,7 +368,7 @@ private:
     std::unordered_map<std::string, std::size_t> entryOf;
     std::vector<File> files; // with findings
     std::string failures;    // rows of their table
-    std::vector<std::uint64_t> countByFault = std::vector<std::uint64_t>(faultKinds().size());
+    FaultCounts countByFault;
     std::uint64_t told = 0, untold = 0; // the latter came after the last entry that was kept
     bool isGrouped = false;
     std::size_t links = 0;
