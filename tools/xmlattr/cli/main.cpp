@@ -59,6 +59,10 @@ std::string checkNotEmpty(std::string const& text) {
     return text.empty() ? "the name is empty" : "";
 }
 
+template <class Name> void addFile(CLI::App& app, std::string const& option, Name& file, std::string const& help) {
+    app.add_option(option, file, help)->check(checkNotEmpty)->type_name("FILE");
+}
+
 std::string checkCount(std::string const& text) {
     bool const isCount = !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
     return isCount ? "" : inQuotes(printable(text)) + " is no whole number";
@@ -73,6 +77,120 @@ CLI::Option* addNames(CLI::App& app, std::string const& option, std::vector<std:
     return app.add_option_function<std::string>(option, add, help)->trigger_on_parse()->take_last()->type_name("WHAT");
 }
 
+CLI::App* addCheck(CLI::App& app, CheckOptions& options, std::string& explained) {
+    CLI::App* const command = app.add_subcommand("check", "Report each attribute that is not read as it is written");
+    command->add_option("FILE", options.paths, "Documents, stylesheets, directories of both, or - for standard input")
+        ->type_name("");
+    addFile(*command, "--files-from", options.filesFrom, "Check also what this file names, one path a line");
+    command->add_option("--stdin-name", options.stdinName, "Call standard input so in findings (default: <stdin>)")
+        ->type_name("NAME");
+    Choices<ReportFormat const*> formats;
+    for (ReportFormat const& format : reportFormats()) formats.emplace_back(format.word, &format);
+    addChoice(*command, "--format", options.format, formats,
+              "Print text, json (one object a line), sarif, annotations of github or a page of html (default: text)");
+    addFile(*command, "--output", options.output, "Write the report to this file, which appears when it is whole");
+    addColor(*command, options.color);
+    command->add_flag("-q,--quiet", options.isQuiet, "Print no summary and no progress");
+    command->add_flag("--strict", options.isStrict,
+                      "Report attributes on elements that do not have them too, and fail for warnings too");
+    command->add_option("--max-findings", options.maxFindings, "Print no more findings than this (default: all)")
+        ->check(checkCount)
+        ->type_name("N");
+    addNames(*command, "--ignore", options.ignored, "Leave out findings with this id, attribute:NAME or element:NAME");
+    addNames(*command, "--only", options.only, "Report only findings with this id, attribute:NAME or element:NAME");
+    addNames(*command, "--show", options.shown, "Report also what is only counted")
+        ->type_name("passed-over|not-covered|unknown");
+    command->add_flag("--group", options.isGrouped,
+                      "Print equal findings once, with their number, the most frequent first");
+    addFile(*command, "--baseline", options.baseline, "Leave out the findings that are recorded in this file");
+    addFile(*command, "--write-baseline", options.newBaseline,
+            "Record the findings in this file; they are no faults then");
+    addFile(*command, "--config", options.configuration,
+            "Take options from this file (default: the nearest xmlattr.toml of each document)");
+    command
+        ->add_option("-j,--jobs", options.jobs, "Check so many files at a time (default: as many as there are cores)")
+        ->check(checkCount)
+        ->type_name("N");
+    addExplain(*command, explained);
+    command->footer("The exit code is 0 without an error, 1 with one, and 2 when a file could not be read.");
+    return command;
+}
+
+CLI::App* addFix(CLI::App& app, FixOptions& options) {
+    CLI::App* const command =
+        app.add_subcommand("fix", "Rewrite documents so that their values are read as they are meant");
+    command
+        ->add_option("FILE", options.paths,
+                     "Documents; directories, for their documents and stylesheets; - for standard input")
+        ->type_name("");
+    command->add_flag("-n,--dry-run", options.isDryRun,
+                      "Write nothing; show what would change as a diff for patch -p0");
+    command->add_option("-o,--output", options.output, "Write all documents into this folder, and not in place")
+        ->check(checkNotEmpty)
+        ->type_name("DIR");
+    command->add_flag("--suggestions", options.takesSuggestions,
+                      "Also write what is but likely to be meant: a unit, the nearest word");
+    addColor(*command, options.color);
+    command->add_flag("-q,--quiet", options.isQuiet, "Print no summary");
+    command->footer(
+        "Values with one right answer are rewritten where they stand; the new text of standard input goes to standard\n"
+        "output; the exit code is 0 when check without a configuration would report nothing any more, 1 when a "
+        "finding\n"
+        "is left, and 2 when a file could not be read or written.");
+    return command;
+}
+
+CLI::App* addShow(CLI::App& app, ShowOptions& options) {
+    CLI::App* const command = app.add_subcommand("show", "Show what a value type makes of a text");
+    command->add_option("TYPE", options.type, "A value type, as the command types lists them")
+        ->required()
+        ->type_name("");
+    command->add_option("TEXT", options.text, "The text, after -- where it begins like an option")->type_name("");
+    command->allow_extras(); // a text may begin like an option: -.5pt
+    command->add_option("--equal", options.other, "Compare the value with this text too")->type_name("TEXT");
+    addFormat(*command, options.format);
+    addColor(*command, options.color);
+    command->footer("The exit code is 0 when the type accepts the text, and 1 when it refuses it.");
+    return command;
+}
+
+CLI::App* addTypes(CLI::App& app, TypesOptions& options) {
+    CLI::App* const command = app.add_subcommand("types", "List the value types with their syntax");
+    command->add_option("NAME", options.name, "A part of the names; without it, all are listed")->type_name("");
+    addFormat(*command, options.format);
+    command->footer("A line has the name of the type, and what it reads.");
+    return command;
+}
+
+CLI::App* addProperties(CLI::App& app, PropertiesOptions& options) {
+    CLI::App* const command =
+        app.add_subcommand("properties", "List the attributes with their value types and grammars");
+    command->add_option("NAME", options.name, "A part of the names; without it, all are listed")->type_name("");
+    addChoice<Xml::Vocabulary>(*command, "--vocabulary", options.vocabulary,
+                               {{"fo", Xml::Vocabulary::Fo}, {"svg", Xml::Vocabulary::Svg}},
+                               "List only attributes of XSL-FO or only those of SVG");
+    command->add_option("--type", options.type, "List only attributes of this value type")->type_name("TYPE");
+    addFormat(*command, options.format);
+    command->footer("A line has the vocabulary, the element or *, the attribute, its value type or what it is instead, "
+                    "whether it is\n"
+                    "inherited, the constant with its default, and the grammar that the recommendation has for it.");
+    return command;
+}
+
+// For the build, so it is not shown.
+CLI::App* addInterface(CLI::App& app, InterfaceForm& form) {
+    CLI::App* const command = app.add_subcommand("interface", "Print completions or the manual's list");
+    command->group("");
+    addChoice<InterfaceForm>(*command, "FORM", form,
+                             {{"bash", InterfaceForm::Bash},
+                              {"zsh", InterfaceForm::Zsh},
+                              {"fish", InterfaceForm::Fish},
+                              {"manual", InterfaceForm::Manual}},
+                             "Print completions for this shell, or the options as mdoc")
+        ->required();
+    return command;
+}
+
 int run(int argc, char** argv) {
     CLI::App app("Check the attributes of XSL-FO and SVG documents", "xmlattr");
     app.set_help_flag("-h,--help", "Print this help and exit");
@@ -84,128 +202,17 @@ int run(int argc, char** argv) {
     addExplain(app, explained);
 
     CheckOptions checking;
-    CLI::App* const checkCommand =
-        app.add_subcommand("check", "Report each attribute that is not read as it is written");
-    checkCommand
-        ->add_option("FILE", checking.paths, "Documents, stylesheets, directories of both, or - for standard input")
-        ->type_name("");
-    checkCommand->add_option("--files-from", checking.filesFrom, "Check also what this file names, one path a line")
-        ->check(checkNotEmpty)
-        ->type_name("FILE");
-    checkCommand
-        ->add_option("--stdin-name", checking.stdinName, "Call standard input so in findings (default: <stdin>)")
-        ->type_name("NAME");
-    Choices<ReportFormat const*> formats;
-    for (ReportFormat const& format : reportFormats()) formats.emplace_back(format.word, &format);
-    addChoice(*checkCommand, "--format", checking.format, formats,
-              "Print text, json (one object a line), sarif, annotations of github or a page of html (default: text)");
-    checkCommand
-        ->add_option("--output", checking.output, "Write the report to this file, which appears when it is whole")
-        ->check(checkNotEmpty)
-        ->type_name("FILE");
-    addColor(*checkCommand, checking.color);
-    checkCommand->add_flag("-q,--quiet", checking.isQuiet, "Print no summary and no progress");
-    checkCommand->add_flag("--strict", checking.isStrict,
-                           "Report attributes on elements that do not have them too, and fail for warnings too");
-    checkCommand->add_option("--max-findings", checking.maxFindings, "Print no more findings than this (default: all)")
-        ->check(checkCount)
-        ->type_name("N");
-    addNames(*checkCommand, "--ignore", checking.ignored,
-             "Leave out findings with this id, attribute:NAME or element:NAME");
-    addNames(*checkCommand, "--only", checking.only,
-             "Report only findings with this id, attribute:NAME or element:NAME");
-    addNames(*checkCommand, "--show", checking.shown, "Report also what is only counted")
-        ->type_name("passed-over|not-covered|unknown");
-    checkCommand->add_flag("--group", checking.isGrouped,
-                           "Print equal findings once, with their number, the most frequent first");
-    checkCommand->add_option("--baseline", checking.baseline, "Leave out the findings that are recorded in this file")
-        ->check(checkNotEmpty)
-        ->type_name("FILE");
-    checkCommand
-        ->add_option("--write-baseline", checking.newBaseline,
-                     "Record the findings in this file; they are no faults then")
-        ->check(checkNotEmpty)
-        ->type_name("FILE");
-    checkCommand
-        ->add_option("--config", checking.configuration,
-                     "Take options from this file (default: the nearest xmlattr.toml of each document)")
-        ->check(checkNotEmpty)
-        ->type_name("FILE");
-    checkCommand
-        ->add_option("-j,--jobs", checking.jobs, "Check so many files at a time (default: as many as there are cores)")
-        ->check(checkCount)
-        ->type_name("N");
-    addExplain(*checkCommand, explained);
-    checkCommand->footer("The exit code is 0 without an error, 1 with one, and 2 when a file could not be read.");
-
     FixOptions fixing;
-    CLI::App* const fixCommand =
-        app.add_subcommand("fix", "Rewrite documents so that their values are read as they are meant");
-    fixCommand
-        ->add_option("FILE", fixing.paths,
-                     "Documents; directories, for their documents and stylesheets; - for standard input")
-        ->type_name("");
-    fixCommand->add_flag("-n,--dry-run", fixing.isDryRun,
-                         "Write nothing; show what would change as a diff for patch -p0");
-    fixCommand->add_option("-o,--output", fixing.output, "Write all documents into this folder, and not in place")
-        ->check(checkNotEmpty)
-        ->type_name("DIR");
-    fixCommand->add_flag("--suggestions", fixing.takesSuggestions,
-                         "Also write what is but likely to be meant: a unit, the nearest word");
-    addColor(*fixCommand, fixing.color);
-    fixCommand->add_flag("-q,--quiet", fixing.isQuiet, "Print no summary");
-    fixCommand->footer(
-        "Values with one right answer are rewritten where they stand; the new text of standard input goes to standard\n"
-        "output; the exit code is 0 when check without a configuration would report nothing any more, 1 when a finding "
-        "is\n"
-        "left, and 2 when a file could not be read or written.");
-
     ShowOptions showing;
-    CLI::App* const showCommand = app.add_subcommand("show", "Show what a value type makes of a text");
-    showCommand->add_option("TYPE", showing.type, "A value type, as the command types lists them")
-        ->required()
-        ->type_name("");
-    CLI::Option const* const textOption =
-        showCommand->add_option("TEXT", showing.text, "The text, after -- where it begins like an option")
-            ->type_name("");
-    showCommand->allow_extras(); // a text may begin like an option: -.5pt
-    showCommand->add_option("--equal", showing.other, "Compare the value with this text too")->type_name("TEXT");
-    addFormat(*showCommand, showing.format);
-    addColor(*showCommand, showing.color);
-    showCommand->footer("The exit code is 0 when the type accepts the text, and 1 when it refuses it.");
-
     TypesOptions typing;
-    CLI::App* const typesCommand = app.add_subcommand("types", "List the value types with their syntax");
-    typesCommand->add_option("NAME", typing.name, "A part of the names; without it, all are listed")->type_name("");
-    addFormat(*typesCommand, typing.format);
-    typesCommand->footer("A line has the name of the type, and what it reads.");
-
     PropertiesOptions listing;
-    CLI::App* const propertiesCommand =
-        app.add_subcommand("properties", "List the attributes with their value types and grammars");
-    propertiesCommand->add_option("NAME", listing.name, "A part of the names; without it, all are listed")
-        ->type_name("");
-    addChoice<Xml::Vocabulary>(*propertiesCommand, "--vocabulary", listing.vocabulary,
-                               {{"fo", Xml::Vocabulary::Fo}, {"svg", Xml::Vocabulary::Svg}},
-                               "List only attributes of XSL-FO or only those of SVG");
-    propertiesCommand->add_option("--type", listing.type, "List only attributes of this value type")->type_name("TYPE");
-    addFormat(*propertiesCommand, listing.format);
-    propertiesCommand->footer(
-        "A line has the vocabulary, the element or *, the attribute, its value type or what it is "
-        "instead, whether it is\ninherited, the constant with its default, and the grammar that "
-        "the recommendation has for it.");
-
-    // For the build, so it is not shown.
     InterfaceForm form{};
-    CLI::App* const interfaceCommand = app.add_subcommand("interface", "Print completions or the manual's list");
-    interfaceCommand->group("");
-    addChoice<InterfaceForm>(*interfaceCommand, "FORM", form,
-                             {{"bash", InterfaceForm::Bash},
-                              {"zsh", InterfaceForm::Zsh},
-                              {"fish", InterfaceForm::Fish},
-                              {"manual", InterfaceForm::Manual}},
-                             "Print completions for this shell, or the options as mdoc")
-        ->required();
+    CLI::App const* const checkCommand = addCheck(app, checking, explained);
+    CLI::App const* const fixCommand = addFix(app, fixing);
+    CLI::App const* const showCommand = addShow(app, showing);
+    CLI::App const* const typesCommand = addTypes(app, typing);
+    CLI::App const* const propertiesCommand = addProperties(app, listing);
+    CLI::App const* const interfaceCommand = addInterface(app, form);
 
     try {
         app.parse(argc, argv);
@@ -233,7 +240,7 @@ int run(int argc, char** argv) {
     if (*showCommand) {
         std::vector<std::string> extras = showCommand->remaining();
         if (!extras.empty() && extras.front() == "--") extras.erase(extras.begin());
-        if (textOption->count() + extras.size() != 1) return usage("show takes a value type and a text");
+        if (showCommand->count("TEXT") + extras.size() != 1) return usage("show takes a value type and a text");
         if (!extras.empty()) showing.text = extras[0];
         return show(showing);
     }
