@@ -24,7 +24,7 @@ public:
     // Every type, in the order of ValueTypes.inc.
     static std::span<AttributeType const> all() noexcept;
     // The type that ValueTypes.inc lists under this name, which is also what the rows of the catalogue
-    // say; or null. Takes logarithmic time.
+    // say; or null. Takes constant time.
     static AttributeType const* find(std::string_view name) noexcept;
 
     // As ValueTypes.inc writes it: "Length", "Core::Vector<Point>".

@@ -15,7 +15,7 @@ public:
     // Every constant, in the order of DefaultAttributes.inc.
     static std::span<DefaultConstant const> all() noexcept;
     // The constant with this name, "DefaultFontSize" for instance, which is also what the rows of the
-    // catalogue say; or null. Takes logarithmic time.
+    // catalogue say; or null. Takes constant time.
     static DefaultConstant const* find(std::string_view name) noexcept;
 
     // As programs name it: "DefaultFontSize".

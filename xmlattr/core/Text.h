@@ -27,6 +27,11 @@ constexpr bool isDigit(char16_t unit) noexcept {
     return unit >= u'0' && unit <= u'9';
 }
 
+// The ASCII letters, of either case.
+constexpr bool isLetter(char16_t unit) noexcept {
+    return (unit | 0x20u) - u'a' < 26u;
+}
+
 // Branches between digits and letters cannot be predicted; a table needs none.
 inline constexpr auto hexDigits = [] {
     std::array<signed char, 128> values{};

@@ -86,8 +86,7 @@ bool read(Transform& transform, char16_t const*& at, char16_t const* end, bool i
     auto const atEnd = [&] { return at == end || (inList && *at == u')'); };
 
     skipSpace();
-    auto const isLetter = [](char16_t unit) { return (unit | 0x20u) - u'a' < 26; }; // of ASCII
-    char16_t const* const wordEnd = std::find_if_not(at, end, isLetter);
+    char16_t const* const wordEnd = std::find_if_not(at, end, Core::isLetter);
     using Words = Core::WordTable<transformWords>;
     std::size_t const row = Words::indexOf({at, static_cast<std::size_t>(wordEnd - at)});
     if (row == Core::noWord) return false;

@@ -2,6 +2,7 @@
 
 #include "tools/reference/text/Page.h"
 
+#include "xmlattr/catalogue/text/Words.h"
 #include "xmlattr/core/Exceptions.h"
 #include "xmlattr/core/Text.h"
 
@@ -173,12 +174,6 @@ std::u16string inUpperCase(std::u16string_view text) {
     return upper;
 }
 
-std::u16string inLowerCase(std::u16string_view text) {
-    std::u16string lower(text);
-    for (char16_t& unit : lower) unit = Core::toLower(unit);
-    return lower;
-}
-
 Trial tryText(Xml::AttributeType const& type, std::u16string_view text) {
     Xml::AnyAttribute attribute(type);
     bool const accepted = attribute.parseValue(text);
@@ -249,7 +244,7 @@ CaseRule caseRuleOf(Xml::AttributeType const& type) {
     for (std::u16string_view const word : type.words()) {
         Trial const own = tryText(type, word);
         if (unknown.accepted && own.state == unknown.state) continue;
-        for (std::u16string const& variant : {inUpperCase(word), inLowerCase(word)}) {
+        for (std::u16string const& variant : {inUpperCase(word), Xml::toLower(word)}) {
             if (variant == word || !own.accepted) continue;
             Trial const other = tryText(type, variant);
             (other.accepted && other.state == own.state ? isAnyFree : isAnyExact) = true;

@@ -85,8 +85,7 @@ bool readColor(Item& item, ValueCursor& cursor) {
     };
     item.kind = ItemKind::Color;
     if (cursor.take(u'#')) return withText(readHexColor(item, cursor.takeRun()));
-    while (cursor.peek() == u'-' || (Core::toLower(cursor.peek()) >= u'a' && Core::toLower(cursor.peek()) <= u'z'))
-        ++cursor.index;
+    while (cursor.peek() == u'-' || Core::isLetter(cursor.peek())) ++cursor.index;
     std::u16string_view const name = cursor.text.substr(first, cursor.index - first);
     if (!cursor.take(u'(')) return withText(readNamedColor(item, name));
     bool const isFo = cursor.dialect == Dialect::Fo;

@@ -7,15 +7,18 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
+#include <optional>
 
 namespace Xml {
 
 namespace {
 
 // What attributes of SVG 1.1 may be by a newer recommendation, where words of the lists below cannot tell: "auto" is
-// new for some and an old word of others. The names are separated by blanks. What is legal in SVG 1.1 may be left out.
+// new for some and an old word of others. The names are separated by blanks, and each stands in one row. What is legal in
+// SVG 1.1 may be left out.
 struct NewValues {
-    std::string_view attributes;
+    std::string_view words; // the attributes
     Grammar grammar;
     std::string_view recommendation;
 };
@@ -27,8 +30,9 @@ constexpr NewValues newValues[] = {
     {"pointer-events", "auto | bounding-box"_grammar, "SVG 2"},
     {"refX", "left | center | right"_grammar, "SVG 2"},
     {"refY", "top | center | bottom"_grammar, "SVG 2"},
-    {"alignment-baseline dominant-baseline", "text-top | text-bottom"_grammar, "CSS 3"},
-    {"alignment-baseline baseline-shift", "top | center | bottom"_grammar, "CSS 3"},
+    {"alignment-baseline", "text-top | text-bottom | top | center | bottom"_grammar, "CSS 3"},
+    {"baseline-shift", "top | center | bottom"_grammar, "CSS 3"},
+    {"dominant-baseline", "text-top | text-bottom"_grammar, "CSS 3"},
     {"color fill flood-color lighting-color stop-color stroke", "currentColor | transparent"_grammar, "CSS 3"},
     {"cursor",
      "[ <uri> [ <number>{2} ]? , ]* [ auto | default | none | context-menu | help | pointer | progress | wait | cell | "
@@ -48,9 +52,9 @@ constexpr NewValues newValues[] = {
     {"operator", "lighter"_grammar, "CSS 3"},
     {"overflow", "[ visible | hidden | clip | scroll | auto ]{1,2}"_grammar, "CSS 3"},
     {"text-decoration",
-     "[ none | [ underline || overline || line-through || blink ] ] || [ solid | double | dotted | dashed | wavy ] || "
-     "[ "
-     "<color> | currentColor | transparent ] || [ auto | from-font | <length> | <percentage> ]"_grammar,
+     "[ none | [ underline || overline || line-through || blink ] ] || "
+     "[ solid | double | dotted | dashed | wavy ] || [ <color> | currentColor | transparent ] || "
+     "[ auto | from-font | <length> | <percentage> ]"_grammar,
      "CSS 3"},
     {"fill-opacity flood-opacity opacity stop-opacity stroke-opacity", "<percentage>"_grammar, "CSS 4"},
     {"font-stretch", "<percentage [0,]>"_grammar, "CSS 4"},
@@ -103,35 +107,31 @@ template <class Unit> constexpr std::basic_string_view<Unit> takeFirst(std::basi
     return word;
 }
 
-bool isAmong(std::string_view words, std::string_view word) {
-    while (!words.empty())
-        if (takeFirst(words) == word) return true;
-    return false;
-}
-
+// The words of all lists, each with the number of its list.
 template <auto const& lists>
 constexpr auto rowsOf = [] {
     constexpr std::size_t count = [] {
         std::size_t words = 0;
-        for (Words list : lists)
-            for (; !list.words.empty(); ++words) takeFirst(list.words);
+        for (auto const& list : lists)
+            for (auto rest = list.words; !rest.empty(); ++words) takeFirst(rest);
         return words;
     }();
-    std::array<Core::WordRow<std::string_view>, count> rows{};
+    using Unit = typename decltype(lists[0].words)::value_type;
+    std::array<Core::WordRow<std::size_t, Unit>, count> rows{};
     std::size_t next = 0;
-    for (Words list : lists)
-        while (!list.words.empty()) rows[next++] = {takeFirst(list.words), list.recommendation};
+    for (std::size_t i = 0; i < std::size(lists); ++i)
+        for (auto rest = lists[i].words; !rest.empty();) rows[next++] = {takeFirst(rest), i};
     return rows;
 }();
 
 // The recommendation that has the word; empty when none has.
 template <auto const& lists> std::string_view find(std::u16string_view word) {
-    return Core::WordTable<rowsOf<lists>, Core::Case::Any>::find(word).value_or(std::string_view());
+    auto const list = Core::WordTable<rowsOf<lists>, Core::Case::Any>::find(word);
+    return list ? lists[*list].recommendation : std::string_view();
 }
 
 bool belongsToWord(char16_t unit) {
-    char16_t const lower = Core::toLower(unit);
-    return (lower >= u'a' && lower <= u'z') || Core::isDigit(unit) || unit == u'-' || unit == u'_' || unit >= 0x80;
+    return Core::isLetter(unit) || Core::isDigit(unit) || unit == u'-' || unit == u'_' || unit >= 0x80;
 }
 
 class Scanner {
@@ -177,12 +177,10 @@ private:
         while (index < text.size() && (Core::isDigit(text[index]) || text[index] == u'.')) ++index;
         bool const isPercentage = index < text.size() && text[index] == u'%';
         std::u16string_view const unit = takeWord();
-        bool const isExponent = unit.size() > 1 && Core::toLower(unit[0]) == u'e' && !belongsToUnit(unit[1]);
-        if (isTransform && (isPercentage || (!unit.empty() && belongsToUnit(unit[0]) && !isExponent))) return "CSS 3";
+        bool const isExponent = unit.size() > 1 && Core::toLower(unit[0]) == u'e' && !Core::isLetter(unit[1]);
+        if (isTransform && (isPercentage || (!unit.empty() && Core::isLetter(unit[0]) && !isExponent))) return "CSS 3";
         return Xml::find<newUnits>(unit);
     }
-
-    static bool belongsToUnit(char16_t unit) { return Core::toLower(unit) >= u'a' && Core::toLower(unit) <= u'z'; }
 
     std::string_view word(std::u16string_view word) {
         if (index == text.size() || text[index] != u'(')
@@ -216,10 +214,8 @@ private:
 
 std::string_view newerRecommendation(Dialect dialect, std::string_view attribute, std::u16string_view text) {
     Meaning meaning;
-    if (dialect != Dialect::Fo)
-        for (NewValues const& row : newValues)
-            if (isAmong(row.attributes, attribute) && readMeaning(meaning, row.grammar, dialect, text))
-                return row.recommendation;
+    auto const row = dialect == Dialect::Fo ? std::nullopt : Core::WordTable<rowsOf<newValues>>::find(attribute);
+    if (row && readMeaning(meaning, newValues[*row].grammar, dialect, text)) return newValues[*row].recommendation;
     return Scanner(dialect, text).find();
 }
 

@@ -59,14 +59,13 @@ public:
 
     // Says what is wrong with what stands at the position: a word, a comma, or a number and whatever else follows it.
     bool fail(std::string_view what) {
-        auto const isLetter = [](char16_t unit) { return Core::toLower(unit) >= u'a' && Core::toLower(unit) <= u'z'; };
         auto const isMark = [](char16_t unit) {
             return Core::isXmlSpace(unit) || unit == u',' || unit == u'(' || unit == u')';
         };
         if (at == last) return fail(what, at);
         char16_t const* after = at + 1;
         if (!isMark(*at))
-            while (after != last && !isMark(*after) && isLetter(*after) == isLetter(*at)) ++after;
+            while (after != last && !isMark(*after) && Core::isLetter(*after) == Core::isLetter(*at)) ++after;
         return fail(what, after);
     }
 

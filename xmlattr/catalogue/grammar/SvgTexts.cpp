@@ -7,9 +7,7 @@ namespace Xml {
 
 namespace {
 
-bool isLetter(char16_t unit) {
-    return Core::toLower(unit) >= u'a' && Core::toLower(unit) <= u'z';
-}
+using Core::isLetter;
 
 void skipXmlSpace(TextCursor& cursor) {
     cursor.takeWhile(Core::isXmlSpace);

@@ -33,11 +33,10 @@ private:
     static constexpr std::string_view expectedTransform = "expected matrix, translate, scale, rotate, skewX or skewY";
 
     template <class TransformVisitor> static bool readTransform(SvgScanner& scanner, TransformVisitor& visitor) {
-        auto const isLetter = [](char16_t unit) { return (unit | 0x20u) - u'a' < 26; };
-        auto const belongs = [&](char16_t unit) { return isLetter(unit) || Core::isDigit(unit); };
+        auto const belongs = [](char16_t unit) { return Core::isLetter(unit) || Core::isDigit(unit); };
         std::u16string_view const word(scanner.at, std::find_if_not(scanner.at, scanner.end(), belongs));
         auto const form = Core::WordTable<transformWords>::find(word);
-        if (!form && !word.empty() && isLetter(word[0]))
+        if (!form && !word.empty() && Core::isLetter(word[0]))
             return scanner.fail(expectedTransform, word.data() + word.size());
         if (!form) return scanner.fail(expectedTransform);
         scanner.at += word.size();

@@ -12,10 +12,7 @@ namespace Xml {
 
 namespace {
 
-constexpr bool isLetter(char16_t unit) {
-    char16_t const lower = Core::toLower(unit);
-    return lower >= u'a' && lower <= u'z';
-}
+using Core::isLetter;
 
 bool isLetters(std::u16string_view text, std::size_t least, std::size_t most) {
     return text.size() >= least && text.size() <= most && std::ranges::all_of(text, isLetter);

@@ -22,10 +22,6 @@ namespace {
 
 constexpr std::size_t longestGuess = 64; // a longer text is no mistyped word
 
-bool isLetter(char16_t unit) {
-    return Core::toLower(unit) >= u'a' && Core::toLower(unit) <= u'z';
-}
-
 bool isAlike(char16_t a, char16_t b) {
     return Core::toLower(a) == Core::toLower(b);
 }
@@ -62,7 +58,8 @@ constexpr Core::WordRow<std::u16string_view> unitNames[] = {
     {u"degree", u"deg"}, {u"degrees", u"deg"}, {u"°", u"deg"},     {u"percent", u"%"}, {u"pct", u"%"},
 };
 
-// Texts for which authors write such a one: a number with another decimal point, unit or a blank before it.
+// What may be meant by a text that begins with a number: it may have a comma for the decimal point, a blank before its
+// unit, the unit's name, or none.
 void addNumbers(std::vector<std::u16string>& guesses, std::u16string_view text) {
     std::size_t i = 0;
     auto const skipDigits = [&] {
@@ -94,7 +91,7 @@ void addColors(std::vector<std::u16string>& guesses, std::u16string_view text) {
 void addJoined(std::vector<std::u16string>& guesses, std::u16string_view text) {
     std::u16string joined(text);
     std::erase_if(joined, isXmlSpace);
-    if (std::ranges::all_of(joined, [](char16_t unit) { return isLetter(unit) || unit == u'-'; }))
+    if (std::ranges::all_of(joined, [](char16_t unit) { return Core::isLetter(unit) || unit == u'-'; }))
         guesses.push_back(std::move(joined));
 }
 
@@ -276,7 +273,7 @@ std::vector<std::u16string> variantsOf(std::u16string_view text) {
 }
 
 std::u16string_view nearestWord(std::u16string_view text, std::span<std::u16string_view const> words) {
-    bool const isWord = std::ranges::all_of(text, [](char16_t unit) { return isLetter(unit) || unit == u'-'; });
+    bool const isWord = std::ranges::all_of(text, [](char16_t unit) { return Core::isLetter(unit) || unit == u'-'; });
     if (text.size() > longestGuess || !isWord) return {};
     std::u16string_view nearest;
     std::pair best(longestGuess, std::size_t{0}); // the distance and what it leaves alike

@@ -124,7 +124,7 @@ private:
             return true;
         }
         std::size_t const first = index;
-        value.power = skip(isLetter) > 0 ? 1 : 0;
+        value.power = skip(Core::isLetter) > 0 ? 1 : 0;
         return value.power == 0 ||
                Core::WordTable<unitWords>::find(text.substr(first, index - first)) == ItemKind::Length;
     }
@@ -165,14 +165,9 @@ private:
     std::u16string_view name() {
         std::size_t const first = index;
         skip([](char16_t unit) {
-            return isLetter(unit) || Core::isDigit(unit) || unit == u'-' || unit == u'_' || unit == u'.';
+            return Core::isLetter(unit) || Core::isDigit(unit) || unit == u'-' || unit == u'_' || unit == u'.';
         });
         return text.substr(first, index - first);
-    }
-
-    static bool isLetter(char16_t unit) {
-        char16_t const lower = Core::toLower(unit);
-        return lower >= u'a' && lower <= u'z';
     }
 
     template <class Belongs> std::size_t skip(Belongs belongs) {

@@ -2,6 +2,7 @@
 
 #include "xmlattr/catalogue/grammar/TokenReader.h"
 #include "xmlattr/catalogue/text/Words.h"
+#include "xmlattr/core/WordTable.h"
 
 #include <algorithm>
 #include <array>
@@ -36,17 +37,16 @@ std::optional<float> fractionOf(Argument const& argument, float whole) {
     return std::clamp(argument.number / (argument.isPercentage() ? 100 : whole), 0.0f, 1.0f);
 }
 
+// How many there are in a circle; a bare number is in degrees.
+constexpr Core::WordRow<float> angleUnits[] = {
+    {u"", 360}, {u"deg", 360}, {u"grad", 400}, {u"rad", 2 * std::numbers::pi_v<float>}, {u"turn", 1}};
+
 // In parts of a circle, from 0 to below 1.
 std::optional<float> turnsOf(Argument const& hue) {
-    struct Unit {
-        std::string_view name;
-        float turn;
-    };
-    constexpr Unit units[] = {
-        {"", 360}, {"deg", 360}, {"grad", 400}, {"rad", 2 * std::numbers::pi_v<float>}, {"turn", 1}};
-    for (Unit const& unit : units)
-        if (equalsWord(hue.unit, unit.name, true)) return hue.number / unit.turn - std::floor(hue.number / unit.turn);
-    return std::nullopt;
+    auto const unitsInTurn = Core::WordTable<angleUnits, Core::Case::Any>::find(hue.unit);
+    if (!unitsInTurn) return std::nullopt;
+    float const turns = hue.number / *unitsInTurn;
+    return turns - std::floor(turns);
 }
 
 Components pureColor(float turns) {

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <type_traits>
 #include <vector>
 
 namespace Xml {
@@ -112,7 +113,7 @@ bool hasInk(std::u16string_view color) {
 }
 
 // A value in its plainest form: "+.5e1" as "5", "rgb(300,-1,0)" as "rgb(255,0,0)", "url( 'a' )" as "url(a)". Nothing
-// for others, and for a colour that is no whole number of its kind.
+// for others, for a colour that has to be rounded, and for what would lose a profile or an ink.
 std::optional<std::u16string> inPlainForm(Item const& item) {
     switch (item.kind) {
     case ItemKind::Number:
@@ -120,13 +121,14 @@ std::optional<std::u16string> inPlainForm(Item const& item) {
     case ItemKind::Percentage: return std::u16string(Core::Format::toShortest(item.number)).append(item.unit);
     case ItemKind::Color: {
         if (item.number != 0 || hasInk(item.text)) break;
+        if (item.text.find(u'(') == std::u16string_view::npos) return std::u16string(item.text);
         auto const component = [&](int shift) { return static_cast<unsigned char>(item.rgb >> shift); };
         Core::String const plain =
             ColorParse::getColorAsString(new Drawing::RGBColor(component(16), component(8), component(0)));
         return std::u16string(std::u16string_view(plain));
     }
     case ItemKind::Uri:
-        if (item.text.empty() || item.text.starts_with(u"url(")) break; // nothing, which is taken for a name
+        if (item.text.empty() || item.text.starts_with(u"url(")) break; // empty, or a reference without a call
         return std::u16string(u"url(").append(item.text).append(u")");
     case ItemKind::Word:
     case ItemKind::Angle:
