@@ -1,5 +1,7 @@
 #include "bytes/TextFile.h"
 
+#include "text/Path.h"
+
 #include <cerrno>
 #include <filesystem>
 #include <system_error>
@@ -11,7 +13,7 @@ std::optional<std::string> openText(std::string const& path, std::ifstream& file
     file.open(path, std::ios::binary);
     int const problem = file ? 0 : errno;
     std::error_code ignored;
-    bool const isFolder = std::filesystem::is_directory(path, ignored); // which some systems open
+    bool const isFolder = std::filesystem::is_directory(pathOf(path), ignored); // which some systems open
     if (file && !isFolder) return std::nullopt;
     return std::generic_category().message(isFolder ? EISDIR : problem);
 }

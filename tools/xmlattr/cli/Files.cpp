@@ -1,10 +1,10 @@
 #include "cli/Files.h"
 
+#include "bytes/TextFile.h"
+#include "text/Path.h"
 #include "xmlattr/core/Text.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -49,31 +49,29 @@ FileList gatherFiles(std::vector<std::string> const& paths) {
     FileList list;
     for (std::string const& path : paths) {
         std::error_code ignored;
-        if (path == "-" || !fs::is_directory(path, ignored)) {
+        if (path == "-" || !fs::is_directory(pathOf(path), ignored)) {
             list.files.push_back(path);
             continue;
         }
         std::size_t const files = list.files.size(), problems = list.problems.size();
-        gatherDirectory(path, list);
+        gatherDirectory(pathOf(path), list);
         if (list.files.size() == files && list.problems.size() == problems)
             list.problems.push_back(path + ": no .fo, .svg, .svgz, .xml, .xsl or .xslt file in this directory");
     }
     std::set<std::string> known;
     std::erase_if(list.files, [&](std::string const& file) {
-        return !known.insert(fs::path(file).lexically_normal().string()).second;
+        return !known.insert(pathOf(file).lexically_normal().string()).second;
     });
     return list;
 }
 
 bool readPaths(std::string const& file, std::vector<std::string>& paths, std::string& problem) {
     std::ifstream opened;
-    if (file != "-") opened.open(file);
-    std::istream& lines = file == "-" ? std::cin : opened;
-    std::error_code ignored;
-    if (!lines || fs::is_directory(file, ignored)) {
-        problem = file + ": " + std::strerror(lines ? EISDIR : errno);
+    if (auto const failure = file == "-" ? std::nullopt : openText(file, opened)) {
+        problem = file + ": " + *failure;
         return false;
     }
+    std::istream& lines = file == "-" ? std::cin : opened;
     std::size_t const before = paths.size();
     for (std::string line; std::getline(lines, line);) {
         if (line.ends_with('\r')) line.pop_back();

@@ -6,6 +6,7 @@
 #include "fixing/ReplacedFile.h"
 #include "fixing/UnifiedDiff.h"
 #include "output/Report.h"
+#include "text/Path.h"
 #include "text/Text.h"
 
 #include "xmlattr/core/Log.h"
@@ -18,11 +19,6 @@
 #include <memory>
 #include <set>
 #include <system_error>
-
-#ifdef _WIN32
-#include <fcntl.h>
-#include <io.h>
-#endif
 
 namespace Command {
 
@@ -43,11 +39,6 @@ public:
 
 // Standard input as a file that can be read twice.
 OpenFile openInput() {
-#ifdef _WIN32
-    // Line ends stay as they are.
-    _setmode(_fileno(stdin), _O_BINARY);
-    _setmode(_fileno(stdout), _O_BINARY);
-#endif
     if (std::fseek(stdin, 0, SEEK_SET) == 0) return OpenFile(stdin);
     OpenFile copy(std::tmpfile());
     if (!copy) failToRead(std::strerror(errno));
@@ -60,7 +51,7 @@ OpenFile openInput() {
 
 OpenFile openFile(std::string const& path) {
     std::error_code error;
-    fs::file_status const status = fs::status(path, error);
+    fs::file_status const status = fs::status(pathOf(path), error);
     if (fs::exists(status) && !fs::is_regular_file(status)) failToRead("it is no regular file");
     OpenFile opened(std::fopen(path.c_str(), "rb"));
     if (!opened) failToRead(std::strerror(errno));
@@ -83,11 +74,11 @@ std::vector<Job> jobsOf(FixOptions const& options, std::vector<std::string>& pro
         FileList const list = gatherFiles({path});
         problems.insert(problems.end(), list.problems.begin(), list.problems.end());
         for (std::string const& file : list.files) {
-            Job job{file, file};
+            Job job{file, pathOf(file)};
             if (!options.output.empty()) {
                 fs::path const below =
-                    file == path ? fs::path(file).filename() : fs::path(file).lexically_relative(path);
-                job.target = fs::path(options.output) / below;
+                    file == path ? job.target.filename() : job.target.lexically_relative(pathOf(path));
+                job.target = pathOf(options.output) / below;
             }
             if (targets.insert(job.target.lexically_normal()).second)
                 jobs.push_back(std::move(job));
@@ -170,7 +161,8 @@ private:
 
     std::unique_ptr<RewrittenDocument> destinationOf(Job const& job, std::string const& name) {
         if (options.isDryRun)
-            return std::make_unique<UnifiedDiff>(name, isColored, [](std::string const& diff) { print(diff); });
+            return std::make_unique<UnifiedDiff>(pathOf(name).generic_string(), isColored,
+                                                 [](std::string const& diff) { print(diff); });
         if (job.isInput()) return std::make_unique<PrintedDocument>();
         return std::make_unique<ReplacedFile>(system, folders, job.target, job.document);
     }

@@ -260,6 +260,7 @@ int main(int argc, char** argv) {
 #ifdef SIGPIPE
     std::signal(SIGPIPE, SIG_IGN); // a reader that has enough is found out by the write
 #endif
+    StandardStreams const streams;
     try {
         return run(argc, argv);
     } catch (OutputClosed const& closed) {

@@ -30,9 +30,14 @@ constexpr int newFile = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
 } // namespace
 
 bool FileSystem::create(fs::path const& path, fs::path const& like, int& file) {
+#ifdef _WIN32
+    (void)like; // a new file has the rights of its folder
+    file = _wopen(path.c_str(), newFile, S_IRUSR | S_IWUSR);
+#else
     struct stat status {};
-    require(stat(like.string().c_str(), &status) == 0);
-    file = open(path.string().c_str(), newFile, S_IRUSR | S_IWUSR);
+    require(stat(like.c_str(), &status) == 0);
+    file = open(path.c_str(), newFile, S_IRUSR | S_IWUSR);
+#endif
     if (file < 0 && errno == EEXIST) return false;
     require(file >= 0);
 #ifndef _WIN32

@@ -7,7 +7,26 @@
 #include <cstdlib>
 #include <unistd.h>
 
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#include <windows.h>
+#endif
+
 namespace Command {
+
+#ifdef _WIN32
+StandardStreams::StandardStreams() : codePage(GetConsoleOutputCP()) {
+    for (std::FILE* const stream : {stdin, stdout, stderr}) _setmode(_fileno(stream), _O_BINARY);
+    SetConsoleOutputCP(CP_UTF8);
+}
+StandardStreams::~StandardStreams() {
+    SetConsoleOutputCP(codePage);
+}
+#else
+StandardStreams::StandardStreams() = default;
+StandardStreams::~StandardStreams() = default;
+#endif
 
 void print(std::string_view text) {
     if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size()) throw OutputClosed{errno};

@@ -1,6 +1,7 @@
 #include "output/ReportFile.h"
 
 #include "output/Output.h"
+#include "text/Path.h"
 
 #include <cerrno>
 #include <cstring>
@@ -22,10 +23,11 @@ namespace {
 ReportFile::ReportFile(std::string newPath) : path(std::move(newPath)) {
     if (path.empty()) return;
     std::error_code unknown;
-    std::filesystem::file_status const status = std::filesystem::status(path, unknown);
+    std::filesystem::file_status const status = std::filesystem::status(pathOf(path), unknown);
     // A pipe or a device is written to as it is.
     bool const isFile = !std::filesystem::exists(status) || std::filesystem::is_regular_file(status);
-    if (isFile && std::filesystem::exists(status)) path = std::filesystem::canonical(path).string(); // a link stays
+    if (isFile && std::filesystem::exists(status))
+        path = std::filesystem::canonical(pathOf(path)).string(); // a link stays
     if (isFile) unfinished = path + "." + std::to_string(getpid()) + ".part";
     file.reset(std::fopen((isFile ? unfinished : path).c_str(), "wb"));
     if (!file) fail(path, std::strerror(errno));
@@ -55,7 +57,7 @@ void ReportFile::complete() {
     file.reset();
     if (unfinished.empty()) return;
     std::error_code problem;
-    std::filesystem::rename(unfinished, path, problem);
+    std::filesystem::rename(pathOf(unfinished), pathOf(path), problem);
     if (!problem) return;
     std::remove(unfinished.c_str());
     fail(path, problem.message());

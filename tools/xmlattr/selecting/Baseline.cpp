@@ -3,6 +3,7 @@
 #include "bytes/TextFile.h"
 #include "output/Json.h"
 #include "output/ReportFile.h"
+#include "text/Path.h"
 #include "text/Text.h"
 
 #include <filesystem>
@@ -93,7 +94,7 @@ std::vector<std::string> Baseline::gone() const {
     std::vector<std::string> lines;
     for (auto const& [name, document] : documents) {
         std::error_code ignored;
-        fs::path const path = fs::path(file).parent_path() / fs::path(std::u8string(name.begin(), name.end()));
+        fs::path const path = pathOf(file).parent_path() / pathOf(name);
         if (!document.isFinished && fs::exists(path, ignored)) continue;
         for (auto const& [key, count] : document.counts) {
             if (count == 0) continue;
@@ -114,8 +115,8 @@ Baseline::Key Baseline::keyOf(Finding const& finding) {
 
 std::string Baseline::nameOf(std::string const& document) const {
     std::error_code ignored;
-    fs::path const folder = fs::absolute(file, ignored).lexically_normal().parent_path();
-    fs::path const path = fs::absolute(document, ignored).lexically_normal();
+    fs::path const folder = fs::absolute(pathOf(file), ignored).lexically_normal().parent_path();
+    fs::path const path = fs::absolute(pathOf(document), ignored).lexically_normal();
     fs::path const fromFolder = path.lexically_relative(folder); // empty on another drive
     std::string const name = (fromFolder.empty() ? path : fromFolder).generic_string();
     return toUtf8(toUtf16(name)); // JSON has nothing else than UTF-8

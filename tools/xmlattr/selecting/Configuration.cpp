@@ -2,6 +2,7 @@
 
 #include "bytes/TextFile.h"
 #include "selecting/Glob.h"
+#include "text/Path.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -22,9 +23,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-fs::path absolute(fs::path const& path) {
+fs::path absolute(std::string const& path) {
     std::error_code ignored;
-    return fs::absolute(path, ignored).lexically_normal();
+    return fs::absolute(pathOf(path), ignored).lexically_normal();
 }
 
 } // namespace
@@ -73,7 +74,7 @@ private:
                 {{"auto", ColorMode::Auto}, {"always", ColorMode::Always}, {"never", ColorMode::Never}});
         else if (key == "baseline") {
             readWord(value, run.baseline);
-            if (run.baseline) run.baseline = (fs::path(configuration.folder) / *run.baseline).string();
+            if (run.baseline) run.baseline = (pathOf(configuration.folder) / pathOf(*run.baseline)).string();
         } else if (key == "group")
             readFlag(value, run.isGrouped);
         else if (key == "quiet")
@@ -175,7 +176,7 @@ std::optional<std::string> Configuration::read(std::string const& file) {
 void Configuration::addSettings(std::string const& document, std::vector<FileSettings const*>& found) const {
     found.push_back(&settings);
     if (paths.empty()) return;
-    std::string const path = absolute(document).lexically_relative(folder).generic_string();
+    std::string const path = absolute(document).lexically_relative(pathOf(folder)).generic_string();
     for (Paths const& some : paths)
         if (std::ranges::any_of(some.patterns, [&](std::string const& pattern) { return matchesGlob(pattern, path); }))
             found.push_back(&some.settings);
@@ -189,7 +190,7 @@ std::optional<std::string> Configurations::find(std::string const& document, Con
     configuration = named ? &*named : nullptr;
     if (named) return std::nullopt;
     // As the document is named, so that the next one beside it is found at once.
-    std::vector<std::string> visited = {fs::path(document).parent_path().string()};
+    std::vector<std::string> visited = {pathOf(document).parent_path().string()};
     if (auto const known = folders.find(visited.front()); known != folders.end()) {
         configuration = known->second;
         return std::nullopt;
