@@ -79,15 +79,14 @@ TEST(SpotColorMapper, KnowsWhatIsRegisteredWhileOthersAsk) {
     auto const first = SpotColorFunction::parseColorFunctionString(u"rgb(1,2,3)");
     auto const second = SpotColorFunction::parseColorFunctionString(u"rgb(4,5,6)");
     EXPECT_FALSE(SpotColorMapper::getFunction(u"Gold"));
-    {
-        std::jthread const asking([&] {
-            for (int i = 0; i < 1000; ++i) {
-                auto const found = SpotColorMapper::getFunction(u"Gold");
-                EXPECT_TRUE(!found || found == first || found == second);
-            }
-        });
-        for (int i = 0; i < 1000; ++i) SpotColorMapper::setFunction(u"Gold", i % 2 ? second : first);
-    }
+    std::thread asking([&] {
+        for (int i = 0; i < 1000; ++i) {
+            auto const found = SpotColorMapper::getFunction(u"Gold");
+            EXPECT_TRUE(!found || found == first || found == second);
+        }
+    });
+    for (int i = 0; i < 1000; ++i) SpotColorMapper::setFunction(u"Gold", i % 2 ? second : first);
+    asking.join();
     EXPECT_TRUE(SpotColorMapper::getFunction(u"Gold") == second);
     EXPECT_FALSE(SpotColorMapper::getFunction(u"gold"));
     SpotColorMapper::setFunction(u"Gold", nullptr);

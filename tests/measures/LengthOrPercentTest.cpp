@@ -15,7 +15,7 @@
 namespace Xml {
 namespace {
 
-constexpr LengthOrPercent seven(Length(7, Length::Cm));
+constexpr LengthOrPercent sevenCm(Length(7, Length::Cm));
 
 // Says for the life of a test that bare numbers are points.
 struct BareNumbersArePoints {
@@ -25,15 +25,15 @@ struct BareNumbersArePoints {
 
 TEST(LengthOrPercent, ReadsPercentageBareNumberAndLength) {
     expectPrints<LengthOrPercent>(
-        seven, {{u"50%", "50%"},      {u"100%", "100%"},     {u"-.5%", "-0.5%"},     {u"5 %", "5%"},
-                {u"1.5", "150%"},     {u"2.", "200%"},       {u"+1e1", "1000%"},     {u"0", "0%"},
-                {u"12pt", "12pt"},    {u"-3px", "-3px"},     {u".5cm", "0.5cm"},     {u"1mm", "1mm"},
-                {u"+2in", "2in"},     {u"1em", "1em"},       {u"1ex", "1ex"},        {u"1.5pc", "1.5pc"},
-                {u"normal", "120%"},  {u"12zz", "12px"},     {u"12PT", "12px"},      {u"5%pt", "5pt"},
-                {u"-x", "0px"},       {u"5x", "0px"},        {u"+", "0px"},          {u".%", "refused"},
-                {u"", "refused"},     {u"%", "refused"},     {u".", "refused"},      {u"+.", "refused"},
-                {u"+%", "refused"},   {u"auto", "refused"},  {u"Normal", "refused"}, {u" 1pt", "refused"},
-                {u"1e39", "refused"}, {u"12pt ", "refused"}, {u"1 2pt", "refused"}});
+        sevenCm, {{u"50%", "50%"},      {u"100%", "100%"},     {u"-.5%", "-0.5%"},     {u"5 %", "5%"},
+                  {u"1.5", "150%"},     {u"2.", "200%"},       {u"+1e1", "1000%"},     {u"0", "0%"},
+                  {u"12pt", "12pt"},    {u"-3px", "-3px"},     {u".5cm", "0.5cm"},     {u"1mm", "1mm"},
+                  {u"+2in", "2in"},     {u"1em", "1em"},       {u"1ex", "1ex"},        {u"1.5pc", "1.5pc"},
+                  {u"normal", "120%"},  {u"12zz", "12px"},     {u"12PT", "12px"},      {u"5%pt", "5pt"},
+                  {u"-x", "0px"},       {u"5x", "0px"},        {u"+", "0px"},          {u".%", "refused"},
+                  {u"", "refused"},     {u"%", "refused"},     {u".", "refused"},      {u"+.", "refused"},
+                  {u"+%", "refused"},   {u"auto", "refused"},  {u"Normal", "refused"}, {u" 1pt", "refused"},
+                  {u"1e39", "refused"}, {u"12pt ", "refused"}, {u"1 2pt", "refused"}});
     auto const measure = parsed<LengthOrPercent>(u"7%");
     EXPECT_EQ(measure->getPercent(), 7 * 0.01f) << "a product of floats";
     EXPECT_EQ(parsed<FloatOrPercent>(u"7%")->getValue(), static_cast<float>(7 / 100.0));
@@ -41,8 +41,8 @@ TEST(LengthOrPercent, ReadsPercentageBareNumberAndLength) {
 
 TEST(LengthOrPercent, BareNumbersFollowTheConfiguration) {
     BareNumbersArePoints const points;
-    expectPrints<LengthOrPercent>(seven, {{u"1.5", "1.5pt"}, {u"2.", "2pt"}, {u"50%", "50%"}, {u"3zz", "3px"}});
-    expectPrints<ColumnWidth>(seven, {{u"2", "2pt"}, {u"proportional-column-width(2)", "200%"}, {u"f(2)", "2pt"}});
+    expectPrints<LengthOrPercent>(sevenCm, {{u"1.5", "1.5pt"}, {u"2.", "2pt"}, {u"50%", "50%"}, {u"3zz", "3px"}});
+    expectPrints<ColumnWidth>(sevenCm, {{u"2", "2pt"}, {u"proportional-column-width(2)", "200%"}, {u"f(2)", "2pt"}});
     auto const table = parsed<TableWidth>(u"proportional-column-width(1)");
     ASSERT_TRUE(table);
     EXPECT_TRUE(table->getLengthOrPercent() == LengthOrPercent(Length(1, Length::Pt))) << "the name does not count";
@@ -117,8 +117,8 @@ TEST(SNullableLengthOrPercent, IsPresentOnceRead) {
 }
 
 TEST(AutoOrMeasure, EachTypeHasItsOwnWayToBeAutomatic) {
-    expectPrints<LengthOrPercentAuto>(seven, {{u"AUTO", "auto"}, {u"10%", "10%"}, {u"auto ", "refused"}});
-    expectPrints<Margin>(seven, {{u"auto", "refused"}, {u"10%", "10%"}, {u"f(1pt)", "refused"}});
+    expectPrints<LengthOrPercentAuto>(sevenCm, {{u"AUTO", "auto"}, {u"10%", "10%"}, {u"auto ", "refused"}});
+    expectPrints<Margin>(sevenCm, {{u"auto", "refused"}, {u"10%", "10%"}, {u"f(1pt)", "refused"}});
     EXPECT_EQ(TXmlAttribute<Margin>().getValueAsString(), u"");
 
     LengthOrPercentAuto size(LengthOrPercent(0.5f));
@@ -139,16 +139,16 @@ TEST(AutoOrMeasure, EachTypeHasItsOwnWayToBeAutomatic) {
 }
 
 TEST(ColumnWidth, TakesTheArgumentOfAnyCall) {
-    expectPrints<ColumnWidth>(seven, {{u"2in", "2in"},
-                                      {u"proportional-column-width(1)", "100%"},
-                                      {u"proportional-column-width()", "refused"},
-                                      {u"f(3pt)", "3pt"},
-                                      {u"(3pt", "3pt"},
-                                      {u"f)1pt(3pt)4pt)", "3pt"},
-                                      {u"f(g(3pt))", "refused"},
-                                      {u"f( 3pt)", "refused"},
-                                      {u"3pt)", "refused"},
-                                      {u"auto", "refused"}});
+    expectPrints<ColumnWidth>(sevenCm, {{u"2in", "2in"},
+                                        {u"proportional-column-width(1)", "100%"},
+                                        {u"proportional-column-width()", "refused"},
+                                        {u"f(3pt)", "3pt"},
+                                        {u"(3pt", "3pt"},
+                                        {u"f)1pt(3pt)4pt)", "3pt"},
+                                        {u"f(g(3pt))", "refused"},
+                                        {u"f( 3pt)", "refused"},
+                                        {u"3pt)", "refused"},
+                                        {u"auto", "refused"}});
     EXPECT_TRUE(parsed<TableWidth>(u"f(3pt)").value() == TableWidth(LengthOrPercent(Length(3, Length::Pt))));
     EXPECT_FALSE(parsed<TableWidth>(u"f()"));
 }
@@ -166,12 +166,12 @@ TEST(FloatOrPercent, HoldsTheFraction) {
 }
 
 TEST(ContentLength, ComparesOneWay) {
-    expectPrints<ContentLength>(seven, {{u"auto", "auto"},
-                                        {u"scale-to-fit", "scale-to-fit"},
-                                        {u"scale-down-to-fit", "scale-down-to-fit"},
-                                        {u"scale-up-to-fit", "scale-up-to-fit"},
-                                        {u"50%", "50%"},
-                                        {u"Auto", "refused"}});
+    expectPrints<ContentLength>(sevenCm, {{u"auto", "auto"},
+                                          {u"scale-to-fit", "scale-to-fit"},
+                                          {u"scale-down-to-fit", "scale-down-to-fit"},
+                                          {u"scale-up-to-fit", "scale-up-to-fit"},
+                                          {u"50%", "50%"},
+                                          {u"Auto", "refused"}});
     // Row: the left operand; column: the right one, in the order of the modes, the last one 0px.
     constexpr std::string_view equal[] = {"11001", "01001", "00000", "00000", "00001"};
     auto const value = [](int mode) {

@@ -7,18 +7,18 @@ namespace {
 
 using List = Core::Vector<Transform>;
 
-constexpr SLength user(float size) {
+constexpr SLength units(float size) {
     return {size, SLength::UserUnit};
 }
 
 Transform const identity;
-constexpr SLength one = user(1), inch(1, SLength::In);
+constexpr SLength one = units(1), inch(1, SLength::In);
 
 TEST(TransformList, SplitsAtParentheses) {
     using Row = std::pair<char16_t const*, List>;
     for (auto const& [text, list] :
          {Row{u"", {}}, Row{u"  \u00A0,, ", {}}, Row{u"rotate(30) scale(2", {Transform(30, {}, {})}},
-          Row{u"translate(10,20) rotate(45)", {Transform(user(10), user(20)), Transform(45, {}, {})}},
+          Row{u"translate(10,20) rotate(45)", {Transform(units(10), units(20)), Transform(45, {}, {})}},
           Row{u"scale(2)rotate(9),,scale(1)\vscale(3)foo", {{2, 2}, {9, {}, {}}, {1, 1}, {3, 3}}},
           Row{u") )scale(1)foo) scale(2))", {identity, identity, {1, 1}, identity, {2, 2}, identity}},
           Row{u"foo(1) scale(2) scale(3 4 5) scale(6)", {identity, {2, 2}, identity, {6, 6}}}})
@@ -34,7 +34,7 @@ void expectTransform(Core::String const& text, Transform const& transform) {
 TEST(TransformList, ReadsArguments) {
     for (char16_t const* text :
          {u"translate(10 11", u" translate (10, \t 11", u"translate(10,11,", u"translate(10 11 "})
-        expectTransform(text, Transform(user(10), user(11)));
+        expectTransform(text, Transform(units(10), units(11)));
     for (char16_t const* text :
          {u"translate(x,5.", u"translate(1 ,2", u"translate(1  ", u"translate(1,2,3", u"rotate(1,2,3,4", u"skewX(5,6",
           u"matrix(1 0 0 1 5", u"matrix(1 0 0 1 5 6 7", u"matrix(1 0 0 1 x 6", u"matrix(1 0 0 1 1e39 6", u"scale(",
