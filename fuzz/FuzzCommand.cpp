@@ -1,19 +1,11 @@
 // Any bytes as a document for the command: its XML reader, its places and its checks.
+#include "FuzzText.h"
 #include "checking/Checker.h"
 #include "xmlattr/catalogue/legality/StyleAttribute.h"
 
-#include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <memory>
 
 namespace {
-
-void require(bool holds, char const* promise) {
-    if (holds) return;
-    std::fprintf(stderr, "%s\n", promise);
-    std::abort();
-}
 
 struct Close {
     void operator()(std::FILE* file) const { std::fclose(file); }

@@ -102,6 +102,12 @@ struct Seeds final : Command::XmlHandler {
         write(folder / "numbers" / std::to_string(count), std::string(12, '?') + std::string(text));
     }
 
+    void addJudged(Xml::CatalogueEntry const& entry, std::string_view text) {
+        auto const row = static_cast<std::size_t>(&entry - Xml::Catalogue::entries().data());
+        std::string const start = {static_cast<char>(row >> 8), static_cast<char>(row), 1};
+        write(folder / "judge" / std::to_string(++count), start + std::string(text));
+    }
+
     void startElement(Command::XmlElement const& element, Tag&) override {
         auto const vocabulary = Xml::Catalogue::vocabularyOf(element.space);
         if (!vocabulary) return;
@@ -109,7 +115,9 @@ struct Seeds final : Command::XmlHandler {
         for (auto const& attribute : element.attributes) {
             elementNames.emplace(attribute.name);
             auto const* const entry = Xml::Catalogue::find(*vocabulary, element.name, attribute.name);
-            if (entry && entry->type()) addValue(static_cast<std::size_t>(entry->typeNumber), attribute.value);
+            if (!entry) continue;
+            addJudged(*entry, attribute.value);
+            if (entry->type()) addValue(static_cast<std::size_t>(entry->typeNumber), attribute.value);
         }
     }
 
@@ -142,7 +150,8 @@ int main(int argc, char** argv) {
     for (int i = 2; i < argc; ++i) {
         std::ifstream file(argv[i], std::ios::binary);
         std::string const bytes(std::istreambuf_iterator<char>(file), {});
-        write(folder / "command" / fs::path(argv[i]).filename(), bytes);
+        for (char const* const fuzzer : {"command", "fix"})
+            write(folder / fuzzer / fs::path(argv[i]).filename(), bytes);
         std::FILE* const document = std::fopen(argv[i], "rb");
         if (!document) return 1;
         Command::readXml(document, seeds);
@@ -158,6 +167,8 @@ int main(int argc, char** argv) {
         xml += inDictionary(word);
     write(folder / "values.dict", dictionary);
     write(folder / "numbers.dict", dictionary);
+    write(folder / "judge.dict", dictionary);
     write(folder / "command.dict", dictionary + xml);
+    write(folder / "fix.dict", dictionary + xml);
     return 0;
 }

@@ -44,7 +44,7 @@ TEST(Rows, TakeNoNonsenseWhereTheirGrammarIsClosed) {
 // The words of every grammar that are values by themselves: all are legal, and what a type takes of them it reads.
 TEST(Rows, ReadTheirWords) {
     for (CatalogueEntry const& row : Catalogue::entries())
-        for (std::string_view const word : wordsOf(row.grammar)) {
+        for (std::string_view const word : wordsIn(row.grammar)) {
             std::u16string const text(word.begin(), word.end());
             Meaning meaning;
             if (!readMeaning(meaning, row.grammar, dialectOf(row, Notation::Attribute), text)) continue;

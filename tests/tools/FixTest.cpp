@@ -1,3 +1,4 @@
+#include "Versions.h"
 #include "fixing/Changes.h"
 #include "fixing/Fixer.h"
 #include "fixing/ReplacedFile.h"
@@ -19,18 +20,6 @@ namespace Command {
 namespace {
 
 using namespace std::string_literals;
-
-// Both versions of a document, put together from what was kept and what was replaced.
-struct Versions final : RewrittenDocument {
-    std::string before, after;
-
-    void keep(std::string_view bytes) override { replace(bytes, bytes); }
-    void replace(std::string_view old, std::string_view inserted) override {
-        before += old;
-        after += inserted;
-    }
-    void finish() override {}
-};
 
 struct Outcome {
     std::string document, reasons, failure;

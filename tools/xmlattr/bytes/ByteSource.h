@@ -17,6 +17,9 @@ struct SourceFailure {
     std::string message;
 };
 
+// How many bytes of a file are read or written at a time.
+inline constexpr int blockSize = 64 << 10;
+
 class ByteSource {
 public:
     ByteSource() = default;

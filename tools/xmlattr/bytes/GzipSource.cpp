@@ -18,7 +18,7 @@ bool isGzip(std::string_view start) {
 
 struct GzipSource::State {
     z_stream stream{};
-    std::array<char, 64 << 10> input;
+    std::array<char, blockSize> input;
     std::uint64_t packedBytes = 0, bytes = 0;
     bool isAtEnd = false;
     // Whether a member has begun and not ended.

@@ -50,7 +50,7 @@ std::string foreignEncoding(std::string_view start) {
 
 struct TranscodedSource::State {
     iconv_t converter;
-    std::array<char, 64 << 10> input;
+    std::array<char, blockSize> input;
     std::size_t pending = 0; // in the input
     bool isAtEnd = false;
 

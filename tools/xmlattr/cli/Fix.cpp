@@ -42,7 +42,7 @@ OpenFile openInput() {
     if (std::fseek(stdin, 0, SEEK_SET) == 0) return OpenFile(stdin);
     OpenFile copy(std::tmpfile());
     if (!copy) failToRead(std::strerror(errno));
-    std::array<char, 64 << 10> buffer;
+    std::array<char, blockSize> buffer;
     while (std::size_t const count = std::fread(buffer.data(), 1, buffer.size(), stdin))
         if (std::fwrite(buffer.data(), 1, count, copy.get()) != count) failToRead(std::strerror(errno));
     if (std::ferror(stdin) || std::fflush(copy.get()) != 0) failToRead(std::strerror(errno));

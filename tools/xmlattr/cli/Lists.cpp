@@ -57,7 +57,7 @@ std::vector<ElementRow> rowsByElement() {
 std::vector<std::string_view> alsoLegal(Xml::CatalogueEntry const& entry) {
     std::vector<std::string_view> words;
     if (!entry.type()) return words;
-    for (std::string_view const word : Xml::wordsOf(entry.grammar))
+    for (std::string_view const word : Xml::wordsIn(entry.grammar))
         if (Xml::judge(entry, toUtf16(word)).verdict == Xml::Verdict::PassedOver) words.push_back(word);
     return words;
 }

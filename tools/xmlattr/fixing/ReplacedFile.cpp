@@ -1,5 +1,7 @@
 #include "fixing/ReplacedFile.h"
 
+#include "bytes/ByteSource.h"
+
 #include <cerrno>
 #include <cstdio>
 #include <memory>
@@ -11,8 +13,6 @@ namespace Command {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr std::size_t blockSize = 64 << 10;
 
 // Without the right to write into a file, nobody shall replace it either.
 bool mayBeWritten(fs::path const& path) {

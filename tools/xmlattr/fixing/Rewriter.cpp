@@ -4,12 +4,6 @@
 
 namespace Command {
 
-namespace {
-
-constexpr std::size_t blockSize = 64 << 10;
-
-} // namespace
-
 std::string_view Rewriter::next(std::uint64_t most) {
     if (ahead.empty()) {
         buffer.resize(blockSize);

@@ -24,7 +24,6 @@ namespace {
 
 constexpr int maxDepth = 10'000;
 constexpr std::int64_t maxTag = 32 << 20;
-constexpr int blockSize = 64 << 10;
 constexpr std::size_t longestDeclaration = 1 << 10; // of XML, where it names an encoding
 constexpr char separator = '\x1F';                  // between a namespace and a name; no document can contain it
 

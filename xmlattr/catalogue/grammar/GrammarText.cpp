@@ -66,7 +66,7 @@ std::string rangeOf(GrammarStep const& step) {
 
 } // namespace
 
-std::vector<std::string_view> wordsOf(Grammar const& grammar) {
+std::vector<std::string_view> wordsIn(Grammar const& grammar) {
     std::vector<std::string_view> words;
     for (GrammarStep const& step : grammar.steps()) {
         if (step.kind == GrammarStep::Word || step.kind == GrammarStep::Call) addOnce(words, step.word);

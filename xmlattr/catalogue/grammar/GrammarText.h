@@ -10,7 +10,7 @@
 namespace Xml {
 
 // Every word of the grammar and of its kinds of values, each once: "auto", "translate".
-std::vector<std::string_view> wordsOf(Grammar const& grammar);
+std::vector<std::string_view> wordsIn(Grammar const& grammar);
 
 // Its words and kinds of values in a line, in no particular order and without how often: "auto, a length or a
 // percentage".

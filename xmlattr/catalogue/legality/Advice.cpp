@@ -198,7 +198,7 @@ private:
 
     void addNearest(std::vector<std::u16string>& guesses, std::u16string_view trimmed) const {
         std::vector<std::u16string> words;
-        for (std::string_view const word : wordsOf(entry.grammar)) words.emplace_back(word.begin(), word.end());
+        for (std::string_view const word : wordsIn(entry.grammar)) words.emplace_back(word.begin(), word.end());
         for (AttributeType const* const type : judgement.tried)
             for (std::u16string_view const word : type->words()) words.emplace_back(word);
         std::vector<std::u16string_view> views(words.begin(), words.end());
