@@ -3,15 +3,14 @@
 #include "cli/Commands.h"
 #include "cli/NamedType.h"
 #include "interface/Interface.h"
+#include "output/Output.h"
 #include "text/Text.h"
 #include "xmlattr/core/Version.h"
 
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
-#include <cerrno>
 #include <csignal>
-#include <cstring>
 #include <sstream>
 
 namespace {
@@ -261,12 +260,5 @@ int main(int argc, char** argv) {
     std::signal(SIGPIPE, SIG_IGN); // a reader that has enough is found out by the write
 #endif
     StandardStreams const streams;
-    try {
-        return run(argc, argv);
-    } catch (OutputClosed const& closed) {
-        if (closed.error != EPIPE) std::fprintf(stderr, "xmlattr: standard output: %s\n", std::strerror(closed.error));
-    } catch (std::exception const& exception) {
-        std::fprintf(stderr, "xmlattr: %s\n", exception.what());
-    }
-    return 2;
+    return guarded([&] { return run(argc, argv); });
 }

@@ -5,6 +5,9 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
+#include <exception>
+#include <new>
 #include <unistd.h>
 
 #ifdef _WIN32
@@ -27,6 +30,38 @@ StandardStreams::~StandardStreams() {
 StandardStreams::StandardStreams() = default;
 StandardStreams::~StandardStreams() = default;
 #endif
+
+namespace {
+
+constexpr char outOfMemory[] = "xmlattr: out of memory\n";
+
+[[noreturn]] void endWithMessage() {
+    try {
+        if (std::exception_ptr const thrown = std::current_exception()) std::rethrow_exception(thrown);
+    } catch (std::bad_alloc const&) {
+        std::fputs(outOfMemory, stderr);
+        std::fflush(stderr);
+        std::_Exit(2);
+    } catch (...) {
+    }
+    std::abort();
+}
+
+} // namespace
+
+int guarded(std::function<int()> const& command) {
+    std::set_terminate(endWithMessage);
+    try {
+        return command();
+    } catch (OutputClosed const& closed) {
+        if (closed.error != EPIPE) std::fprintf(stderr, "xmlattr: standard output: %s\n", std::strerror(closed.error));
+    } catch (std::bad_alloc const&) {
+        std::fputs(outOfMemory, stderr);
+    } catch (std::exception const& exception) {
+        std::fprintf(stderr, "xmlattr: %s\n", exception.what());
+    }
+    return 2;
+}
 
 void print(std::string_view text) {
     if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size()) throw OutputClosed{errno};

@@ -1,6 +1,7 @@
 // Standard output and the terminal.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -22,6 +23,10 @@ private:
 struct OutputClosed {
     int error;
 };
+
+// Carries out a command and gives its exit code; where it cannot go on, says why and gives 2. Where memory is missing
+// and nothing may be thrown, it ends the program with that message and code.
+int guarded(std::function<int()> const& command);
 
 // Writes to standard output; throws OutputClosed.
 void print(std::string_view text);
