@@ -55,5 +55,32 @@ TEST(BadDocuments, HaveALongText) {
     EXPECT_EQ(checkDocument(std::string(opening).append(">").append(text).append("</block>")).failure, "");
 }
 
+TEST(BadDocuments, AreReadUpToALimit) {
+    auto const nested = [](std::size_t depth) {
+        std::string document;
+        for (std::size_t i = 0; i < depth; ++i) document += "<a>";
+        for (std::size_t i = 0; i < depth; ++i) document += "</a>";
+        return document;
+    };
+    EXPECT_EQ(checkDocument(nested(10'000)).failure, "");
+    EXPECT_EQ(checkDocument(nested(10'001)).failure, "limit: elements nest more than 10000 deep");
+
+    auto const drawn = [](std::size_t length) {
+        std::string const path = "M" + std::string(length - 4, ' ') + "0 0";
+        return checkDocument("<svg xmlns='http://www.w3.org/2000/svg'><path d='" + path + "'/></svg>").counts;
+    };
+    EXPECT_EQ(drawn(4 << 20).read, 1u);
+    EXPECT_EQ(drawn((4 << 20) + 1).tooLong, 1u);
+
+    auto const texts = [](std::size_t length) {
+        return checkDocument("<s:template xmlns:s='http://www.w3.org/1999/XSL/Transform' version='1.0'>"
+                             "<block xmlns='http://www.w3.org/1999/XSL/Format'><s:attribute name='span'><s:text>" +
+                             std::string(length, 'x') + "</s:text></s:attribute></block></s:template>")
+            .counts;
+    };
+    EXPECT_EQ(texts(64 << 10).refused, 1u);
+    EXPECT_EQ(texts((64 << 10) + 1).refused, 0u);
+}
+
 } // namespace
 } // namespace Command
