@@ -206,12 +206,12 @@ TEST(Format, TheFastPathOfMeasuresPrintsLikeTheReference) {
     for (int i = 0; i < 300'000; ++i) {
         // Ties at every place, then floats of any size and percentages.
         double const value = i < 40'000 ? (i - 20'000) / 16.0 : texts.anyFloat() * (i % 2 ? 1.0 : 100.0);
-        std::u16string printed, reference;
-        appendMeasure(printed, value, u"pt ");
-        appendMeasure(printed, std::fmod(value, 2000));
-        appendMeasureReference(reference, value, u"pt ");
-        appendMeasureReference(reference, std::fmod(value, 2000));
-        ASSERT_EQ(printed, reference) << value;
+        for (Measure const measure : {Measure{value}, Measure{std::fmod(value, 2000)}}) {
+            char16_t printed[336], reference[336];
+            ASSERT_EQ(std::u16string(printed, write(printed, measure)),
+                      std::u16string(reference, writeReference(reference, measure)))
+                << measure.value;
+        }
     }
 }
 

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <typeinfo>
 
 namespace Xml {
 
@@ -156,32 +157,65 @@ bool store(bool (*read)(ColorPtr&, std::u16string_view), Core::String const& tex
     return true;
 }
 
-Core::String printICC(Drawing::ICCColor const& color) {
+// Calls use() with the colour as what it is; nothing happens without a colour and for a class of somebody else. Nearly
+// every object is of one of the classes itself, which is seen much sooner than that it is of a derived one.
+template <class... Classes> struct OneOf {
+    template <class Use> static void visit(Drawing::Color const* color, Use use) {
+        if (!color) return;
+        auto const useAs = [&]<class Class>(Class const* object) {
+            if (object) use(*object);
+            return object != nullptr;
+        };
+        std::type_info const& type = typeid(*color);
+        (... || useAs(type == typeid(Classes) ? static_cast<Classes const*>(color) : nullptr)) ||
+            (... || useAs(dynamic_cast<Classes const*>(color)));
+    }
+};
+using AnyColor = OneOf<Drawing::RGBColor, Drawing::CMYKColor, Drawing::ICCColor, Drawing::SpotColor>;
+
+Core::String print(Drawing::RGBColor const& color) {
+    return Core::joined(u"rgb("sv, color.getR(), u","sv, color.getG(), u","sv, color.getB(), u")"sv);
+}
+
+Core::String print(Drawing::CMYKColor const& color) {
+    return Core::joined(u"cmyk("sv, color.getC(), u","sv, color.getM(), u","sv, color.getY(), u","sv, color.getK(),
+                        u")"sv);
+}
+
+Core::String print(Drawing::ICCColor const& color) {
     SmartPtr<Drawing::ICCColorSpace> const space = color.getColorSpace();
     if (!space) return {};
-    Core::String const start =
-        Core::joined(u"rgb-icc("sv, color.getFallBackR(), u","sv, color.getFallBackG(), u","sv, color.getFallBackB(),
-                     u",#"sv, space->getProfileName(), u","sv, color.getColor(0));
-    if (color.getCount() == 1) return Core::joined(start, u")"sv);
-    Core::String const three = Core::joined(start, u", "sv, color.getColor(1), u", "sv, color.getColor(2));
-    if (color.getCount() == 3) return Core::joined(three, u")"sv);
-    if (color.getCount() == 4) return Core::joined(three, u", "sv, color.getColor(3), u")"sv);
+    auto const with = [&](auto... components) {
+        return Core::joined(u"rgb-icc("sv, color.getFallBackR(), u","sv, color.getFallBackG(), u","sv,
+                            color.getFallBackB(), u",#"sv, space->getProfileName(), u","sv, components..., u")"sv);
+    };
+    float const first = color.getColor(0), second = color.getColor(1), third = color.getColor(2);
+    switch (color.getCount()) {
+    case 1: return with(first);
+    case 3: return with(first, u", "sv, second, u", "sv, third);
+    case 4: return with(first, u", "sv, second, u", "sv, third, u", "sv, color.getColor(3));
+    }
     return {};
 }
 
-Core::String printSpot(Drawing::SpotColor const& color) {
+// Intended: an RGB end prints as cmyk(...) without its fourth number and a CMYK end as rgb(...)
+// without its black; readers of such texts rely on it.
+Core::String print(Drawing::SpotColor const& color) {
     auto const function = color.getFunction();
     auto const* const exponential = dynamic_cast<Drawing::ExponentialSpotColorFunction const*>(function.get());
     if (!exponential) return {};
-    // Intended: an RGB end prints as cmyk(...) without its fourth number and a CMYK end as rgb(...)
-    // without its black; readers of such texts rely on it.
-    Core::String const start = Core::joined(u"spot-color("sv, color.getColorName(), u","sv, color.getTint(), u","sv);
     ColorPtr const end = exponential->getEndColor();
-    if (auto const* rgb = dynamic_cast<Drawing::RGBColor const*>(end.get()))
-        return Core::joined(start, u"cmyk("sv, rgb->getR(), u","sv, rgb->getG(), u","sv, rgb->getB(), u",))"sv);
-    if (auto const* cmyk = dynamic_cast<Drawing::CMYKColor const*>(end.get()))
-        return Core::joined(start, u"rgb("sv, cmyk->getC(), u","sv, cmyk->getM(), u","sv, cmyk->getY(), u"))"sv);
-    return {};
+    Core::String text;
+    auto const with = [&](auto... pieces) {
+        text = Core::joined(u"spot-color("sv, color.getColorName(), u","sv, color.getTint(), u","sv, pieces...);
+    };
+    OneOf<Drawing::RGBColor>::visit(end.get(), [&](Drawing::RGBColor const& rgb) {
+        with(u"cmyk("sv, rgb.getR(), u","sv, rgb.getG(), u","sv, rgb.getB(), u",))"sv);
+    });
+    OneOf<Drawing::CMYKColor>::visit(end.get(), [&](Drawing::CMYKColor const& cmyk) {
+        with(u"rgb("sv, cmyk.getC(), u","sv, cmyk.getM(), u","sv, cmyk.getY(), u"))"sv);
+    });
+    return text;
 }
 
 void addColor(Parts& out, unsigned char r, unsigned char g, unsigned char b) {
@@ -193,6 +227,31 @@ void addColor(Parts& out, unsigned char r, unsigned char g, unsigned char b) {
 std::uint32_t shadeOf(double ink, double black) {
     auto const light = [](double part) { return 1 - std::clamp(part, 0.0, 1.0); };
     return static_cast<std::uint32_t>(std::lround(255 * light(ink) * light(black)));
+}
+
+void addParts(Parts& out, Drawing::RGBColor const& rgb) {
+    out.add(u"kind") << u"RGB";
+    addColor(out, rgb.getR(), rgb.getG(), rgb.getB());
+}
+
+void addParts(Parts& out, Drawing::CMYKColor const& cmyk) {
+    double const c = cmyk.getC(), m = cmyk.getM(), y = cmyk.getY(), k = cmyk.getK();
+    out.add(u"kind") << u"CMYK";
+    out.add(u"cmyk") << c << u" " << m << u" " << y << u" " << k;
+    out.rgb = shadeOf(c, k) << 16 | shadeOf(m, k) << 8 | shadeOf(y, k);
+}
+
+void addParts(Parts& out, Drawing::ICCColor const& icc) {
+    out.add(u"kind") << u"ICC";
+    addColor(out, icc.getFallBackR(), icc.getFallBackG(), icc.getFallBackB());
+    if (auto const space = icc.getColorSpace()) out.add(u"profile") << space->getProfileName();
+    for (int i = 0; i < icc.getCount(); ++i) out.add(u"component") << icc.getColor(i);
+}
+
+void addParts(Parts& out, Drawing::SpotColor const& spot) {
+    out.add(u"kind") << u"spot";
+    out.add(u"name") << spot.getColorName();
+    out.add(u"tint") << spot.getTint();
 }
 
 } // namespace
@@ -207,15 +266,9 @@ bool AttributeTraits<ColorPtr>::parse(ColorPtr& value, std::u16string_view text)
 }
 
 Core::String AttributeTraits<ColorPtr>::print(ColorPtr const& value) {
-    Drawing::Color const* const color = value.get();
-    if (auto const* rgb = dynamic_cast<Drawing::RGBColor const*>(color))
-        return Core::joined(u"rgb("sv, rgb->getR(), u","sv, rgb->getG(), u","sv, rgb->getB(), u")"sv);
-    if (auto const* cmyk = dynamic_cast<Drawing::CMYKColor const*>(color))
-        return Core::joined(u"cmyk("sv, cmyk->getC(), u","sv, cmyk->getM(), u","sv, cmyk->getY(), u","sv, cmyk->getK(),
-                            u")"sv);
-    if (auto const* icc = dynamic_cast<Drawing::ICCColor const*>(color)) return printICC(*icc);
-    if (auto const* spot = dynamic_cast<Drawing::SpotColor const*>(color)) return printSpot(*spot);
-    return {};
+    Core::String text;
+    AnyColor::visit(value.get(), [&](auto const& color) { text = Xml::print(color); });
+    return text;
 }
 
 bool ColorParse::parseHexaColor(Core::String const& text, Target* target) {
@@ -254,29 +307,8 @@ void AttributeTraits<ColorPtr>::words(Words& out) {
 }
 
 void AttributeTraits<ColorPtr>::parts(ColorPtr const& value, Parts& out) {
-    Drawing::Color const* const color = value.get();
-    if (!color) {
-        out.add(u"kind") << u"no colour";
-        return;
-    }
-    if (auto const* const rgb = dynamic_cast<Drawing::RGBColor const*>(color)) {
-        out.add(u"kind") << u"RGB";
-        addColor(out, rgb->getR(), rgb->getG(), rgb->getB());
-    } else if (auto const* const cmyk = dynamic_cast<Drawing::CMYKColor const*>(color)) {
-        double const c = cmyk->getC(), m = cmyk->getM(), y = cmyk->getY(), k = cmyk->getK();
-        out.add(u"kind") << u"CMYK";
-        out.add(u"cmyk") << c << u" " << m << u" " << y << u" " << k;
-        out.rgb = shadeOf(c, k) << 16 | shadeOf(m, k) << 8 | shadeOf(y, k);
-    } else if (auto const* const icc = dynamic_cast<Drawing::ICCColor const*>(color)) {
-        out.add(u"kind") << u"ICC";
-        addColor(out, icc->getFallBackR(), icc->getFallBackG(), icc->getFallBackB());
-        if (auto const space = icc->getColorSpace()) out.add(u"profile") << space->getProfileName();
-        for (int i = 0; i < icc->getCount(); ++i) out.add(u"component") << icc->getColor(i);
-    } else if (auto const* const spot = dynamic_cast<Drawing::SpotColor const*>(color)) {
-        out.add(u"kind") << u"spot";
-        out.add(u"name") << spot->getColorName();
-        out.add(u"tint") << spot->getTint();
-    }
+    if (!value) out.add(u"kind") << u"no colour";
+    AnyColor::visit(value.get(), [&](auto const& color) { addParts(out, color); });
 }
 
 } // namespace Xml

@@ -27,6 +27,7 @@ bool AttributeTraits<BoxShadow>::parse(BoxShadow& value, std::u16string_view tex
 
 Core::String AttributeTraits<BoxShadow>::print(BoxShadow const& value) {
     std::u16string out;
+    out.reserve(64); // most shadows are shorter
     for (Length const& length : {value.getDx(), value.getDy(), value.getBlurRadius()}) {
         appendLength(out, length);
         out += u' ';

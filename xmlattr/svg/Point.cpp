@@ -11,6 +11,8 @@
 
 namespace Xml {
 
+using namespace std::string_view_literals;
+
 namespace {
 
 bool endsCoordinate(char16_t unit) {
@@ -69,12 +71,12 @@ bool AttributeTraits<Core::Vector<Point>>::parse(Core::Vector<Point>& value, std
 }
 
 Core::String AttributeTraits<Core::Vector<Point>>::print(Core::Vector<Point> const& value) {
+    constexpr std::size_t usual = 16; // code units of a point
     std::u16string out;
+    out.reserve(usual * value.size());
     for (Point const& point : value) {
-        if (!out.empty()) out += u',';
-        Core::appendShortest(out, point.x.pxSize());
-        out += u' ';
-        Core::appendShortest(out, point.y.pxSize());
+        std::u16string_view const separator = out.empty() ? u"" : u",";
+        Core::append(out, separator, point.x.pxSize(), u" "sv, point.y.pxSize());
     }
     return Core::String(std::move(out));
 }
