@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <type_traits>
 #include <typeinfo>
 
 namespace Xml {
@@ -157,43 +158,43 @@ bool store(bool (*read)(ColorPtr&, std::u16string_view), Core::String const& tex
     return true;
 }
 
-// Calls use() with the colour as what it is; nothing happens without a colour and for a class of somebody else. Nearly
-// every object is of one of the classes itself, which is seen much sooner than that it is of a derived one.
+// Calls use() with an object as the class that it is of; nothing happens without one, and for a class of somebody else.
+// Nearly every object is of one of the classes itself, which is seen much sooner than that it is of a derived one.
 template <class... Classes> struct OneOf {
-    template <class Use> static void visit(Drawing::Color const* color, Use use) {
-        if (!color) return;
-        auto const useAs = [&]<class Class>(Class const* object) {
-            if (object) use(*object);
-            return object != nullptr;
+    template <class Base, class Use> static void visit(SmartPtr<Base> const& object, Use use) {
+        if (!object) return;
+        Base const* const base = object.get();
+        std::type_info const* const type = &typeid(*base);
+        auto const useAs = [&]<class Class>(Class const* derived) {
+            if (derived) use(*derived);
+            return derived != nullptr;
         };
-        std::type_info const& type = typeid(*color);
-        (... || useAs(type == typeid(Classes) ? static_cast<Classes const*>(color) : nullptr)) ||
-            (... || useAs(dynamic_cast<Classes const*>(color)));
+        (... || useAs(type == &typeid(Classes) ? static_cast<Classes const*>(base) : nullptr)) ||
+            (... || useAs(dynamic_cast<Classes const*>(base)));
     }
 };
 using AnyColor = OneOf<Drawing::RGBColor, Drawing::CMYKColor, Drawing::ICCColor, Drawing::SpotColor>;
 
 Core::String print(Drawing::RGBColor const& color) {
-    return Core::joined(u"rgb("sv, color.getR(), u","sv, color.getG(), u","sv, color.getB(), u")"sv);
+    return Core::joined(u"rgb(", color.getR(), u",", color.getG(), u",", color.getB(), u")");
 }
 
 Core::String print(Drawing::CMYKColor const& color) {
-    return Core::joined(u"cmyk("sv, color.getC(), u","sv, color.getM(), u","sv, color.getY(), u","sv, color.getK(),
-                        u")"sv);
+    return Core::joined(u"cmyk(", color.getC(), u",", color.getM(), u",", color.getY(), u",", color.getK(), u")");
 }
 
 Core::String print(Drawing::ICCColor const& color) {
     SmartPtr<Drawing::ICCColorSpace> const space = color.getColorSpace();
     if (!space) return {};
-    auto const with = [&](auto... components) {
-        return Core::joined(u"rgb-icc("sv, color.getFallBackR(), u","sv, color.getFallBackG(), u","sv,
-                            color.getFallBackB(), u",#"sv, space->getProfileName(), u","sv, components..., u")"sv);
+    auto const with = [&](auto const&... components) {
+        return Core::joined(u"rgb-icc(", color.getFallBackR(), u",", color.getFallBackG(), u",", color.getFallBackB(),
+                            u",#", space->getProfileName(), u",", components..., u")");
     };
     float const first = color.getColor(0), second = color.getColor(1), third = color.getColor(2);
     switch (color.getCount()) {
     case 1: return with(first);
-    case 3: return with(first, u", "sv, second, u", "sv, third);
-    case 4: return with(first, u", "sv, second, u", "sv, third, u", "sv, color.getColor(3));
+    case 3: return with(first, u", ", second, u", ", third);
+    case 4: return with(first, u", ", second, u", ", third, u", ", color.getColor(3));
     }
     return {};
 }
@@ -201,19 +202,17 @@ Core::String print(Drawing::ICCColor const& color) {
 // Intended: an RGB end prints as cmyk(...) without its fourth number and a CMYK end as rgb(...)
 // without its black; readers of such texts rely on it.
 Core::String print(Drawing::SpotColor const& color) {
-    auto const function = color.getFunction();
-    auto const* const exponential = dynamic_cast<Drawing::ExponentialSpotColorFunction const*>(function.get());
-    if (!exponential) return {};
-    ColorPtr const end = exponential->getEndColor();
     Core::String text;
-    auto const with = [&](auto... pieces) {
-        text = Core::joined(u"spot-color("sv, color.getColorName(), u","sv, color.getTint(), u","sv, pieces...);
+    auto const with = [&](auto const&... pieces) {
+        text = Core::joined(u"spot-color(", color.getColorName(), u",", color.getTint(), u",", pieces...);
     };
-    OneOf<Drawing::RGBColor>::visit(end.get(), [&](Drawing::RGBColor const& rgb) {
-        with(u"cmyk("sv, rgb.getR(), u","sv, rgb.getG(), u","sv, rgb.getB(), u",))"sv);
-    });
-    OneOf<Drawing::CMYKColor>::visit(end.get(), [&](Drawing::CMYKColor const& cmyk) {
-        with(u"rgb("sv, cmyk.getC(), u","sv, cmyk.getM(), u","sv, cmyk.getY(), u"))"sv);
+    OneOf<Drawing::ExponentialSpotColorFunction>::visit(color.getFunction(), [&](auto const& function) {
+        OneOf<Drawing::RGBColor, Drawing::CMYKColor>::visit(function.getEndColor(), [&]<class End>(End const& end) {
+            if constexpr (std::is_same_v<End, Drawing::RGBColor>)
+                with(u"cmyk(", end.getR(), u",", end.getG(), u",", end.getB(), u",))");
+            else
+                with(u"rgb(", end.getC(), u",", end.getM(), u",", end.getY(), u"))");
+        });
     });
     return text;
 }
@@ -267,7 +266,7 @@ bool AttributeTraits<ColorPtr>::parse(ColorPtr& value, std::u16string_view text)
 
 Core::String AttributeTraits<ColorPtr>::print(ColorPtr const& value) {
     Core::String text;
-    AnyColor::visit(value.get(), [&](auto const& color) { text = Xml::print(color); });
+    AnyColor::visit(value, [&](auto const& color) { text = Xml::print(color); });
     return text;
 }
 
@@ -308,7 +307,7 @@ void AttributeTraits<ColorPtr>::words(Words& out) {
 
 void AttributeTraits<ColorPtr>::parts(ColorPtr const& value, Parts& out) {
     if (!value) out.add(u"kind") << u"no colour";
-    AnyColor::visit(value.get(), [&](auto const& color) { addParts(out, color); });
+    AnyColor::visit(value, [&](auto const& color) { addParts(out, color); });
 }
 
 } // namespace Xml

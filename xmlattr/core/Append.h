@@ -51,6 +51,13 @@ inline char16_t* write(char16_t* out, std::u16string_view text) {
     return std::copy(text.begin(), text.end(), out);
 }
 
+template <std::size_t size> constexpr std::size_t mostOf(char16_t const (&)[size]) {
+    return size - 1;
+}
+template <std::size_t size> char16_t* write(char16_t* out, char16_t const (&literal)[size]) {
+    return std::copy_n(literal, size - 1, out);
+}
+
 constexpr std::size_t mostOf(unsigned char) {
     return 3;
 }
@@ -76,28 +83,26 @@ char16_t* write(char16_t* out, Measure measure);
 // The same without the fast path: the reference from the standard library.
 char16_t* writeReference(char16_t* out, Measure measure);
 
-// Appends the pieces to the text. What is not very long is written on the stack first, so that the text grows once,
-// by no more than it needs.
-template <class... Pieces> void append(std::u16string& out, Pieces const&... pieces) {
-    auto const writeAll = [&](char16_t* end) {
+// Gives use() the text of the pieces, which is written on the stack unless it is very long.
+template <class Use, class... Pieces> auto useJoined(Use use, Pieces const&... pieces) {
+    auto const writeAll = [&](char16_t* const begin) {
+        char16_t* end = begin;
         ((end = write(end, pieces)), ...);
-        return end;
+        return use(std::u16string_view(begin, static_cast<std::size_t>(end - begin)));
     };
-    char16_t buffer[128];
-    std::size_t const size = out.size(), most = (mostOf(pieces) + ...);
-    if (most <= std::size(buffer)) {
-        out.append(buffer, static_cast<std::size_t>(writeAll(buffer) - buffer));
-    } else {
-        out.resize(size + most);
-        out.resize(static_cast<std::size_t>(writeAll(out.data() + size) - out.data()));
-    }
+    char16_t buffer[512];
+    std::size_t const most = (mostOf(pieces) + ...);
+    return writeAll(most <= std::size(buffer) ? buffer : std::u16string(most, u'\0').data());
+}
+
+// Appends the pieces to the text.
+template <class... Pieces> void append(std::u16string& out, Pieces const&... pieces) {
+    useJoined([&](std::u16string_view text) { out += text; }, pieces...);
 }
 
 // The pieces after each other.
 template <class... Pieces> String joined(Pieces const&... pieces) {
-    std::u16string out;
-    append(out, pieces...);
-    return String(std::move(out));
+    return useJoined([](std::u16string_view text) { return String(text); }, pieces...);
 }
 
 } // namespace Core

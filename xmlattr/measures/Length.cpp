@@ -8,8 +8,6 @@
 
 namespace Xml {
 
-using namespace std::string_view_literals;
-
 namespace {
 
 std::size_t rowOf(Length::Unit unit) {
@@ -93,7 +91,7 @@ bool AttributeTraits<DLength>::parse(DLength& value, std::u16string_view text) {
 
 Core::String AttributeTraits<DLength>::print(DLength const& value) {
     Length const first = value.getFirst(), second = value.getSecond();
-    return Core::joined(Core::Measure{first.getSize()}, wordOf(first), u" "sv, Core::Measure{second.getSize()},
+    return Core::joined(Core::Measure{first.getSize()}, wordOf(first), u" ", Core::Measure{second.getSize()},
                         wordOf(second));
 }
 

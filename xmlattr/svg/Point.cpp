@@ -11,8 +11,6 @@
 
 namespace Xml {
 
-using namespace std::string_view_literals;
-
 namespace {
 
 bool endsCoordinate(char16_t unit) {
@@ -74,10 +72,8 @@ Core::String AttributeTraits<Core::Vector<Point>>::print(Core::Vector<Point> con
     constexpr std::size_t usual = 16; // code units of a point
     std::u16string out;
     out.reserve(usual * value.size());
-    for (Point const& point : value) {
-        std::u16string_view const separator = out.empty() ? u"" : u",";
-        Core::append(out, separator, point.x.pxSize(), u" "sv, point.y.pxSize());
-    }
+    for (Point const& point : value) Core::append(out, point.x.pxSize(), u" ", point.y.pxSize(), u",");
+    if (!out.empty()) out.pop_back();
     return Core::String(std::move(out));
 }
 
