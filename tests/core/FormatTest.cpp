@@ -98,6 +98,24 @@ TEST(Format, EveryPrintedFloatReadsBackBitForBit) {
     }
 }
 
+TEST(Format, TheShortestTextsAreThoseOfTheStandardLibrary) {
+    auto const shortest = [](auto value) {
+        char buffer[32];
+        return std::string(std::begin(buffer), std::to_chars(buffer, std::end(buffer), value).ptr);
+    };
+    NumberTexts texts;
+    for (int i = 0; i < 300'000; ++i) {
+        // Thousandths and their neighbours, up to more than the fast path prints; then any float.
+        double const thousandths = (i * 167 - 16'700'000) / 1000.0;
+        float value = i < 200'000 ? static_cast<float>(thousandths) : texts.anyFloat();
+        if (i % 5 == 0) value = std::nextafter(value, 0.0f);
+        ASSERT_EQ(Format::toShortest(value).toUtf8(), shortest(value));
+        ASSERT_EQ(Format::toShortest(thousandths).toUtf8(), thousandths == static_cast<float>(thousandths)
+                                                                ? shortest(static_cast<float>(thousandths))
+                                                                : shortest(thousandths));
+    }
+}
+
 TEST(Format, AcceptsNumbersAndNothingElse) {
     struct Row {
         char16_t const* text;
