@@ -257,9 +257,9 @@ void addParts(Parts& out, Drawing::SpotColor const& spot) {
 
 bool AttributeTraits<ColorPtr>::parse(ColorPtr& value, std::u16string_view text) {
     if (text.starts_with(u'#')) return readHexa(value, text); // first, since it is the most frequent
-    if (text.starts_with(u"rgb-icc"sv)) return readICC(value, text);
+    if (text.starts_with(u"rgb"sv))
+        return text.substr(3).starts_with(u"-icc"sv) ? readICC(value, text) : Drawing::readRGB(value, text);
     if (text.starts_with(u"spot-color"sv)) return readSpot(value, text);
-    if (text.starts_with(u"rgb"sv)) return Drawing::readRGB(value, text);
     if (text.starts_with(u"cmyk"sv)) return Drawing::readCMYK(value, text);
     return readName(value, text);
 }
