@@ -61,10 +61,10 @@ char16_t* writeWhole(char16_t* out, unsigned int number) noexcept {
 char16_t* writeThousandths(char16_t* out, bool isNegative, std::uint64_t thousandths) noexcept {
     *out = u'-';
     out = writeWhole(out + isNegative, static_cast<unsigned int>(thousandths / 1000));
-    ThreeDigits const& fraction = threeDigits[thousandths % 1000];
+    auto const fraction = static_cast<unsigned int>(thousandths % 1000);
     *out = u'.';
-    std::copy_n(fraction.digits, 3, out + 1);
-    return thousandths % 1000 == 0 ? out : out + 4 - fraction.trailingZeros;
+    std::copy_n(threeDigits[fraction].digits, 3, out + 1);
+    return fraction == 0 ? out : out + 4 - threeDigits[fraction].trailingZeros;
 }
 
 // The shortest text that reads back. Up to the limit there is at most one number of thousandths that reads as the
@@ -73,6 +73,7 @@ char16_t* writeThousandths(char16_t* out, bool isNegative, std::uint64_t thousan
 template <class Float> char16_t* writeShortest(char16_t* out, Float value) noexcept {
     constexpr Float limit = 16384;
     if (std::abs(value) < limit) {
+        // NOLINTNEXTLINE(bugprone-incorrect-roundings): what is rounded wrongly does not read back
         auto const thousandths = static_cast<unsigned int>(double{std::abs(value)} * 1000 + 0.5);
         if (static_cast<Float>(thousandths / 1000.0) == std::abs(value))
             return writeThousandths(out, std::signbit(value), thousandths);
