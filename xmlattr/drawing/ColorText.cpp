@@ -69,15 +69,14 @@ bool readPlainRGB(std::u16string_view text, unsigned char (&values)[3]) {
         if (end - unit < 2) return false;
         int const number = takeDigits(unit, end);
         if (unit == start || unit == end) return false;
+        char16_t const delimiter = i < 2 ? u',' : u')';
         values[i] = static_cast<unsigned char>(number);
-        if (*unit == u'.' || *unit == u'%') {
-            auto percentage = static_cast<float>(number);
-            if (*unit == u'.') unit = Core::scanPlain(start, end, percentage);
-            if (!unit || unit == end || *unit != u'%') return false;
-            values[i] = ofPercentage(percentage);
-            ++unit;
-        }
-        if (unit == end || *unit != (i < 2 ? u',' : u')')) return false;
+        if (*unit == delimiter) continue;
+        auto percentage = static_cast<float>(number);
+        if (*unit == u'.') unit = Core::scanPlain(start, end, percentage);
+        if (!unit || end - unit < 2 || unit[0] != u'%' || unit[1] != delimiter) return false;
+        values[i] = ofPercentage(percentage);
+        ++unit;
     }
     return true;
 }
