@@ -77,7 +77,8 @@ char16_t* write(char16_t* out, double number);
 
 inline constexpr std::size_t longestMeasure = 336; // the largest double has 309 digits before its point
 inline std::size_t mostOf(Measure measure) {
-    return std::abs(measure.value) < 1e9 ? 15 : longestMeasure;
+    constexpr double floatLimit = 1e41; // more than a float, and than one as a percentage
+    return std::abs(measure.value) < floatLimit ? 46 : longestMeasure;
 }
 char16_t* write(char16_t* out, Measure measure);
 // The same without the fast path: the reference from the standard library.
