@@ -4,8 +4,10 @@
 // once and nothing is timed: scripts/count-instructions runs that in a simulated processor.
 #include "Allocations.h"
 #include "Floors.h"
+#include "Printers.h"
 #include "Workloads.h"
 
+#include "xmlattr/attributes/TXmlAttributeImpl.h" // int and float are no attributes of the shared library
 #include "xmlattr/xmlattr.h"
 
 #include <benchmark/benchmark.h>
@@ -90,6 +92,25 @@ public:
         return add("print", [this](std::size_t i) { benchmark::DoNotOptimize(values[i].getValueAsString()); });
     }
 
+    // The floor of printing, and {fmt}. What a pointer points to is of the class.
+    template <class Class = T> Suite& printedElsewhere() {
+        auto const value = [this](std::size_t i) -> Class const& {
+            if constexpr (std::is_same_v<Class, T>)
+                return *values[i];
+            else
+                return static_cast<Class const&>(**values[i]);
+        };
+        add("print-floor", [value](std::size_t i) {
+            static char buffer[1 << 14];
+            benchmark::DoNotOptimize(Floors::print(buffer, value(i)));
+            benchmark::ClobberMemory();
+        });
+#ifdef XMLATTR_BENCH_FMT
+        add("print-fmt", [value](std::size_t i) { benchmark::DoNotOptimize(Fmt::print(value(i))); });
+#endif
+        return *this;
+    }
+
     Suite& compares() {
         return add("isEqual", [this](std::size_t i) { benchmark::DoNotOptimize(values[i].isEqual(texts[i])); });
     }
@@ -150,18 +171,36 @@ template <class T> void keywordSuite(char const* name, Words const& words) {
 
 void registerAll() {
     using Path = Core::Vector<Xml::PathDataCommand>;
+    using Transforms = Core::Vector<Xml::Transform>;
+    using Points = Core::Vector<Xml::Point>;
     using Color = Core::SmartPtr<Drawing::Color>;
+    using namespace Drawing;
     suite<Path>("path-15k", mixedPath(15'000)).parses().floor("floor", readNumbers);
     suite<Path>("path-1m", mixedPath(1'000'000)).parses().floor("floor", readNumbers);
     suite<Path>("path-icons", iconPaths()).parses().floor("floor", readNumbers);
-    suite<Core::Vector<Xml::Transform>>("transform", transforms()).parses().floor("floor", readNumbers);
-    suite<Core::Vector<Xml::Point>>("points", pointLists()).parses().floor("floor", readNumbers).prints();
-    suite<Xml::Length>("length", numbersWith(lengthUnits)).parses().floor("floor", readNumbers).prints().compares();
+    suite<Transforms>("transform", transforms()).parses().floor("floor", readNumbers);
+    suite<Points>("points", pointLists()).parses().floor("floor", readNumbers).prints().printedElsewhere();
+    suite<Xml::Length>("length", numbersWith(lengthUnits))
+        .parses()
+        .floor("floor", readNumbers)
+        .prints()
+        .printedElsewhere()
+        .compares();
     suite<Xml::SLength>("slength", numbersWith(sLengthUnits)).parses().floor("floor", readNumbers).compares();
-    suite<Xml::LengthOrPercent>("length-or-percent", numbersWith(bareAndPercent)).parses().prints().compares();
-    suite<Color>("color-name", drawWords(colorNames)).parses().prints().compares();
+    suite<Xml::LengthOrPercent>("length-or-percent", numbersWith(bareAndPercent))
+        .parses()
+        .prints()
+        .printedElsewhere()
+        .compares();
+    suite<float>("number", numbersWith({""})).parses().prints().printedElsewhere();
+    suite<int>("integer", integers()).parses().prints().printedElsewhere();
+    suite<Color>("color-name", drawWords(colorNames)).parses().prints().printedElsewhere<RGBColor>().compares();
     suite<Color>("color-hex", hexColors()).parses().floor("floor", makeColor);
-    suite<Color>("color-rgb", rgbColors()).parses().floor("floor", readNumbers);
+    suite<Color>("color-rgb", rgbColors()).parses().floor("floor", readNumbers).prints().printedElsewhere<RGBColor>();
+    suite<Color>("color-cmyk", cmykColors()).parses().prints().printedElsewhere<CMYKColor>();
+    suite<Color>("color-icc", iccColors()).parses().prints().printedElsewhere<ICCColor>();
+    suite<Color>("color-spot", spotColors()).parses().prints().printedElsewhere<SpotColor>();
+    suite<Xml::BoxShadow>("box-shadow", shadows()).parses().prints().printedElsewhere();
     keywordSuite<Xml::BorderStyle>("keyword-border", borderStyles);
     keywordSuite<Xml::SDisplay>("keyword-display", displays);
 }

@@ -88,6 +88,12 @@ std::string call(Random& random, char const* name, std::initializer_list<std::st
     return text + ")";
 }
 
+std::string threeBytes(Random& random) {
+    std::string text = std::to_string(random.below(256));
+    for (int i = 0; i < 2; ++i) text += "," + std::to_string(random.below(256));
+    return text;
+}
+
 std::string transform(Random& random) {
     auto const small = [&] { return random.number(-3, 3); };
     auto const large = [&] { return random.number(-900, 900); };
@@ -176,6 +182,44 @@ Texts rgbColors() {
         bool const percent = random.chance(0.4);
         auto const component = [&] { return std::to_string(random.below(percent ? 101 : 256)) + (percent ? "%" : ""); };
         return "rgb(" + component() + "," + component() + "," + component() + ")";
+    });
+}
+
+Texts cmykColors() {
+    Random random;
+    return repeat(20000, [&] {
+        std::string text = "cmyk(";
+        for (char const* end : {",", ",", ",", ")"}) text += random.rounded(0, 1, 2) + end;
+        return text;
+    });
+}
+
+Texts iccColors() {
+    Random random;
+    return repeat(20000, [&] {
+        std::string text = "rgb-icc(" + threeBytes(random) + ",#Fogra39";
+        for (int i = 0; i < 4; ++i) text += "," + random.rounded(0, 1, 2);
+        return text + ")";
+    });
+}
+
+Texts spotColors() {
+    Random random;
+    return repeat(
+        20000, [&] { return "spot-color(Fogra39," + random.rounded(0, 1, 2) + ",rgb(" + threeBytes(random) + "))"; });
+}
+
+Texts integers() {
+    Random random;
+    return repeat(20000, [&] { return random.rounded(random.chance(0.15) ? -20 : 0, 10000, 0); });
+}
+
+Texts shadows() {
+    Random random;
+    return repeat(20000, [&] {
+        std::string text;
+        for (int i = 0; i < 3; ++i) text += random.rounded(-3, 20, 1) + random.oneOf(lengthUnits) + " ";
+        return text + "rgb(" + threeBytes(random) + ")";
     });
 }
 

@@ -18,6 +18,12 @@ Texts pointLists();
 Texts numbersWith(Words const& suffixes);
 Texts hexColors();
 Texts rgbColors();
+Texts cmykColors();
+// The name of the profile and of the ink is "Fogra39".
+Texts iccColors();
+Texts spotColors();
+Texts integers();
+Texts shadows();
 // Words drawn at random.
 Texts drawWords(Words const& words);
 

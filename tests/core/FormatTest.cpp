@@ -96,6 +96,24 @@ TEST(Format, EveryPrintedFloatReadsBackBitForBit) {
     }
 }
 
+TEST(Format, TheShortestTextsAreThoseOfTheStandardLibrary) {
+    auto const shortest = [](auto value) {
+        char buffer[32];
+        return std::string(std::begin(buffer), std::to_chars(buffer, std::end(buffer), value).ptr);
+    };
+    NumberTexts texts;
+    for (int i = 0; i < 300'000; ++i) {
+        // Thousandths and their neighbours, up to more than the fast path prints; then any float.
+        double const thousandths = (i * 167 - 16'700'000) / 1000.0;
+        float value = i < 200'000 ? static_cast<float>(thousandths) : texts.anyFloat();
+        if (i % 5 == 0) value = std::nextafter(value, 0.0f);
+        ASSERT_EQ(Format::toShortest(value).toUtf8(), shortest(value));
+        ASSERT_EQ(Format::toShortest(thousandths).toUtf8(), thousandths == static_cast<float>(thousandths)
+                                                                ? shortest(static_cast<float>(thousandths))
+                                                                : shortest(thousandths));
+    }
+}
+
 TEST(Format, AcceptsNumbersAndNothingElse) {
     struct Row {
         char16_t const* text;
@@ -204,12 +222,12 @@ TEST(Format, TheFastPathOfMeasuresPrintsLikeTheReference) {
     for (int i = 0; i < 300'000; ++i) {
         // Ties at every place, then floats of any size and percentages.
         double const value = i < 40'000 ? (i - 20'000) / 16.0 : texts.anyFloat() * (i % 2 ? 1.0 : 100.0);
-        std::u16string printed, reference;
-        appendMeasure(printed, value, u"pt ");
-        appendMeasure(printed, std::fmod(value, 2000));
-        appendMeasureReference(reference, value, u"pt ");
-        appendMeasureReference(reference, std::fmod(value, 2000));
-        ASSERT_EQ(printed, reference) << value;
+        for (Measure const measure : {Measure{value}, Measure{std::fmod(value, 2000)}}) {
+            char16_t printed[336], reference[336];
+            ASSERT_EQ(std::u16string(printed, write(printed, measure)),
+                      std::u16string(reference, writeReference(reference, measure)))
+                << measure.value;
+        }
     }
 }
 

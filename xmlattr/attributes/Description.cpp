@@ -20,17 +20,17 @@ Parts& Parts::operator<<(std::u16string_view text) {
 }
 
 Parts& Parts::operator<<(float number) {
-    Core::appendShortest(list.back().value, number);
+    Core::append(list.back().value, number);
     return *this;
 }
 
 Parts& Parts::operator<<(double number) {
-    Core::appendShortest(list.back().value, number);
+    Core::append(list.back().value, number);
     return *this;
 }
 
 Parts& Parts::operator<<(int number) {
-    Core::appendShortest(list.back().value, number);
+    Core::append(list.back().value, number);
     return *this;
 }
 

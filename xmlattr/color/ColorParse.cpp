@@ -12,6 +12,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <type_traits>
+#include <typeinfo>
 
 namespace Xml {
 
@@ -156,32 +158,63 @@ bool store(bool (*read)(ColorPtr&, std::u16string_view), Core::String const& tex
     return true;
 }
 
-Core::String printICC(Drawing::ICCColor const& color) {
+// Calls use() with an object as the class that it is of; nothing happens without one, and for a class of somebody else.
+// Nearly every object is of one of the classes itself, which is seen much sooner than that it is of a derived one.
+template <class... Classes> struct OneOf {
+    template <class Base, class Use> static void visit(SmartPtr<Base> const& object, Use use) {
+        if (!object) return;
+        Base const* const base = object.get();
+        std::type_info const* const type = &typeid(*base);
+        auto const useAs = [&]<class Class>(Class const* derived) {
+            if (derived) use(*derived);
+            return derived != nullptr;
+        };
+        (... || useAs(type == &typeid(Classes) ? static_cast<Classes const*>(base) : nullptr)) ||
+            (... || useAs(dynamic_cast<Classes const*>(base)));
+    }
+};
+using AnyColor = OneOf<Drawing::RGBColor, Drawing::CMYKColor, Drawing::ICCColor, Drawing::SpotColor>;
+
+Core::String print(Drawing::RGBColor const& color) {
+    return Core::joined(u"rgb(", color.getR(), u",", color.getG(), u",", color.getB(), u")");
+}
+
+Core::String print(Drawing::CMYKColor const& color) {
+    return Core::joined(u"cmyk(", color.getC(), u",", color.getM(), u",", color.getY(), u",", color.getK(), u")");
+}
+
+Core::String print(Drawing::ICCColor const& color) {
     SmartPtr<Drawing::ICCColorSpace> const space = color.getColorSpace();
     if (!space) return {};
-    Core::String const start =
-        Core::joined(u"rgb-icc("sv, color.getFallBackR(), u","sv, color.getFallBackG(), u","sv, color.getFallBackB(),
-                     u",#"sv, space->getProfileName(), u","sv, color.getColor(0));
-    if (color.getCount() == 1) return Core::joined(start, u")"sv);
-    Core::String const three = Core::joined(start, u", "sv, color.getColor(1), u", "sv, color.getColor(2));
-    if (color.getCount() == 3) return Core::joined(three, u")"sv);
-    if (color.getCount() == 4) return Core::joined(three, u", "sv, color.getColor(3), u")"sv);
+    auto const with = [&](auto const&... components) {
+        return Core::joined(u"rgb-icc(", color.getFallBackR(), u",", color.getFallBackG(), u",", color.getFallBackB(),
+                            u",#", space->getProfileName(), u",", components..., u")");
+    };
+    float const first = color.getColor(0), second = color.getColor(1), third = color.getColor(2);
+    switch (color.getCount()) {
+    case 1: return with(first);
+    case 3: return with(first, u", ", second, u", ", third);
+    case 4: return with(first, u", ", second, u", ", third, u", ", color.getColor(3));
+    }
     return {};
 }
 
-Core::String printSpot(Drawing::SpotColor const& color) {
-    auto const function = color.getFunction();
-    auto const* const exponential = dynamic_cast<Drawing::ExponentialSpotColorFunction const*>(function.get());
-    if (!exponential) return {};
-    // Intended: an RGB end prints as cmyk(...) without its fourth number and a CMYK end as rgb(...)
-    // without its black; readers of such texts rely on it.
-    Core::String const start = Core::joined(u"spot-color("sv, color.getColorName(), u","sv, color.getTint(), u","sv);
-    ColorPtr const end = exponential->getEndColor();
-    if (auto const* rgb = dynamic_cast<Drawing::RGBColor const*>(end.get()))
-        return Core::joined(start, u"cmyk("sv, rgb->getR(), u","sv, rgb->getG(), u","sv, rgb->getB(), u",))"sv);
-    if (auto const* cmyk = dynamic_cast<Drawing::CMYKColor const*>(end.get()))
-        return Core::joined(start, u"rgb("sv, cmyk->getC(), u","sv, cmyk->getM(), u","sv, cmyk->getY(), u"))"sv);
-    return {};
+// Intended: an RGB end prints as cmyk(...) without its fourth number and a CMYK end as rgb(...)
+// without its black; readers of such texts rely on it.
+Core::String print(Drawing::SpotColor const& color) {
+    Core::String text;
+    auto const with = [&](auto const&... pieces) {
+        text = Core::joined(u"spot-color(", color.getColorName(), u",", color.getTint(), u",", pieces...);
+    };
+    OneOf<Drawing::ExponentialSpotColorFunction>::visit(color.getFunction(), [&](auto const& function) {
+        OneOf<Drawing::RGBColor, Drawing::CMYKColor>::visit(function.getEndColor(), [&]<class End>(End const& end) {
+            if constexpr (std::is_same_v<End, Drawing::RGBColor>)
+                with(u"cmyk(", end.getR(), u",", end.getG(), u",", end.getB(), u",))");
+            else
+                with(u"rgb(", end.getC(), u",", end.getM(), u",", end.getY(), u"))");
+        });
+    });
+    return text;
 }
 
 void addColor(Parts& out, unsigned char r, unsigned char g, unsigned char b) {
@@ -195,27 +228,46 @@ std::uint32_t shadeOf(double ink, double black) {
     return static_cast<std::uint32_t>(std::lround(255 * light(ink) * light(black)));
 }
 
+void addParts(Parts& out, Drawing::RGBColor const& rgb) {
+    out.add(u"kind") << u"RGB";
+    addColor(out, rgb.getR(), rgb.getG(), rgb.getB());
+}
+
+void addParts(Parts& out, Drawing::CMYKColor const& cmyk) {
+    double const c = cmyk.getC(), m = cmyk.getM(), y = cmyk.getY(), k = cmyk.getK();
+    out.add(u"kind") << u"CMYK";
+    out.add(u"cmyk") << c << u" " << m << u" " << y << u" " << k;
+    out.rgb = shadeOf(c, k) << 16 | shadeOf(m, k) << 8 | shadeOf(y, k);
+}
+
+void addParts(Parts& out, Drawing::ICCColor const& icc) {
+    out.add(u"kind") << u"ICC";
+    addColor(out, icc.getFallBackR(), icc.getFallBackG(), icc.getFallBackB());
+    if (auto const space = icc.getColorSpace()) out.add(u"profile") << space->getProfileName();
+    for (int i = 0; i < icc.getCount(); ++i) out.add(u"component") << icc.getColor(i);
+}
+
+void addParts(Parts& out, Drawing::SpotColor const& spot) {
+    out.add(u"kind") << u"spot";
+    out.add(u"name") << spot.getColorName();
+    out.add(u"tint") << spot.getTint();
+}
+
 } // namespace
 
 bool AttributeTraits<ColorPtr>::parse(ColorPtr& value, std::u16string_view text) {
     if (text.starts_with(u'#')) return readHexa(value, text); // first, since it is the most frequent
-    if (text.starts_with(u"rgb-icc"sv)) return readICC(value, text);
+    if (text.starts_with(u"rgb"sv))
+        return text.substr(3).starts_with(u"-icc"sv) ? readICC(value, text) : Drawing::readRGB(value, text);
     if (text.starts_with(u"spot-color"sv)) return readSpot(value, text);
-    if (text.starts_with(u"rgb"sv)) return Drawing::readRGB(value, text);
     if (text.starts_with(u"cmyk"sv)) return Drawing::readCMYK(value, text);
     return readName(value, text);
 }
 
 Core::String AttributeTraits<ColorPtr>::print(ColorPtr const& value) {
-    Drawing::Color const* const color = value.get();
-    if (auto const* rgb = dynamic_cast<Drawing::RGBColor const*>(color))
-        return Core::joined(u"rgb("sv, rgb->getR(), u","sv, rgb->getG(), u","sv, rgb->getB(), u")"sv);
-    if (auto const* cmyk = dynamic_cast<Drawing::CMYKColor const*>(color))
-        return Core::joined(u"cmyk("sv, cmyk->getC(), u","sv, cmyk->getM(), u","sv, cmyk->getY(), u","sv, cmyk->getK(),
-                            u")"sv);
-    if (auto const* icc = dynamic_cast<Drawing::ICCColor const*>(color)) return printICC(*icc);
-    if (auto const* spot = dynamic_cast<Drawing::SpotColor const*>(color)) return printSpot(*spot);
-    return {};
+    Core::String text;
+    AnyColor::visit(value, [&](auto const& color) { text = Xml::print(color); });
+    return text;
 }
 
 bool ColorParse::parseHexaColor(Core::String const& text, Target* target) {
@@ -254,29 +306,8 @@ void AttributeTraits<ColorPtr>::words(Words& out) {
 }
 
 void AttributeTraits<ColorPtr>::parts(ColorPtr const& value, Parts& out) {
-    Drawing::Color const* const color = value.get();
-    if (!color) {
-        out.add(u"kind") << u"no colour";
-        return;
-    }
-    if (auto const* const rgb = dynamic_cast<Drawing::RGBColor const*>(color)) {
-        out.add(u"kind") << u"RGB";
-        addColor(out, rgb->getR(), rgb->getG(), rgb->getB());
-    } else if (auto const* const cmyk = dynamic_cast<Drawing::CMYKColor const*>(color)) {
-        double const c = cmyk->getC(), m = cmyk->getM(), y = cmyk->getY(), k = cmyk->getK();
-        out.add(u"kind") << u"CMYK";
-        out.add(u"cmyk") << c << u" " << m << u" " << y << u" " << k;
-        out.rgb = shadeOf(c, k) << 16 | shadeOf(m, k) << 8 | shadeOf(y, k);
-    } else if (auto const* const icc = dynamic_cast<Drawing::ICCColor const*>(color)) {
-        out.add(u"kind") << u"ICC";
-        addColor(out, icc->getFallBackR(), icc->getFallBackG(), icc->getFallBackB());
-        if (auto const space = icc->getColorSpace()) out.add(u"profile") << space->getProfileName();
-        for (int i = 0; i < icc->getCount(); ++i) out.add(u"component") << icc->getColor(i);
-    } else if (auto const* const spot = dynamic_cast<Drawing::SpotColor const*>(color)) {
-        out.add(u"kind") << u"spot";
-        out.add(u"name") << spot->getColorName();
-        out.add(u"tint") << spot->getTint();
-    }
+    if (!value) out.add(u"kind") << u"no colour";
+    AnyColor::visit(value, [&](auto const& color) { addParts(out, color); });
 }
 
 } // namespace Xml

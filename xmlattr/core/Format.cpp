@@ -12,7 +12,6 @@
 #include <cmath>
 #include <cstdint>
 #include <iterator>
-#include <type_traits>
 
 namespace Core {
 
@@ -52,19 +51,33 @@ Integer scanInteger(std::u16string_view text) noexcept {
     return {static_cast<int>(negative ? -magnitude : magnitude), fits, unit};
 }
 
-void append(std::u16string& out, char const* begin, char const* end, std::u16string_view suffix = {}) {
-    // Filled in place, so that the string grows once: appending units of another type would make a second one.
-    std::size_t const size = out.size();
-    out.append(static_cast<std::size_t>(end - begin) + suffix.size(), u'\0');
-    std::copy(suffix.begin(), suffix.end(), std::copy(begin, end, out.data() + size));
+char16_t* writeWhole(char16_t* out, unsigned int number) noexcept {
+    if (number < 1000) return writeBelow1000(out, number);
+    out = writeWhole(out, number / 1000);
+    return std::copy_n(threeDigits[number % 1000].digits, 3, out);
 }
 
-template <class T> void appendNumber(std::u16string& out, T value) {
-    char buffer[32];
-    append(out, buffer, std::to_chars(buffer, std::end(buffer), value).ptr);
+// Thousandths without trailing zeros.
+char16_t* writeThousandths(char16_t* out, bool isNegative, std::uint64_t thousandths) noexcept {
+    *out = u'-';
+    out = writeWhole(out + isNegative, static_cast<unsigned int>(thousandths / 1000));
+    auto const fraction = static_cast<unsigned int>(thousandths % 1000);
+    *out = u'.';
+    std::copy_n(threeDigits[fraction].digits, 3, out + 1);
+    return fraction == 0 ? out : out + 4 - threeDigits[fraction].trailingZeros;
 }
 
-template <class T> char16_t* writeNumber(char16_t* out, T value) {
+// The shortest text that reads back. Up to the limit there is at most one number of thousandths that reads as the
+// value, since floats are closer to each other than these; it has fewer digits than every other number that does, and
+// no more characters than with an exponent ("1e+04").
+template <class Float> char16_t* writeShortest(char16_t* out, Float value) noexcept {
+    constexpr Float limit = 16384;
+    if (std::abs(value) < limit) {
+        // NOLINTNEXTLINE(bugprone-incorrect-roundings): what is rounded wrongly does not read back
+        auto const thousandths = static_cast<unsigned int>(double{std::abs(value)} * 1000 + 0.5);
+        if (static_cast<Float>(thousandths / 1000.0) == std::abs(value))
+            return writeThousandths(out, std::signbit(value), thousandths);
+    }
     char buffer[32];
     return std::copy(buffer, std::to_chars(buffer, std::end(buffer), value).ptr, out);
 }
@@ -73,38 +86,12 @@ bool isFloat(double value) {
     return std::abs(value) <= FLT_MAX && static_cast<float>(value) == value;
 }
 
-// What an appending function makes of nothing.
-template <class... Arguments>
-String print(void (*append)(std::u16string&, Arguments...), std::type_identity_t<Arguments>... arguments) {
-    std::u16string out;
-    append(out, arguments...);
-    return String(std::move(out));
-}
-
 // Whether 1000 times the value is a double without rounding and below 2^53. 1000 has ten bits, so
 // that the product has at most 53 when the value lacks the last ten of its own. Every float does,
 // and 100 times a float, as percentages are printed.
 bool hasExactThousandths(double value) noexcept {
     constexpr std::uint64_t lastTenBits = 0x3FF;
     return std::abs(value) < 1e9 && (std::bit_cast<std::uint64_t>(value) & lastTenBits) == 0;
-}
-
-// Writes a value with exact thousandths as the pattern "0.###" does and gives the end. The one
-// rounding is that of an exact product to an integer, ties to even.
-char* printThousandths(char* out, double value) noexcept {
-    double const exact = std::abs(value) * 1000;
-    auto thousandths = static_cast<std::int64_t>(exact);
-    double const rest = exact - static_cast<double>(thousandths);
-    thousandths += rest > 0.5 || (rest == 0.5 && thousandths % 2 != 0);
-
-    if (value < 0 && thousandths != 0) *out++ = '-';
-    out = std::to_chars(out, out + 12, thousandths / 1000).ptr;
-    auto const fraction = static_cast<int>(thousandths % 1000);
-    if (fraction == 0) return out;
-    *out++ = '.';
-    for (int left = fraction, place = 100; left != 0; left %= place, place /= 10)
-        *out++ = static_cast<char>('0' + left / place);
-    return out;
 }
 
 } // namespace
@@ -158,72 +145,51 @@ bool Format::parseHexInt(std::u16string_view text, int& value) noexcept {
     return true;
 }
 
-void appendMeasure(std::u16string& out, double value, std::u16string_view suffix) {
-    if (!hasExactThousandths(value)) return appendMeasureReference(out, value, suffix);
-    char buffer[24];
-    append(out, buffer, printThousandths(buffer, value), suffix);
+char16_t* write(char16_t* out, int number) {
+    *out = u'-';
+    auto const magnitude = static_cast<unsigned int>(number);
+    return writeWhole(out + (number < 0), number < 0 ? 0 - magnitude : magnitude);
 }
 
-void appendMeasureReference(std::u16string& out, double value, std::u16string_view suffix) {
-    // The largest double has 309 digits before its point.
-    char buffer[336];
-    char* end = std::to_chars(buffer, std::end(buffer), value, std::chars_format::fixed, 3).ptr;
-    if (std::isfinite(value)) {
+char16_t* write(char16_t* out, double number) {
+    return isFloat(number) ? writeShortest(out, static_cast<float>(number)) : writeShortest(out, number);
+}
+
+// The one rounding is that of an exact product to an integer, ties to even.
+char16_t* write(char16_t* out, Measure measure) {
+    if (!hasExactThousandths(measure.value)) return writeReference(out, measure);
+    double const exact = std::abs(measure.value) * 1000;
+    auto thousandths = static_cast<std::uint64_t>(exact);
+    double const rest = exact - static_cast<double>(thousandths);
+    thousandths += rest > 0.5 || (rest == 0.5 && thousandths % 2 != 0);
+    return writeThousandths(out, measure.value < 0 && thousandths != 0, thousandths);
+}
+
+char16_t* writeReference(char16_t* out, Measure measure) {
+    char buffer[longestMeasure];
+    char* end = std::to_chars(buffer, std::end(buffer), measure.value, std::chars_format::fixed, 3).ptr;
+    if (std::isfinite(measure.value)) {
         while (end[-1] == '0') --end;
         if (end[-1] == '.') --end;
     }
     bool const isMinusZero = end - buffer == 2 && buffer[0] == '-' && buffer[1] == '0';
-    append(out, isMinusZero ? buffer + 1 : buffer, end, suffix);
-}
-
-void appendShortest(std::u16string& out, float value) {
-    appendNumber(out, value);
-}
-
-void appendShortest(std::u16string& out, double value) {
-    if (isFloat(value))
-        appendNumber(out, static_cast<float>(value));
-    else
-        appendNumber(out, value);
-}
-
-void appendShortest(std::u16string& out, int value) {
-    appendNumber(out, value);
-}
-
-char16_t* write(char16_t* out, std::u16string_view text) {
-    return std::copy(text.begin(), text.end(), out);
-}
-
-char16_t* write(char16_t* out, unsigned char number) {
-    if (number >= 100) *out++ = static_cast<char16_t>(u'0' + number / 100);
-    if (number >= 10) *out++ = static_cast<char16_t>(u'0' + number / 10 % 10);
-    *out++ = static_cast<char16_t>(u'0' + number % 10);
-    return out;
-}
-
-char16_t* write(char16_t* out, int number) {
-    return writeNumber(out, number);
-}
-
-char16_t* write(char16_t* out, double number) {
-    return isFloat(number) ? writeNumber(out, static_cast<float>(number)) : writeNumber(out, number);
+    return std::copy(isMinusZero ? buffer + 1 : buffer, end, out);
 }
 
 String Format::toMeasure(double value, std::u16string_view suffix) {
-    return print(appendMeasure, value, suffix);
+    return joined(Measure{value}, suffix);
 }
 
 String Format::toShortest(float value) {
-    return print<float>(appendShortest, value);
+    return joined(double{value});
 }
 
 String Format::toShortest(double value) {
-    return print<double>(appendShortest, value);
+    return joined(value);
 }
 
 String Format::toShortest(int value) {
-    return print<int>(appendShortest, value);
+    return joined(value);
 }
 
 } // namespace Core

@@ -31,6 +31,9 @@ inline constexpr int maxMantissaDigits = 19;
 // Up to here, every integer is a double.
 inline constexpr std::uint64_t largestExactInteger = std::uint64_t{1} << 53;
 
+// So many digits make an integer that is a double.
+inline constexpr std::size_t exactDigits = 15;
+
 // Whether a double lies halfway between two floats. When it is itself rounded, the rounding may have
 // brought it there, and the tie would be broken without knowing from which side.
 constexpr bool isHalfwayBetweenFloats(double value) noexcept {
@@ -47,19 +50,24 @@ inline char16_t const* scanPlain(char16_t const* unit, char16_t const* end, floa
     if (unit == end) return nullptr;
     bool const negative = *unit == u'-';
     unit += negative || *unit == u'+';
-    char16_t const* const whole = unit;
     std::uint64_t mantissa = 0; // overflows harmlessly when there are too many digits
-    for (; unit != end && isDigit(*unit); ++unit) mantissa = mantissa * 10 + (*unit - u'0');
-    std::ptrdiff_t digits = unit - whole;
-    std::ptrdiff_t decimals = 0;
+    auto const takeDigits = [&] {
+        char16_t const* const start = unit;
+        for (; unit != end; ++unit) {
+            unsigned int const digit = *unit - u'0';
+            if (digit > 9) break;
+            mantissa = mantissa * 10 + digit;
+        }
+        return static_cast<std::size_t>(unit - start);
+    };
+    std::size_t digits = takeDigits(), decimals = 0;
     if (unit != end && *unit == u'.') {
-        char16_t const* const fraction = ++unit;
-        for (; unit != end && isDigit(*unit); ++unit) mantissa = mantissa * 10 + (*unit - u'0');
-        decimals = unit - fraction;
+        ++unit;
+        decimals = takeDigits();
         if (decimals == 0) return nullptr;
         digits += decimals;
     }
-    if (digits == 0 || digits > maxMantissaDigits || mantissa > largestExactInteger) return nullptr;
+    if (digits - 1 >= exactDigits) return nullptr; // none, or too many
     // The quotient of two exact doubles: rounded once, and far within the range of a float.
     double const scaled = static_cast<double>(static_cast<std::int64_t>(mantissa)) / powersOfTen[decimals];
     if (isHalfwayBetweenFloats(scaled)) return nullptr;

@@ -10,8 +10,6 @@
 
 namespace Core {
 
-using namespace std::string_view_literals;
-
 namespace {
 
 struct Overrides {
@@ -40,7 +38,7 @@ String OSInfo::getSystemColor(std::u16string_view name) {
     auto const rgb = WordTable<systemColors, Case::Any>::find(name);
     if (!rgb) return {};
     auto const component = [&](int shift) { return *rgb >> shift & 0xFF; };
-    return joined(u"rgb("sv, component(16), u","sv, component(8), u","sv, component(0), u")"sv);
+    return joined(u"rgb(", component(16), u",", component(8), u",", component(0), u")");
 }
 
 void OSInfo::setSystemColor(std::u16string_view name, std::u16string_view color) {

@@ -35,15 +35,15 @@ Placeholder readPlaceholder(std::u16string_view text) {
 }
 
 // Texts print as they are, numbers by the pattern.
-void append(std::u16string& out, StringFormatStream::Argument const& argument, bool isMeasure) {
+void appendArgument(std::u16string& out, StringFormatStream::Argument const& argument, bool isMeasure) {
     std::visit(
         [&](auto const& value) {
             if constexpr (std::is_convertible_v<decltype(value), std::u16string_view>)
                 out += value;
             else if (isMeasure)
-                appendMeasure(out, value);
+                append(out, Measure{static_cast<double>(value)});
             else
-                appendShortest(out, value);
+                append(out, value);
         },
         argument);
 }
@@ -83,7 +83,7 @@ String StringFormatStream::getString() const {
         if (placeholder.length == 0)
             out += rest.front();
         else if (placeholder.index < arguments.size())
-            append(out, arguments[placeholder.index], placeholder.isMeasure);
+            appendArgument(out, arguments[placeholder.index], placeholder.isMeasure);
         rest.remove_prefix(std::max<std::size_t>(placeholder.length, 1));
     }
     return String(std::move(out));

@@ -40,6 +40,22 @@ bool readRGBComponent(std::u16string_view text, unsigned char& value) {
     return true;
 }
 
+// Takes up to three digits, with at least two code units left. How many digits there are cannot be predicted, and
+// needs no branch here.
+int takeDigits(char16_t const*& unit, char16_t const* end) {
+    int number = 0, taken = 0, isDigit = 1;
+    auto const take = [&](char16_t next) {
+        isDigit &= int{Core::isDigit(next)};
+        taken += isDigit;
+        number += isDigit * (number * 9 + next - u'0');
+    };
+    take(unit[0]);
+    take(unit[1]);
+    take(end - unit > 2 ? unit[2] : u'\0');
+    unit += taken;
+    return number;
+}
+
 // Reads the components in one pass, without cutting them out first. Takes only what readRGBComponent
 // takes in the same way: few digits, which are the number whether it is read as an int or a float, or
 // a plain number directly before a "%"; then the delimiter. False when there is anything else.
@@ -50,18 +66,17 @@ bool readPlainRGB(std::u16string_view text, unsigned char (&values)[3]) {
         if (unit != end) ++unit; // the delimiter before the component
         while (unit != end && Core::isSpace(*unit)) ++unit;
         char16_t const* const start = unit;
-        int number = 0;
-        while (unit != end && unit - start < 4 && Core::isDigit(*unit)) number = number * 10 + (*unit++ - u'0');
+        if (end - unit < 2) return false;
+        int const number = takeDigits(unit, end);
         if (unit == start || unit == end) return false;
+        char16_t const delimiter = i < 2 ? u',' : u')';
         values[i] = static_cast<unsigned char>(number);
-        if (*unit == u'.' || *unit == u'%') {
-            auto percentage = static_cast<float>(number);
-            if (*unit == u'.') unit = Core::scanPlain(start, end, percentage);
-            if (!unit || unit == end || *unit != u'%') return false;
-            values[i] = ofPercentage(percentage);
-            ++unit;
-        }
-        if (unit == end || *unit != (i < 2 ? u',' : u')')) return false;
+        if (*unit == delimiter) continue;
+        auto percentage = static_cast<float>(number);
+        if (*unit == u'.') unit = Core::scanPlain(start, end, percentage);
+        if (!unit || end - unit < 2 || unit[0] != u'%' || unit[1] != delimiter) return false;
+        values[i] = ofPercentage(percentage);
+        ++unit;
     }
     return true;
 }

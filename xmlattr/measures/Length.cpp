@@ -16,10 +16,14 @@ std::size_t rowOf(Length::Unit unit) {
     throw Core::UnreacheableCodeException("LengthAttribute", __LINE__);
 }
 
+std::u16string_view wordOf(Length const& length) {
+    return Units::word(rowOf(length.getUnit()));
+}
+
 } // namespace
 
 void appendLength(std::u16string& out, Length const& length) {
-    Core::appendMeasure(out, length.getSize(), Units::word(rowOf(length.getUnit())));
+    Core::append(out, Core::Measure{length.getSize()}, wordOf(length));
 }
 
 float Length::pxSize() const {
@@ -43,9 +47,7 @@ bool Length::parseLength(Length& out, Core::String const& text) {
 }
 
 Core::String Length::getValueAsString(Length const& length) {
-    std::u16string out;
-    appendLength(out, length);
-    return Core::String(std::move(out));
+    return Core::joined(Core::Measure{length.getSize()}, wordOf(length));
 }
 
 bool AttributeTraits<Length>::parse(Length& value, std::u16string_view text) {
@@ -88,13 +90,9 @@ bool AttributeTraits<DLength>::parse(DLength& value, std::u16string_view text) {
 }
 
 Core::String AttributeTraits<DLength>::print(DLength const& value) {
-    constexpr std::size_t longest = 45; // a sign, 39 digits, a point, the unit and some room
-    std::u16string out;
-    out.reserve(2 * longest);
-    appendLength(out, value.getFirst());
-    out += u' ';
-    appendLength(out, value.getSecond());
-    return Core::String(std::move(out));
+    Length const first = value.getFirst(), second = value.getSecond();
+    return Core::joined(Core::Measure{first.getSize()}, wordOf(first), u" ", Core::Measure{second.getSize()},
+                        wordOf(second));
 }
 
 void AttributeTraits<Length>::parts(Length const& value, Parts& out) {

@@ -27,11 +27,12 @@ bool AttributeTraits<BoxShadow>::parse(BoxShadow& value, std::u16string_view tex
 
 Core::String AttributeTraits<BoxShadow>::print(BoxShadow const& value) {
     std::u16string out;
-    for (Length const& length : {value.getDx(), value.getDy(), value.getBlurRadius()}) {
-        appendLength(out, length);
+    out.reserve(64); // most shadows are shorter
+    for (Length const* length : {&value.dx, &value.dy, &value.blurRadius}) {
+        appendLength(out, *length);
         out += u' ';
     }
-    out += ColorParse::getColorAsString(value.getColor());
+    out += AttributeTraits<SmartPtr<Drawing::Color>>::print(value.color);
     return Core::String(std::move(out));
 }
 

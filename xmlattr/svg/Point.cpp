@@ -69,13 +69,11 @@ bool AttributeTraits<Core::Vector<Point>>::parse(Core::Vector<Point>& value, std
 }
 
 Core::String AttributeTraits<Core::Vector<Point>>::print(Core::Vector<Point> const& value) {
+    constexpr std::size_t usual = 16; // code units of a point
     std::u16string out;
-    for (Point const& point : value) {
-        if (!out.empty()) out += u',';
-        Core::appendShortest(out, point.x.pxSize());
-        out += u' ';
-        Core::appendShortest(out, point.y.pxSize());
-    }
+    out.reserve(usual * value.size());
+    for (Point const& point : value) Core::append(out, point.x.pxSize(), u" ", point.y.pxSize(), u",");
+    if (!out.empty()) out.pop_back();
     return Core::String(std::move(out));
 }
 
