@@ -3,8 +3,10 @@
 #include "running/FileRun.h"
 #include "running/OrderedQueue.h"
 #include "running/Progress.h"
+#include "running/Relay.h"
 #include "running/Stop.h"
 #include "tools/RunCommand.h"
+#include "xml/Encoding.h"
 
 #include <gtest/gtest.h>
 
@@ -13,6 +15,7 @@
 #include <csignal>
 #include <cstdio>
 #include <random>
+#include <stdexcept>
 #include <string>
 #include <sys/stat.h>
 #include <thread>
@@ -142,6 +145,58 @@ TEST(Check, SaysTheSameOnSeveralThreads) {
     }
     run("check -j 4 " + scratch + "/many 2>" + scratch + "/unread | head -n 1 >/dev/null");
     EXPECT_EQ(contentOf(scratch + "/unread"), "") << "nobody reads any more";
+}
+
+// What a second thread is told of, and what the handler has to hear at once, mixed and longer than a few batches.
+TEST(Check, SaysTheSameOfALargeFileReadOnAThreadOfItsOwn) {
+    std::string const parts[] = {"<g transform='translate(-1-1)' id='a' q:x='1' xml:lang='de'>\r\n</g>",
+                                 "<path d='M1 1l.5.5 &#65;&known;&other;'/>",
+                                 "<use xlink:href='#nobody'/><text style='stroke-width:1,5px'>é</text>",
+                                 "&element;&missing;",
+                                 "<x:if xmlns:x='http://www.w3.org/1999/XSL/Transform' test='1'><rect width='{$w}' "
+                                 "x='q'><x:attribute name='height'>1 2</x:attribute></rect></x:if>",
+                                 "<polyline points='" + std::string(300'000, '1') + " 2 q'/>",
+                                 "<svg xmlns='http://www.w3.org/2000/svg' widht='1'><circle id='a' r='-1'/></svg>"};
+    std::mt19937 random(3);
+    for (std::string const subset : {"", "%other;"}) {
+        std::string document = "<!DOCTYPE svg [<!ENTITY % other SYSTEM 'none'><!ENTITY known 'z'>"
+                               "<!ENTITY missing SYSTEM 'q'><!ENTITY other 'y'><!ENTITY element '<g clas=\"1\"/>'>" +
+                               subset +
+                               "]>\n<svg xmlns='http://www.w3.org/2000/svg' xmlns:q='q' "
+                               "xmlns:xlink='http://www.w3.org/1999/xlink'>";
+        while (document.size() < 2 << 20) {
+            std::size_t const rare = random() % 2000;
+            document += parts[rare < std::size(parts) ? rare : random() % 3] + "\n";
+        }
+        for (ByteEncoding const encoding : {ByteEncoding::Utf8, ByteEncoding::Utf16Little}) {
+            bool const isUtf8 = encoding == ByteEncoding::Utf8;
+            std::string const text = isUtf8 ? document + "</svg>" : "\uFEFF" + document + "</q>";
+            std::string const file = write("large.svg", encode(decode(text, ByteEncoding::Utf8), encoding));
+            Result const one = run("check --format html --show not-covered -j 1 " + file);
+            Result const two = run("check --format html --show not-covered -j 2 " + file);
+            EXPECT_GT(one.output.size(), 1u << 20) << one.errors;
+            EXPECT_TRUE(one.output == two.output);
+            EXPECT_EQ(one.errors, two.errors);
+            EXPECT_EQ(one.code, two.code);
+        }
+    }
+}
+
+TEST(Relay, ThrowsWhatTheHandlerThrew) {
+    struct Failing : XmlHandler {
+        int told = 0;
+        void startElement(XmlElement const&, Tag&) override {
+            if (++told == 3) throw std::runtime_error("enough");
+        }
+    };
+    std::string document = "<a>";
+    while (document.size() < 9 << 20) document += "<b/>";
+    Failing handler;
+    Relay relay(handler);
+    relay.start();
+    MemorySource source(document);
+    EXPECT_THROW(readXml(source, relay), std::runtime_error);
+    EXPECT_EQ(handler.told, 3);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "running/FileRun.h"
 
 #include "running/OrderedQueue.h"
+#include "running/Relay.h"
 #include "running/Stop.h"
 
 #include <algorithm>
@@ -20,6 +21,8 @@ namespace {
 // Of findings that wait for the files before theirs.
 constexpr std::size_t mostWaiting = 16 << 20;
 constexpr std::chrono::milliseconds patience(50);
+// Of a file that was read before a second thread is worth its start.
+constexpr std::uint64_t relayedFrom = 1 << 20;
 
 constexpr std::string_view stopped = "stopped"; // the failure of a file at whose end nobody waited any more
 
@@ -33,30 +36,60 @@ std::string_view remedyFor(std::string_view failure) {
 
 // What the threads of a run share.
 struct Shared {
-    std::atomic<std::size_t> next = 0; // file that nobody has begun
+    std::atomic<std::int64_t> spareThreads = 0; // that may be started yet
+    std::atomic<std::size_t> next = 0;          // file that nobody has begun
     std::atomic<std::uint64_t> bytes = 0, wanted = 0;
     std::atomic<bool> isStopping = false;
+};
+
+// A thread beside that which reads a file, where the run has one to spare.
+class SecondThread {
+public:
+    SecondThread(Shared& shared, Relay& relay) : shared(shared), relay(relay) {}
+    SecondThread(SecondThread const&) = delete;
+    SecondThread& operator=(SecondThread const&) = delete;
+    ~SecondThread() {
+        if (relay.isStarted()) ++shared.spareThreads;
+    }
+
+    void tryStart() {
+        if (relay.isStarted() || shared.spareThreads <= 0) return;
+        bool const isMine = shared.spareThreads-- > 0;
+        try {
+            if (isMine) return relay.start();
+        } catch (std::system_error const&) { // the machine has no more threads
+        }
+        ++shared.spareThreads;
+    }
+
+private:
+    Shared& shared;
+    Relay& relay;
 };
 
 // Counts the bytes, and fails when the run is to end.
 class WatchedSource final : public ByteSource {
 public:
-    WatchedSource(std::FILE* file, Shared& shared) : file(file), shared(shared) {}
+    WatchedSource(std::FILE* file, Shared& shared, Relay& relay) : file(file), shared(shared), second(shared, relay) {}
 
     std::size_t read(std::span<char> buffer) override {
         if (shared.isStopping) {
             failed = SourceFailure{stopped, ""};
             return 0;
         }
+        if (bytes >= relayedFrom) second.tryStart();
         std::size_t const count = file.read(buffer);
         failed = file.failure();
+        bytes += count;
         shared.bytes += count;
         return count;
     }
 
 private:
     FileSource file;
+    std::uint64_t bytes = 0;
     Shared& shared;
+    SecondThread second;
 };
 
 struct End {
@@ -82,7 +115,9 @@ public:
     Run(std::span<FileJob const> jobs, std::uint64_t threads, RunListener& listener)
         : jobs(jobs), listener(listener), queue(mostWaiting) {
         shared.wanted = listener.wanted();
-        for (std::size_t i = 0; i < std::min<std::uint64_t>(threads, jobs.size()); ++i) {
+        std::uint64_t const mostWorkers = std::min<std::uint64_t>(threads, jobs.size());
+        shared.spareThreads = static_cast<std::int64_t>(std::min<std::uint64_t>(threads, INT32_MAX) - mostWorkers);
+        for (std::size_t i = 0; i < mostWorkers; ++i) {
             try {
                 workers.emplace_back([this] { work(); });
             } catch (std::system_error const&) {
@@ -132,6 +167,7 @@ private:
             }
             queue.put(number, std::move(end), sizeof(Told), true);
         }
+        ++shared.spareThreads;
     }
 
     void check(std::size_t number, End& end) {
@@ -161,8 +197,10 @@ private:
         OpenFile const opened(job.path == "-" ? stdin : std::fopen(job.path.c_str(), "rb"));
         std::optional<XmlFailure>& failure = end.file.failure;
         if (opened) {
-            WatchedSource source(opened.get(), shared);
-            failure = readXml(source, checker);
+            Relay relay(checker);
+            WatchedSource source(opened.get(), shared, relay);
+            failure = readXml(source, relay);
+            relay.settle();
         } else {
             failure = XmlFailure{"unreadable",
                                  "cannot be read: " + std::generic_category().message(errno) +

@@ -194,8 +194,7 @@ private:
             split(attribute.space, attribute.name);
         }
         element.attributes = attributes;
-        hasTag = false;
-        last = {};
+        renew();
         guarded([&] {
             handler.startElement(element, *this);
             if (content)
@@ -259,24 +258,15 @@ private:
         name.remove_prefix(at + 1);
     }
 
-    RawTag& raw() override {
-        if (hasTag) return tag;
-        hasTag = true;
+    TagSource source() override {
         int const count = XML_GetCurrentByteCount(parser.get()); // 0 inside of an entity
         std::string_view const rest = bytesFromHere();
         bool const isHere = count >= 0 && static_cast<std::size_t>(count) <= rest.size();
-        std::string_view const bytes = isHere ? rest.substr(0, static_cast<std::size_t>(count)) : std::string_view();
-        tag = RawTag(decode(bytes, encoding), here());
-        return tag;
+        return {isHere ? rest.substr(0, static_cast<std::size_t>(count)) : std::string_view(),
+                {byteOffset(), encoding},
+                here(),
+                hasUnreadDeclarations ? &knownEntities : nullptr};
     }
-
-    bool isWhole(std::size_t attribute) override {
-        if (!hasUnreadDeclarations) return true;
-        if (last.attribute != attribute) last = {attribute, raw().refersOnlyTo(attribute, knownEntities)};
-        return last.isWhole;
-    }
-
-    BytePlace bytes() override { return {byteOffset(), encoding}; }
 
     // Of the event at hand.
     std::uint64_t byteOffset() const { return static_cast<std::uint64_t>(XML_GetCurrentByteIndex(parser.get())); }
@@ -347,23 +337,37 @@ private:
     std::string unknownEncoding;
     int depth = 0;
     std::vector<XmlAttributeText> attributes;
-    bool hasTag = false;
-    RawTag tag;
     bool hasUnreadDeclarations = false;
     std::set<std::string> knownEntities;
     Namespaces namespaces;
     std::optional<TextValues> content; // of the element whose text is wanted
     std::uint64_t contentEnd = 0;      // of the tag or the text before
     bool hasAllContent = true;         // false when an entity left something out of it
-    struct {
-        std::size_t attribute = SIZE_MAX;
-        bool isWhole = false;
-    } last;
     std::optional<XmlFailure> failure;
     std::exception_ptr thrown;
 };
 
 } // namespace
+
+void XmlHandler::Tag::renew() {
+    isRead = false;
+    last = {};
+}
+
+RawTag& XmlHandler::Tag::raw() {
+    if (isRead) return tag;
+    isRead = true;
+    TagSource const from = source();
+    tag = RawTag(decode(from.bytes, from.begin.encoding), from.place);
+    return tag;
+}
+
+bool XmlHandler::Tag::isWhole(std::size_t attribute) {
+    TagSource const from = source();
+    if (!from.entities) return true;
+    if (last.attribute != attribute) last = {attribute, raw().refersOnlyTo(attribute, *from.entities)};
+    return last.isWhole;
+}
 
 std::string nameInDocument(std::string_view local, XmlHandler::Tag& tag) {
     std::string name = tag.raw().elementName();
