@@ -27,39 +27,56 @@ namespace {
 using namespace std::chrono_literals;
 
 TEST(OrderedQueue, GivesWhatLanesHoldInTheirOrder) {
-    OrderedQueue<int> queue(100);
+    OrderedQueue<int> queue(3, 1000);
     queue.put(1, 10, 1, false);
     queue.put(2, 20, 1, true);
     EXPECT_TRUE(queue.take(0ms).empty()) << "it is not their turn";
     queue.put(0, 1, 1, false);
     EXPECT_EQ(queue.take(0ms), std::vector({1}));
     queue.put(0, 2, 1, true);
-    EXPECT_EQ(queue.take(0ms), std::vector({2}));
-    EXPECT_EQ(queue.take(0ms), std::vector({10}));
+    EXPECT_EQ(queue.take(0ms), std::vector({2, 10}));
     queue.put(1, 11, 1, true);
-    EXPECT_EQ(queue.take(0ms), std::vector({11}));
-    EXPECT_EQ(queue.take(0ms), std::vector({20}));
+    EXPECT_EQ(queue.take(0ms), std::vector({11, 20}));
+}
+
+// To the reader it is worth waking for much, or for the end.
+TEST(OrderedQueue, WakesTheReaderOnlyForWhatIsWorthIt) {
+    OrderedQueue<int> queue(3, 1000);
+    auto const take = [&] {
+        auto const start = std::chrono::steady_clock::now();
+        std::size_t const count = queue.take(200ms).size();
+        return std::pair(count, std::chrono::steady_clock::now() - start >= 200ms);
+    };
+    queue.put(0, 0, 1, true);
+    EXPECT_EQ(take(), std::pair(std::size_t{1}, true)) << "little";
+    queue.put(1, 1, 4, false);
+    EXPECT_EQ(take(), std::pair(std::size_t{1}, false)) << "much";
+    queue.put(2, 2, 4, true);
+    EXPECT_EQ(take(), std::pair(std::size_t{0}, true)) << "of a lane whose turn it is not";
+    queue.put(1, 3, 1, true);
+    EXPECT_EQ(take(), std::pair(std::size_t{2}, false)) << "the end";
 }
 
 TEST(OrderedQueue, LetsThoseWaitThatAreFarAhead) {
-    OrderedQueue<int> queue(2);
+    OrderedQueue<int> queue(2, 2);
     std::atomic<int> put = 0;
     std::jthread const ahead([&] {
         for (int i = 0; i < 4; ++i, ++put) queue.put(1, i, 1, i == 3);
     });
     // The first lane is not held up by the other, which waits with two items in the queue.
     for (int i = 0; i < 10; ++i) {
-        queue.put(0, i, 1, i == 9);
+        queue.put(0, i, 1, false);
         EXPECT_EQ(queue.take(1s).size(), 1u);
         EXPECT_LE(put, 2);
     }
+    queue.put(0, 10, 1, true);
     std::size_t taken = 0;
-    while (taken < 4) taken += queue.take(1s).size();
-    EXPECT_EQ(taken, 4u);
+    while (taken < 5) taken += queue.take(1s).size();
+    EXPECT_EQ(taken, 5u);
 }
 
 TEST(OrderedQueue, LetsNobodyWaitOnceItIsLifted) {
-    OrderedQueue<int> queue(1);
+    OrderedQueue<int> queue(2, 1);
     std::jthread const ahead([&] {
         for (int i = 0; i < 100; ++i) queue.put(1, i, 1, false);
     });

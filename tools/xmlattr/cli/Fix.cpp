@@ -143,8 +143,9 @@ private:
         OpenFile opened = job.isInput() ? openInput() : openFile(job.document);
         std::unique_ptr<RewrittenDocument> const rewritten = destinationOf(job, name);
         SharedFileSource checked(opened.get()), copied(opened.get());
-        PeekedSource source(checked);
         constexpr std::size_t longestDeclaration = 1 << 10;
+        std::array<char, longestDeclaration> room;
+        PeekedSource source(checked, room);
         std::string_view const start = source.peek(longestDeclaration);
         bool const hasPlaces = !isGzip(start) && foreignEncoding(start).empty();
         Rewriter rewriter(copied, *rewritten);

@@ -6,8 +6,6 @@
 
 #include <algorithm>
 #include <atomic>
-#include <cerrno>
-#include <cstdio>
 #include <exception>
 #include <memory>
 #include <system_error>
@@ -70,7 +68,10 @@ private:
 // Counts the bytes, and fails when the run is to end.
 class WatchedSource final : public ByteSource {
 public:
-    WatchedSource(std::FILE* file, Shared& shared, Relay& relay) : file(file), shared(shared), second(shared, relay) {}
+    WatchedSource(std::string const& path, Shared& shared, Relay& relay)
+        : file(path), shared(shared), second(shared, relay) {
+        failed = file.failure();
+    }
 
     std::size_t read(std::span<char> buffer) override {
         if (shared.isStopping) {
@@ -110,10 +111,16 @@ std::size_t sizeOf(Finding const& finding) {
     return size;
 }
 
+// What a thread uses for one file after the other.
+struct Tools {
+    XmlReader reader;
+    std::shared_ptr<VerdictCache> verdicts = std::make_shared<VerdictCache>();
+};
+
 class Run {
 public:
     Run(std::span<FileJob const> jobs, std::uint64_t threads, RunListener& listener)
-        : jobs(jobs), listener(listener), queue(mostWaiting) {
+        : jobs(jobs), listener(listener), queue(jobs.size(), mostWaiting) {
         shared.wanted = listener.wanted();
         std::uint64_t const mostWorkers = std::min<std::uint64_t>(threads, jobs.size());
         shared.spareThreads = static_cast<std::int64_t>(std::min<std::uint64_t>(threads, INT32_MAX) - mostWorkers);
@@ -158,10 +165,11 @@ private:
     }
 
     void work() {
+        Tools tools;
         for (std::size_t number = shared.next++; number < jobs.size(); number = shared.next++) {
             End end;
             try {
-                check(number, end);
+                check(number, tools, end);
             } catch (...) {
                 end.thrown = std::current_exception();
             }
@@ -170,7 +178,7 @@ private:
         ++shared.spareThreads;
     }
 
-    void check(std::size_t number, End& end) {
+    void check(std::size_t number, Tools& tools, End& end) {
         end.isStopped = shared.isStopping;
         if (end.isStopped) return; // and was not begun
         FileJob const& job = jobs[number];
@@ -192,21 +200,12 @@ private:
             if (passes) return queue.put(number, finding, sizeOf(finding), false);
             ++ignored.of(kindOf(finding.fault).severity);
         };
-        Checker checker(counts, report, options);
-        errno = 0;
-        OpenFile const opened(job.path == "-" ? stdin : std::fopen(job.path.c_str(), "rb"));
+        Checker checker(counts, report, options, tools.verdicts);
+        Relay relay(checker);
+        WatchedSource source(job.path, shared, relay);
         std::optional<XmlFailure>& failure = end.file.failure;
-        if (opened) {
-            Relay relay(checker);
-            WatchedSource source(opened.get(), shared, relay);
-            failure = readXml(source, relay);
-            relay.settle();
-        } else {
-            failure = XmlFailure{"unreadable",
-                                 "cannot be read: " + std::generic_category().message(errno) +
-                                     "; check the path and its permissions",
-                                 std::nullopt};
-        }
+        failure = tools.reader.read(source, relay);
+        relay.settle();
         if (failure) failure->message += remedyFor(failure->id);
         counts.files = 1;
         counts.failedFiles = failure ? 1 : 0;

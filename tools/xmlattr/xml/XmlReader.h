@@ -9,7 +9,7 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
+#include <memory>
 #include <optional>
 #include <set>
 #include <span>
@@ -104,6 +104,17 @@ struct XmlFailure {
 // is ever read. There is a limit to how far entities and compressed files may expand, how deep elements nest and
 // how long one tag is; memory is bounded by the longest tag.
 std::optional<XmlFailure> readXml(ByteSource& source, XmlHandler& handler);
-std::optional<XmlFailure> readXml(std::FILE* file, XmlHandler& handler);
+
+// Reads many documents, as readXml() does, in memory that is used again.
+class XmlReader {
+public:
+    XmlReader();
+    ~XmlReader();
+    std::optional<XmlFailure> read(ByteSource& source, XmlHandler& handler);
+
+private:
+    struct State;
+    std::unique_ptr<State> state;
+};
 
 } // namespace Command
