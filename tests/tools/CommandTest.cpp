@@ -1,5 +1,6 @@
 // Runs the command as its users do.
 
+#include "output/Json.h"
 #include "tools/RunCommand.h"
 
 #include <gtest/gtest.h>
@@ -218,6 +219,37 @@ TEST(Command, SaysWhatIsWrongWithACall) {
         Result const result = run(row.arguments);
         EXPECT_NE(result.errors.find(row.message), std::string::npos) << row.arguments << ": " << result.errors;
         EXPECT_EQ(result.code, 2) << row.arguments;
+    }
+}
+
+TEST(Check, TellsInReportsForProgramsWhatItCouldNotDo) {
+    std::string const sound = write("told/sound.svg", "<svg xmlns='http://www.w3.org/2000/svg'/>");
+    std::filesystem::create_directories(scratch + "/told/empty");
+    write("told/wrong.toml", "zork = 1");
+    struct Row {
+        std::string arguments, id, message;
+        int notifications = 1;
+    };
+    for (Row const& row :
+         {Row{sound + " " + scratch + "/told/empty", "no-document", "no .fo, .svg, .svgz, .xml, .xsl or .xslt file"},
+          Row{sound + " " + scratch + "/told/none.svg", "unreadable", "cannot be read: "},
+          Row{sound + " --ignore zork", "usage", "--ignore: "},
+          Row{sound + " --files-from " + scratch + "/told/none", "usage", "/none: "},
+          Row{sound + " --config " + scratch + "/told/wrong.toml", "usage", "no option is called"},
+          Row{sound + " --baseline " + scratch + "/told/none", "usage", "the baseline cannot be read"},
+          Row{sound, "", "", 0}}) {
+        Result const lines = run("check -q --format json " + row.arguments);
+        Result const report = run("check -q --format sarif " + row.arguments);
+        EXPECT_EQ(lines.errors + report.errors, "") << row.arguments;
+        EXPECT_EQ(lines.code, row.notifications > 0 ? 2 : 0) << row.arguments;
+        EXPECT_EQ(report.code, lines.code) << row.arguments;
+        EXPECT_EQ(std::ranges::count(lines.output, '\n'), row.notifications) << lines.output;
+        EXPECT_NE(lines.output.find(row.message), std::string::npos) << lines.output;
+        Json const invocation = Json::parse(report.output)["runs"][0]["invocations"][0];
+        Json const& notifications = invocation["toolExecutionNotifications"];
+        EXPECT_EQ(invocation["executionSuccessful"], row.notifications == 0) << row.arguments;
+        ASSERT_EQ(std::ssize(notifications), row.notifications) << row.arguments;
+        for (Json const& notification : notifications) EXPECT_EQ(notification["descriptor"]["id"], row.id);
     }
 }
 

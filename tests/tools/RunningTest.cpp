@@ -99,17 +99,19 @@ TEST(Progress, TellsTheTimeLeft) {
 
 // Remembers how it ended, and interrupts the run after the first file.
 struct Interrupting : RunListener {
+    explicit Interrupting(int signal) : signal(signal) {}
     void finding(std::size_t, Finding const&) override {}
     void ended(std::size_t file, FileEnd const& end) override {
         if (file == 0) {
             isSecondOpen.wait(false);
-            std::raise(SIGINT);
+            std::raise(signal);
         }
         counts += end.counts;
     }
     std::uint64_t wanted() const override { return UINT64_MAX; }
     void passed(std::uint64_t) override {}
 
+    int signal;
     Counts counts;
     std::atomic<bool> isSecondOpen = false;
 };
@@ -119,25 +121,27 @@ TEST(FileRun, EndsInTheMiddleOfAFileWhenItIsStopped) {
     std::string const endless = scratch + "/endless.svg";
     ASSERT_EQ(mkfifo(endless.c_str(), 0600), 0);
     auto const oldHandler = std::signal(SIGPIPE, SIG_IGN);
-    Interrupting listener;
-    std::thread author([&] {
-        std::FILE* const file = std::fopen(endless.c_str(), "w"); // returns when the other end is open
-        listener.isSecondOpen = true;
-        listener.isSecondOpen.notify_one();
-        std::fputs("<svg xmlns='http://www.w3.org/2000/svg'>", file);
-        while (std::fputs("<g/>", file) >= 0) {
+    for (int const signal : {SIGINT, SIGTERM, SIGHUP}) {
+        Interrupting listener(signal);
+        std::thread author([&] {
+            std::FILE* const file = std::fopen(endless.c_str(), "w"); // returns when the other end is open
+            listener.isSecondOpen = true;
+            listener.isSecondOpen.notify_one();
+            std::fputs("<svg xmlns='http://www.w3.org/2000/svg'>", file);
+            while (std::fputs("<g/>", file) >= 0) {
+            }
+            std::fclose(file);
+        });
+        std::vector<FileJob> const jobs = {{sound, {}}, {endless, {}}, {sound, {}}, {sound, {}}};
+        {
+            Stop const stop;
+            EXPECT_EQ(runFiles(jobs, 2, listener), 1u);
         }
-        std::fclose(file);
-    });
-    std::vector<FileJob> const jobs = {{sound, {}}, {endless, {}}, {sound, {}}, {sound, {}}};
-    {
-        Stop const stop;
-        EXPECT_EQ(runFiles(jobs, 2, listener), 1u);
+        EXPECT_EQ(listener.counts.files, 2u);
+        EXPECT_EQ(listener.counts.failedFiles, 1u) << "the one that was not read to its end";
+        EXPECT_EQ(listener.counts.attributes, 1u);
+        author.join();
     }
-    EXPECT_EQ(listener.counts.files, 2u);
-    EXPECT_EQ(listener.counts.failedFiles, 1u) << "the one that was not read to its end";
-    EXPECT_EQ(listener.counts.attributes, 1u);
-    author.join();
     std::signal(SIGPIPE, oldHandler);
 }
 

@@ -81,7 +81,7 @@ std::vector<Job> jobsOf(FixOptions const& options, std::vector<std::string>& pro
     std::set<fs::path> targets;
     for (std::string const& path : options.paths) {
         FileList const list = gatherFiles({path});
-        problems.insert(problems.end(), list.problems.begin(), list.problems.end());
+        for (auto const& [folder, failure] : list.problems) problems.push_back(folder + ": " + failure.message);
         for (std::string const& file : list.files) {
             Job job{file, file};
             if (!options.output.empty()) {

@@ -101,14 +101,16 @@ public:
     void failure(std::string const& file, XmlFailure const& failure) override {
         Json region;
         if (failure.place) region = {{"startLine", failure.place->line}, {"startColumn", failure.place->column}};
+        Json locations = Json::array();
+        if (!file.empty()) locations.push_back(locationOf(file, std::move(region)));
         notifications.push_back({{"level", "error"},
                                  {"descriptor", {{"id", failure.id}}},
                                  {"message", {{"text", failure.message}}},
-                                 {"locations", {locationOf(file, std::move(region))}}});
+                                 {"locations", std::move(locations)}});
     }
 
     void finish(Counts const& counts, std::uint64_t shown) override {
-        Json const invocation = {{"executionSuccessful", counts.failedFiles == 0},
+        Json const invocation = {{"executionSuccessful", notifications.empty()},
                                  {"toolExecutionNotifications", std::move(notifications)}};
         out.write("\n],\"invocations\":[" + toText(invocation) + "]}]}\n");
         if (!settings.isQuiet) printError(summaryLine(counts, shown));

@@ -98,7 +98,7 @@ std::vector<std::string> Baseline::gone() const {
         for (auto const& [key, count] : document.counts) {
             if (count == 0) continue;
             auto const& [id, element, attribute, text] = key;
-            std::string line = name + ": ";
+            std::string line = withoutControls(name) + ": ";
             if (!attribute.empty()) line.append(attribute).append("=").append(inQuotes(printable(text))).append(" on ");
             line.append(printable(element)).append(" [").append(id).append("]");
             if (count > 1) line += ", " + std::to_string(count) + " times";
