@@ -253,6 +253,16 @@ TEST(Check, TellsInReportsForProgramsWhatItCouldNotDo) {
     }
 }
 
+TEST(Check, DrawsThePartOfAListThatIsReadOtherwise) {
+    std::string const file = write("drawn.fo", "<block xmlns='http://www.w3.org/1999/XSL/Format' id='a' margin='10' "
+                                               "border-color='rgb(300,0,0) red'/>");
+    std::string const page = run("check -q --format html --ignore lenient " + file).output;
+    std::size_t const meant = page.find("<rect fill='#ff0000'/>"), held = page.find("<rect fill='#2c0000'/>");
+    EXPECT_LT(meant, held);
+    EXPECT_NE(held, page.npos);
+    EXPECT_NE(page.find("<p>Left out: 1 finding.</p>"), page.npos);
+}
+
 // A drawing with one value to fix and, on demand, one to leave.
 std::string drawing(std::string const& width, std::string const& end = "/>\n") {
     return "<svg xmlns='http://www.w3.org/2000/svg'\n  width='" + width + "'" + end;

@@ -220,6 +220,8 @@ private:
             counted(counts.attributes, "attribute");
         if (counts.declarations > 0) text += " and " + counted(counts.declarations, "style declaration");
         text += ".</p>\n";
+        if (counts.ignored > 0) text += "<p>Left out: " + counted(counts.ignored, "finding") + ".</p>\n";
+        if (counts.known > 0) text += "<p>In the baseline: " + counted(counts.known, "finding") + ".</p>\n";
         if (told + untold < counts.findings()) text += "<p>Shown: " + counted(told + untold, "finding") + ".</p>\n";
         if (untold > 0)
             text += "<p>" + counted(untold, "finding") + " came after the first " + grouped(mostEntries) +
