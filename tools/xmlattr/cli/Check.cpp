@@ -34,8 +34,7 @@ int usageError(CheckOptions const& options, ReportFormat const& format, std::str
     return 2;
 }
 
-ReportFormat const& formatOf(CheckOptions const& options, RunSettings const& run) {
-    if (options.format) return *options.format;
+ReportFormat const& formatOf(RunSettings const& run) {
     return run.format ? **run.format : reportFormats().front();
 }
 
@@ -84,7 +83,7 @@ Problem readConfigurations(CheckOptions const& options, std::span<std::string co
         if (auto problem = configurations.find(names[i], configuration)) return problem;
         if (!configuration) continue;
         configuration->addSettings(names[i], jobs[i].settings);
-        if (i == 0) run = configuration->run;
+        if (i == 0) run.complete(configuration->run);
     }
     return std::nullopt;
 }
@@ -92,8 +91,7 @@ Problem readConfigurations(CheckOptions const& options, std::span<std::string co
 Problem openBaselines(CheckOptions const& options, RunSettings const& run, Baselines& baselines) {
     if (options.newBaseline) baselines.recorded.emplace(*options.newBaseline);
     // A baseline that is written for the first time is not there yet.
-    bool const isConfigured = !options.baseline && !options.newBaseline;
-    std::optional<std::string> const& known = isConfigured ? run.baseline : options.baseline;
+    std::optional<std::string> const& known = options.newBaseline ? options.run.baseline : run.baseline;
     return known ? baselines.known.emplace(*known).read() : std::nullopt;
 }
 
@@ -111,18 +109,17 @@ std::optional<int> carryOut(CheckOptions const& options, FileList const& list, F
     std::vector<FileJob> jobs;
     for (std::string const& file : list.files) jobs.push_back({file, {}});
     Configurations configurations;
-    RunSettings run;
+    RunSettings run = options.run;
     Problem const misconfigured = readConfigurations(options, names, configurations, jobs, run);
-    ReportFormat const& format = formatOf(options, run);
+    ReportFormat const& format = formatOf(run);
     if (misconfigured) return usageError(options, format, *misconfigured);
     for (FileJob& job : jobs) job.settings.push_back(&settings);
     Baselines baselines;
     if (auto const problem = openBaselines(options, run, baselines)) return usageError(options, format, *problem);
 
-    Teller::Options const telling{options.isQuiet || run.isQuiet.value_or(false),
-                                  options.isGrouped || run.isGrouped.value_or(false),
-                                  options.maxFindings.value_or(run.maxFindings.value_or(UINT64_MAX))};
-    ColorMode const color = options.color.value_or(run.color.value_or(ColorMode::Auto));
+    Teller::Options const telling{run.isQuiet.value_or(false), run.isGrouped.value_or(false),
+                                  run.maxFindings.value_or(UINT64_MAX)};
+    ColorMode const color = run.color.value_or(ColorMode::Auto);
     ReportFile report(options.output);
     std::unique_ptr<Reporter> const reporter =
         format.make(report, {options.output.empty() && usesColor(color), telling.isQuiet, baselines.known.has_value()});
@@ -130,7 +127,7 @@ std::optional<int> carryOut(CheckOptions const& options, FileList const& list, F
     Progress progress(jobs.size(), showsProgress ? sizeOf(list.files) : 0, showsProgress);
     Teller teller(telling, names, baselines, *reporter, progress);
     for (auto const& [folder, failure] : list.problems) reporter->failure(folder, failure);
-    std::uint64_t const threads = options.jobs.value_or(run.jobs.value_or(0));
+    std::uint64_t const threads = run.jobs.value_or(0);
     std::size_t const told =
         runFiles(jobs, threads > 0 ? threads : std::max(1U, std::thread::hardware_concurrency()), teller);
     if (told < jobs.size())
@@ -152,7 +149,7 @@ int check(CheckOptions const& options) {
     Core::Log::setHandler([](Core::String const&) {});
 
     FileSettings settings;
-    ReportFormat const& format = formatOf(options, {});
+    ReportFormat const& format = formatOf(options.run);
     if (auto const problem = readSettings(options, settings)) return usageError(options, format, *problem);
     std::vector<std::string> paths = options.paths;
     std::string unread;
