@@ -143,9 +143,7 @@ private:
         }
         constexpr std::string_view end = "\xFF"; // which no text has
         std::uint64_t hash = hashOf("");
-        for (std::string_view const text : {kindOf(finding.fault).id, std::string_view(finding.element),
-                                            std::string_view(finding.attribute), std::string_view(finding.text)})
-            hash = hashOf(end, hashOf(text, hash));
+        for (std::string_view const text : finding.identity()) hash = hashOf(end, hashOf(text, hash));
         hash = hashOf(end, hashOf(std::to_string(alike[hash]++), hash));
         std::array<char, 16> digits;
         return {digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), hash, 16).ptr};

@@ -165,9 +165,8 @@ public:
 private:
     static std::string keyOf(Finding const& finding) {
         constexpr std::size_t longest = 1024; // what is kept of a text; of a longer one its hash as well
-        std::string key(kindOf(finding.fault).id);
-        for (std::string_view const text :
-             std::initializer_list<std::string_view>{finding.element, finding.attribute, finding.text}) {
+        std::string key;
+        for (std::string_view const text : finding.identity()) {
             key.append(1, '\0').append(text.substr(0, longest));
             if (text.size() > longest) key += std::to_string(std::hash<std::string_view>()(text));
         }
