@@ -69,7 +69,7 @@ std::string_view PeekedSource::peek(std::size_t size) {
         isAtEnd = count == 0;
         peeked += count;
     }
-    return std::string_view(room.data(), std::min(size, peeked));
+    return {room.data(), std::min(size, peeked)};
 }
 
 std::size_t PeekedSource::read(std::span<char> buffer) {
