@@ -3,21 +3,9 @@
 #include "checking/Checker.h"
 #include "xmlattr/catalogue/legality/StyleAttribute.h"
 
-#include <memory>
-
-namespace {
-
-struct Close {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-
-} // namespace
-
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
     if (size == 0) return 0;
-    std::string bytes(reinterpret_cast<char const*>(data), size);
-    std::unique_ptr<std::FILE, Close> const file(fmemopen(bytes.data(), size, "r"));
-    require(file != nullptr, "no file");
+    Command::MemorySource source(std::string_view(reinterpret_cast<char const*>(data), size));
     Command::Counts counts;
     std::uint64_t findings = 0;
     Command::Checker checker(counts, [&](Command::Finding const& finding) {
@@ -26,7 +14,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
         require(finding.place.column >= 1 && finding.place.column <= size + 1, "a finding is in no column");
         require(finding.message().find('\n') == std::string::npos, "a message has two lines");
     });
-    auto const failure = Command::readXml(file.get(), checker);
+    auto const failure = Command::readXml(source, checker);
     if (!failure) checker.finish();
     require(!failure || (!failure->id.empty() && !failure->message.empty()), "a failure says nothing");
     require(findings == counts.findings(), "findings are lost");

@@ -152,10 +152,8 @@ int main(int argc, char** argv) {
         std::string const bytes(std::istreambuf_iterator<char>(file), {});
         for (char const* const fuzzer : {"command", "fix"})
             write(folder / fuzzer / fs::path(argv[i]).filename(), bytes);
-        std::FILE* const document = std::fopen(argv[i], "rb");
-        if (!document) return 1;
-        Command::readXml(document, seeds);
-        std::fclose(document);
+        Command::FileSource document(argv[i]);
+        if (Command::readXml(document, seeds)) return 1;
     }
     std::string dictionary, xml;
     for (std::string const& word : words) dictionary += inDictionary(word);

@@ -4,8 +4,6 @@
 #include "checking/Checker.h"
 #include "xml/XmlReader.h"
 
-#include <cstdio>
-#include <memory>
 #include <string>
 #include <string_view>
 
@@ -20,16 +18,14 @@ struct Outcome {
 };
 
 inline Outcome checkDocument(std::string_view document) {
-    std::unique_ptr<std::FILE, int (*)(std::FILE*)> const file(std::tmpfile(), std::fclose);
-    std::fwrite(document.data(), 1, document.size(), file.get());
-    std::rewind(file.get());
     Outcome outcome;
     Checker checker(outcome.counts, [&](Finding const& finding) {
         outcome.last = finding.place;
         outcome.attributes += finding.attribute + " ";
         outcome.messages += std::to_string(finding.place.column) + " " + finding.message() + "\n";
     });
-    if (auto const failure = readXml(file.get(), checker))
+    MemorySource source(document);
+    if (auto const failure = readXml(source, checker))
         outcome.failure = std::string(failure->id) + ": " + failure->message;
     return outcome;
 }

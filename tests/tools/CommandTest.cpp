@@ -1,5 +1,6 @@
 // Runs the command as its users do.
 
+#include "output/Json.h"
 #include "tools/RunCommand.h"
 
 #include <gtest/gtest.h>
@@ -219,6 +220,47 @@ TEST(Command, SaysWhatIsWrongWithACall) {
         EXPECT_NE(result.errors.find(row.message), std::string::npos) << row.arguments << ": " << result.errors;
         EXPECT_EQ(result.code, 2) << row.arguments;
     }
+}
+
+TEST(Check, TellsInReportsForProgramsWhatItCouldNotDo) {
+    std::string const sound = write("told/sound.svg", "<svg xmlns='http://www.w3.org/2000/svg'/>");
+    std::filesystem::create_directories(scratch + "/told/empty");
+    write("told/wrong.toml", "zork = 1");
+    struct Row {
+        std::string arguments, id, message;
+        int notifications = 1;
+    };
+    for (Row const& row :
+         {Row{sound + " " + scratch + "/told/empty", "no-document", "no .fo, .svg, .svgz, .xml, .xsl or .xslt file"},
+          Row{sound + " " + scratch + "/told/none.svg", "unreadable", "cannot be read: "},
+          Row{sound + " --ignore zork", "usage", "--ignore: "},
+          Row{sound + " --files-from " + scratch + "/told/none", "usage", "/none: "},
+          Row{sound + " --config " + scratch + "/told/wrong.toml", "usage", "no option is called"},
+          Row{sound + " --baseline " + scratch + "/told/none", "usage", "the baseline cannot be read"},
+          Row{sound, "", "", 0}}) {
+        Result const lines = run("check -q --format json " + row.arguments);
+        Result const report = run("check -q --format sarif " + row.arguments);
+        EXPECT_EQ(lines.errors + report.errors, "") << row.arguments;
+        EXPECT_EQ(lines.code, row.notifications > 0 ? 2 : 0) << row.arguments;
+        EXPECT_EQ(report.code, lines.code) << row.arguments;
+        EXPECT_EQ(std::ranges::count(lines.output, '\n'), row.notifications) << lines.output;
+        EXPECT_NE(lines.output.find(row.message), std::string::npos) << lines.output;
+        Json const invocation = Json::parse(report.output)["runs"][0]["invocations"][0];
+        Json const& notifications = invocation["toolExecutionNotifications"];
+        EXPECT_EQ(invocation["executionSuccessful"], row.notifications == 0) << row.arguments;
+        ASSERT_EQ(std::ssize(notifications), row.notifications) << row.arguments;
+        for (Json const& notification : notifications) EXPECT_EQ(notification["descriptor"]["id"], row.id);
+    }
+}
+
+TEST(Check, DrawsThePartOfAListThatIsReadOtherwise) {
+    std::string const file = write("drawn.fo", "<block xmlns='http://www.w3.org/1999/XSL/Format' id='a' margin='10' "
+                                               "border-color='rgb(300,0,0) red'/>");
+    std::string const page = run("check -q --format html --ignore lenient " + file).output;
+    std::size_t const meant = page.find("<rect fill='#ff0000'/>"), held = page.find("<rect fill='#2c0000'/>");
+    EXPECT_LT(meant, held);
+    EXPECT_NE(held, page.npos);
+    EXPECT_NE(page.find("<p>Left out: 1 finding.</p>"), page.npos);
 }
 
 // A drawing with one value to fix and, on demand, one to leave.

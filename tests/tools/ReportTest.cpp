@@ -124,6 +124,14 @@ TEST(Report, HtmlHasNoMarkupFromDocuments) {
     EXPECT_GT(count("\\u{202e}"), 0);
 }
 
+TEST(Report, TextHasOneLineForEachWhateverAFileIsCalled) {
+    for (std::string const& text : texts) {
+        std::string const lines = findingLine(text, findingOf("q"), false) + failureLine(text, {"limit", "q", {}});
+        EXPECT_EQ(std::ranges::count(lines, '\n'), 2) << lines;
+        EXPECT_TRUE(std::ranges::none_of(lines, [](char c) { return c >= 0 && c < ' ' && c != '\n'; })) << lines;
+    }
+}
+
 TEST(ReportFile, HasItsNameWhenItIsComplete) {
     std::filesystem::create_directories(folder);
     std::string const path = (folder / "report").string();

@@ -3,13 +3,38 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <system_error>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#ifdef _WIN32
+#include <io.h>
+#endif
 
 namespace Command {
 
+#ifdef _WIN32
+constexpr int forReading = O_RDONLY | O_BINARY;
+#else
+constexpr int forReading = O_RDONLY | O_CLOEXEC;
+#endif
+
+FileSource::FileSource(std::string const& path) : file(path == "-" ? STDIN_FILENO : open(path.c_str(), forReading)) {
+    if (file >= 0) return;
+    failed = SourceFailure{"unreadable", "cannot be read: " + std::generic_category().message(errno) +
+                                             "; check the path and its permissions"};
+}
+
+FileSource::~FileSource() {
+    if (file > STDIN_FILENO) close(file);
+}
+
 std::size_t FileSource::read(std::span<char> buffer) {
-    std::size_t const count = std::fread(buffer.data(), 1, buffer.size(), file);
-    if (std::ferror(file)) failed = SourceFailure{"unreadable", std::strerror(errno)};
-    return count;
+    if (file < 0) return 0;
+    auto const count = ::read(file, buffer.data(), static_cast<unsigned>(buffer.size()));
+    if (count < 0) failed = SourceFailure{"unreadable", std::strerror(errno)};
+    return static_cast<std::size_t>(std::max<decltype(count)>(count, 0));
 }
 
 namespace {
@@ -39,20 +64,18 @@ std::size_t MemorySource::read(std::span<char> buffer) {
 }
 
 std::string_view PeekedSource::peek(std::size_t size) {
-    while (start.size() < size) {
-        std::size_t const before = start.size();
-        start.resize(size);
-        std::size_t const count = source.read(std::span(start).subspan(before));
-        start.resize(before + count);
-        if (count == 0) break;
+    while (peeked < size && !isAtEnd) {
+        std::size_t const count = source.read(room.subspan(peeked));
+        isAtEnd = count == 0;
+        peeked += count;
     }
-    return std::string_view(start).substr(0, size);
+    return {room.data(), std::min(size, peeked)};
 }
 
 std::size_t PeekedSource::read(std::span<char> buffer) {
-    if (taken == start.size()) return source.read(buffer);
-    std::size_t const count = std::min(start.size() - taken, buffer.size());
-    std::ranges::copy(std::string_view(start).substr(taken, count), buffer.begin());
+    if (taken == peeked) return isAtEnd ? 0 : source.read(buffer);
+    std::size_t const count = std::min(peeked - taken, buffer.size());
+    std::ranges::copy(room.subspan(taken, count), buffer.begin());
     taken += count;
     return count;
 }

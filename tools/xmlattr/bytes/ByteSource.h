@@ -45,13 +45,16 @@ struct CloseFile {
 
 using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
 
+// A file from its start to its end, read straight into the buffers of the caller.
 class FileSource final : public ByteSource {
 public:
-    explicit FileSource(std::FILE* file) : file(file) {}
+    // "-" is standard input. The source has failed at once when the file cannot be opened.
+    explicit FileSource(std::string const& path);
+    ~FileSource() override;
     std::size_t read(std::span<char> buffer) override;
 
 private:
-    std::FILE* file;
+    int file;
 };
 
 // One of several readers of a file that can be positioned, each of which is somewhere else in it.
@@ -77,17 +80,19 @@ private:
 // A source whose first bytes can be looked at before they are read.
 class PeekedSource final : public ByteSource {
 public:
-    explicit PeekedSource(ByteSource& source) : source(source) {}
+    // Nothing else may use the room, in which the first bytes stand.
+    PeekedSource(ByteSource& source, std::span<char> room) : source(source), room(room) {}
 
-    // Up to `size` bytes from the start; fewer when there are no more.
+    // Up to `size` bytes from the start, and no more than the room has; fewer when there are no more.
     std::string_view peek(std::size_t size);
     std::size_t read(std::span<char> buffer) override;
     std::optional<SourceFailure> const& failure() const override { return source.failure(); }
 
 private:
     ByteSource& source;
-    std::string start;
-    std::size_t taken = 0; // of the start
+    std::span<char> room;
+    std::size_t peeked = 0, taken = 0; // of the room
+    bool isAtEnd = false;
 };
 
 } // namespace Command

@@ -239,7 +239,7 @@ void Checker::checkValue(Occurrence const& occurrence, Xml::CatalogueEntry const
         return;
     }
     std::optional<Xml::Judgement> judgement;
-    Xml::Verdict const verdict = cache.find(entry, occurrence.notation, occurrence.value, [&] {
+    Xml::Verdict const verdict = cache->find(entry, occurrence.notation, occurrence.value, [&] {
         toUtf16(occurrence.value, utf16);
         judgement = Xml::judge(entry, utf16, occurrence.notation);
         return judgement->verdict;

@@ -13,6 +13,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -52,8 +53,10 @@ public:
         bool showsPassedOver = false, showsNotCovered = false, showsUnknown = false; // the last is a part of the second
     };
 
-    Checker(Counts& counts, Report report, Options const& options)
-        : counts(counts), report(std::move(report)), options(options) {}
+    // Checkers that are at work one after the other may share what they know of texts.
+    Checker(Counts& counts, Report report, Options const& options,
+            std::shared_ptr<VerdictCache> cache = std::make_shared<VerdictCache>())
+        : counts(counts), report(std::move(report)), options(options), cache(std::move(cache)) {}
     Checker(Counts& counts, Report report) : Checker(counts, std::move(report), Options()) {}
 
     void startElement(XmlElement const& element, Tag& tag) override;
@@ -84,7 +87,7 @@ private:
     Counts& counts;
     Report report;
     Options options;
-    VerdictCache cache;
+    std::shared_ptr<VerdictCache> cache;
     References references;
     FilterResults filterResults;
     Stylesheet stylesheet;

@@ -143,4 +143,8 @@ std::string Finding::message() const {
     return line;
 }
 
+std::array<std::string_view, 4> Finding::identity() const {
+    return {kindOf(fault).id, element, attribute, text};
+}
+
 } // namespace Command

@@ -4,6 +4,7 @@
 #include "xml/RawTag.h"
 #include "xmlattr/catalogue/legality/Judge.h"
 
+#include <array>
 #include <cstdint>
 #include <map>
 #include <span>
@@ -76,6 +77,8 @@ struct Finding {
 
     // In one line, without the place.
     std::string message() const;
+    // Id, element, attribute and text: findings are equal where these are.
+    std::array<std::string_view, 4> identity() const;
 };
 
 } // namespace Command

@@ -19,9 +19,23 @@ namespace Command {
 
 namespace {
 
-int usageError(std::string const& problem) {
-    printError("xmlattr: " + problem + "\n");
+// Says why nothing was checked.
+int usageError(CheckOptions const& options, ReportFormat const& format, std::string const& problem) {
+    XmlFailure const failure{"usage", problem, std::nullopt};
+    if (!format.isForPrograms) {
+        printError(failureLine("", failure));
+        return 2;
+    }
+    ReportFile report(options.output);
+    std::unique_ptr<Reporter> const reporter = format.make(report, {.isQuiet = true});
+    reporter->failure("", failure);
+    reporter->finish({}, 0);
+    report.complete();
     return 2;
+}
+
+ReportFormat const& formatOf(RunSettings const& run) {
+    return run.format ? **run.format : reportFormats().front();
 }
 
 // What a baseline has that the documents no longer have.
@@ -69,7 +83,7 @@ Problem readConfigurations(CheckOptions const& options, std::span<std::string co
         if (auto problem = configurations.find(names[i], configuration)) return problem;
         if (!configuration) continue;
         configuration->addSettings(names[i], jobs[i].settings);
-        if (i == 0) run = configuration->run;
+        if (i == 0) run.complete(configuration->run);
     }
     return std::nullopt;
 }
@@ -77,8 +91,7 @@ Problem readConfigurations(CheckOptions const& options, std::span<std::string co
 Problem openBaselines(CheckOptions const& options, RunSettings const& run, Baselines& baselines) {
     if (options.newBaseline) baselines.recorded.emplace(*options.newBaseline);
     // A baseline that is written for the first time is not there yet.
-    bool const isConfigured = !options.baseline && !options.newBaseline;
-    std::optional<std::string> const& known = isConfigured ? run.baseline : options.baseline;
+    std::optional<std::string> const& known = options.newBaseline ? options.run.baseline : run.baseline;
     return known ? baselines.known.emplace(*known).read() : std::nullopt;
 }
 
@@ -96,31 +109,33 @@ std::optional<int> carryOut(CheckOptions const& options, FileList const& list, F
     std::vector<FileJob> jobs;
     for (std::string const& file : list.files) jobs.push_back({file, {}});
     Configurations configurations;
-    RunSettings run;
-    if (auto const problem = readConfigurations(options, names, configurations, jobs, run)) return usageError(*problem);
+    RunSettings run = options.run;
+    Problem const misconfigured = readConfigurations(options, names, configurations, jobs, run);
+    ReportFormat const& format = formatOf(run);
+    if (misconfigured) return usageError(options, format, *misconfigured);
     for (FileJob& job : jobs) job.settings.push_back(&settings);
     Baselines baselines;
-    if (auto const problem = openBaselines(options, run, baselines)) return usageError(*problem);
+    if (auto const problem = openBaselines(options, run, baselines)) return usageError(options, format, *problem);
 
-    Teller::Options const telling{options.isQuiet || run.isQuiet.value_or(false),
-                                  options.isGrouped || run.isGrouped.value_or(false),
-                                  options.maxFindings.value_or(run.maxFindings.value_or(UINT64_MAX))};
-    ColorMode const color = options.color.value_or(run.color.value_or(ColorMode::Auto));
-    ReportFormat const& format = options.format ? *options.format : run.format ? **run.format : reportFormats().front();
+    Teller::Options const telling{run.isQuiet.value_or(false), run.isGrouped.value_or(false),
+                                  run.maxFindings.value_or(UINT64_MAX)};
+    ColorMode const color = run.color.value_or(ColorMode::Auto);
     ReportFile report(options.output);
     std::unique_ptr<Reporter> const reporter =
         format.make(report, {options.output.empty() && usesColor(color), telling.isQuiet, baselines.known.has_value()});
     bool const showsProgress = !telling.isQuiet && isErrorTerminal();
     Progress progress(jobs.size(), showsProgress ? sizeOf(list.files) : 0, showsProgress);
     Teller teller(telling, names, baselines, *reporter, progress);
-    std::uint64_t const threads = options.jobs.value_or(run.jobs.value_or(0));
+    for (auto const& [folder, failure] : list.problems) reporter->failure(folder, failure);
+    std::uint64_t const threads = run.jobs.value_or(0);
     std::size_t const told =
         runFiles(jobs, threads > 0 ? threads : std::max(1U, std::thread::hardware_concurrency()), teller);
+    if (told < jobs.size())
+        reporter->failure("",
+                          {"stopped", "stopped after " + std::to_string(told) + " of " + quantity(jobs.size(), "file"),
+                           std::nullopt});
     int const code = teller.finish();
-    if (told < jobs.size()) {
-        printError("xmlattr: stopped after " + std::to_string(told) + " of " + quantity(jobs.size(), "file") + "\n");
-        return std::nullopt;
-    }
+    if (told < jobs.size()) return std::nullopt;
     report.complete();
     if (baselines.known && !telling.isQuiet && !isFiltered(jobs)) printGone(*baselines.known);
     if (baselines.recorded) baselines.recorded->write();
@@ -134,18 +149,22 @@ int check(CheckOptions const& options) {
     Core::Log::setHandler([](Core::String const&) {});
 
     FileSettings settings;
-    if (auto const problem = readSettings(options, settings)) return usageError(*problem);
+    ReportFormat const& format = formatOf(options.run);
+    if (auto const problem = readSettings(options, settings)) return usageError(options, format, *problem);
     std::vector<std::string> paths = options.paths;
     std::string unread;
-    if (!options.filesFrom.empty() && !readPaths(options.filesFrom, paths, unread)) return usageError(unread);
+    if (!options.filesFrom.empty() && !readPaths(options.filesFrom, paths, unread))
+        return usageError(options, format, unread);
     FileList const list = gatherFiles(paths);
-    for (std::string const& line : list.problems) printError("xmlattr: " + line + "\n");
 
     // A stop would wait for what somebody types.
     std::optional<Stop> stop;
     if (std::ranges::find(list.files, "-") == list.files.end()) stop.emplace();
     std::optional<int> const code = carryOut(options, list, settings);
-    if (!code) Stop::end();
+    if (!code) {
+        flushOutput();
+        Stop::end();
+    }
     return *code;
 }
 

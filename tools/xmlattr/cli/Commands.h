@@ -3,7 +3,7 @@
 #pragma once
 
 #include "output/Output.h"
-#include "output/Report.h"
+#include "selecting/Configuration.h"
 
 #include "xmlattr/catalogue/Catalogue.h"
 
@@ -16,20 +16,16 @@ namespace Command {
 
 enum class OutputFormat { Text, Json };
 
-// What is absent may stand in a configuration file.
 struct CheckOptions {
     std::vector<std::string> paths;
     std::string filesFrom;
     std::string stdinName = "<stdin>";
     std::string configuration; // the file; empty for the nearest of each document
-    ReportFormat const* format = nullptr;
-    std::string output; // the file to write the report to; empty for standard output
-    std::optional<ColorMode> color;
-    bool isQuiet = false, isStrict = false, isGrouped = false;
-    std::optional<std::uint64_t> maxFindings;
-    std::optional<std::uint64_t> jobs;                // threads; as many as there are cores
-    std::vector<std::string> ignored, only, shown;    // as Filter and Shown have them
-    std::optional<std::string> baseline, newBaseline; // files
+    std::string output;        // the file to write the report to; empty for standard output
+    RunSettings run;           // what is absent may stand in a configuration file
+    bool isStrict = false;
+    std::vector<std::string> ignored, only, shown; // as Filter and Shown have them
+    std::optional<std::string> newBaseline;        // the file
 };
 
 struct FixOptions {

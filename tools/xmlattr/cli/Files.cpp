@@ -30,7 +30,9 @@ void gatherDirectory(fs::path const& directory, FileList& list) {
     std::error_code error;
     fs::directory_iterator iterator(directory, error);
     for (; !error && iterator != fs::directory_iterator(); iterator.increment(error)) found.push_back(*iterator);
-    if (error) list.problems.push_back(directory.string() + ": cannot be listed: " + error.message());
+    if (error)
+        list.problems.push_back(
+            {directory.string(), {"unreadable", "cannot be listed: " + error.message(), std::nullopt}});
     // By characters and not part by part, since they differ in the last alone.
     std::ranges::sort(
         found, {}, [](fs::directory_entry const& entry) -> auto const& { return entry.path().native(); });
@@ -56,7 +58,9 @@ FileList gatherFiles(std::vector<std::string> const& paths) {
         std::size_t const files = list.files.size(), problems = list.problems.size();
         gatherDirectory(pathOf(path), list);
         if (list.files.size() == files && list.problems.size() == problems)
-            list.problems.push_back(path + ": no .fo, .svg, .svgz, .xml, .xsl or .xslt file in this directory");
+            list.problems.push_back(
+                {path,
+                 {"no-document", "no .fo, .svg, .svgz, .xml, .xsl or .xslt file in this directory", std::nullopt}});
     }
     std::set<std::string> known;
     std::erase_if(list.files, [&](std::string const& file) {

@@ -1,14 +1,22 @@
 // Which documents a call of the command reads.
 #pragma once
 
+#include "xml/XmlReader.h"
+
 #include <string>
 #include <vector>
 
 namespace Command {
 
+// A folder of which not every document is known, or which has none.
+struct FolderProblem {
+    std::string folder;
+    XmlFailure failure;
+};
+
 struct FileList {
-    std::vector<std::string> files;    // "-" is standard input
-    std::vector<std::string> problems; // what names no document
+    std::vector<std::string> files; // "-" is standard input
+    std::vector<FolderProblem> problems;
 };
 
 // Files as they are; a directory stands for every .fo, .svg, .svgz, .xml, .xsl and .xslt file in it and

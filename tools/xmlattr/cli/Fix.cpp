@@ -72,7 +72,7 @@ std::vector<Job> jobsOf(FixOptions const& options, std::vector<std::string>& pro
     std::set<fs::path> targets;
     for (std::string const& path : options.paths) {
         FileList const list = gatherFiles({path});
-        problems.insert(problems.end(), list.problems.begin(), list.problems.end());
+        for (auto const& [folder, failure] : list.problems) problems.push_back(folder + ": " + failure.message);
         for (std::string const& file : list.files) {
             Job job{file, pathOf(file)};
             if (!options.output.empty()) {
@@ -134,8 +134,9 @@ private:
         OpenFile opened = job.isInput() ? openInput() : openFile(job.document);
         std::unique_ptr<RewrittenDocument> const rewritten = destinationOf(job, name);
         SharedFileSource checked(opened.get()), copied(opened.get());
-        PeekedSource source(checked);
         constexpr std::size_t longestDeclaration = 1 << 10;
+        std::array<char, longestDeclaration> room;
+        PeekedSource source(checked, room);
         std::string_view const start = source.peek(longestDeclaration);
         bool const hasPlaces = !isGzip(start) && foreignEncoding(start).empty();
         Rewriter rewriter(copied, *rewritten);

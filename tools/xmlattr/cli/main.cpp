@@ -67,6 +67,12 @@ std::string checkCount(std::string const& text) {
     return isCount ? "" : inQuotes(printable(text)) + " is no whole number";
 }
 
+// One that stays absent where it does not stand.
+void addFlag(CLI::App& app, std::string const& option, std::optional<bool>& flag, std::string const& help) {
+    app.add_flag_callback(
+        option, [&flag] { flag = true; }, help);
+}
+
 // An option that may stand several times, each time with one name or more.
 CLI::Option* addNames(CLI::App& app, std::string const& option, std::vector<std::string>& names,
                       std::string const& help) {
@@ -85,29 +91,30 @@ CLI::App* addCheck(CLI::App& app, CheckOptions& options, std::string& explained)
         ->type_name("NAME");
     Choices<ReportFormat const*> formats;
     for (ReportFormat const& format : reportFormats()) formats.emplace_back(format.word, &format);
-    addChoice(*command, "--format", options.format, formats,
+    addChoice(*command, "--format", options.run.format, formats,
               "Print text, json (one object a line), sarif, annotations of github or a page of html (default: text)");
     addFile(*command, "--output", options.output, "Write the report to this file, which appears when it is whole");
-    addColor(*command, options.color);
-    command->add_flag("-q,--quiet", options.isQuiet, "Print no summary and no progress");
+    addColor(*command, options.run.color);
+    addFlag(*command, "-q,--quiet", options.run.isQuiet, "Print no summary and no progress");
     command->add_flag("--strict", options.isStrict,
                       "Report attributes on elements that do not have them too, and fail for warnings too");
-    command->add_option("--max-findings", options.maxFindings, "Print no more findings than this (default: all)")
+    command->add_option("--max-findings", options.run.maxFindings, "Print no more findings than this (default: all)")
         ->check(checkCount)
         ->type_name("N");
     addNames(*command, "--ignore", options.ignored, "Leave out findings with this id, attribute:NAME or element:NAME");
     addNames(*command, "--only", options.only, "Report only findings with this id, attribute:NAME or element:NAME");
     addNames(*command, "--show", options.shown, "Report also what is only counted")
         ->type_name("passed-over|not-covered|unknown");
-    command->add_flag("--group", options.isGrouped,
-                      "Print equal findings once, with their number, the most frequent first");
-    addFile(*command, "--baseline", options.baseline, "Leave out the findings that are recorded in this file");
+    addFlag(*command, "--group", options.run.isGrouped,
+            "Print equal findings once, with their number, the most frequent first");
+    addFile(*command, "--baseline", options.run.baseline, "Leave out the findings that are recorded in this file");
     addFile(*command, "--write-baseline", options.newBaseline,
             "Record the findings in this file; they are no faults then");
     addFile(*command, "--config", options.configuration,
             "Take options from this file (default: the nearest xmlattr.toml of each document)");
     command
-        ->add_option("-j,--jobs", options.jobs, "Check so many files at a time (default: as many as there are cores)")
+        ->add_option("-j,--jobs", options.run.jobs,
+                     "Check so many files at a time (default: as many as there are cores)")
         ->check(checkCount)
         ->type_name("N");
     addExplain(*command, explained);

@@ -1,5 +1,7 @@
 #include "output/Report.h"
 
+#include "text/Text.h"
+
 namespace Command {
 
 namespace {
@@ -17,7 +19,7 @@ std::string escaped(std::string_view text, bool isProperty) {
         default: out += c;
         }
     }
-    return out;
+    return withoutControls(out);
 }
 
 std::string_view levelOf(Severity severity) {
@@ -51,9 +53,10 @@ private:
     void annotate(std::string_view level, std::string const& file, std::optional<Place> place, std::string_view id,
                   std::string const& message) {
         std::string line("::");
-        line.append(level).append(" file=").append(escaped(file, true));
-        if (place) line += ",line=" + std::to_string(place->line) + ",col=" + std::to_string(place->column);
-        line.append(",title=").append(escaped(id, true)).append("::").append(escaped(message, false)).append("\n");
+        line.append(level).append(" ");
+        if (!file.empty()) line.append("file=").append(escaped(file, true)).append(",");
+        if (place) line += "line=" + std::to_string(place->line) + ",col=" + std::to_string(place->column) + ",";
+        line.append("title=").append(escaped(id, true)).append("::").append(escaped(message, false)).append("\n");
         out.write(line);
     }
 

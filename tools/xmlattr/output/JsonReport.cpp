@@ -21,7 +21,8 @@ public:
     }
 
     void failure(std::string const& file, XmlFailure const& failure) override {
-        Json line = {{"file", file}};
+        Json line = Json::object();
+        if (!file.empty()) line["file"] = file;
         if (failure.place) {
             line["line"] = failure.place->line;
             line["column"] = failure.place->column;

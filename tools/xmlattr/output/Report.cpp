@@ -4,7 +4,7 @@ namespace Command {
 
 std::span<ReportFormat const> reportFormats() {
     static constexpr ReportFormat formats[] = {
-        {"text", makeTextReporter},     {"json", makeJsonReporter}, {"sarif", makeSarifReporter},
+        {"text", makeTextReporter},     {"json", makeJsonReporter, true}, {"sarif", makeSarifReporter, true},
         {"github", makeGithubReporter}, {"html", makeHtmlReporter},
     };
     return formats;

@@ -33,7 +33,7 @@ public:
     virtual ~Reporter() = default;
     virtual void finding(std::string const& file, Finding const& finding) = 0;
     virtual void group(FindingGroup const& group) = 0;
-    // The file was not read to its end.
+    // The file was not read to its end. Without a name, the run was not carried out, or not to its end.
     virtual void failure(std::string const& file, XmlFailure const& failure) = 0;
     // The end of the report: the first `shown` findings have been told.
     virtual void finish(Counts const& counts, std::uint64_t shown) = 0;
@@ -48,6 +48,7 @@ struct ReportSettings {
 struct ReportFormat {
     std::string_view word; // of the command line
     std::unique_ptr<Reporter> (*make)(ReportFile& out, ReportSettings const& settings);
+    bool isForPrograms = false; // which learn from the report alone that nothing could be checked
 };
 
 // The first is the usual one.

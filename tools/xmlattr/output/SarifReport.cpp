@@ -101,14 +101,16 @@ public:
     void failure(std::string const& file, XmlFailure const& failure) override {
         Json region;
         if (failure.place) region = {{"startLine", failure.place->line}, {"startColumn", failure.place->column}};
+        Json locations = Json::array();
+        if (!file.empty()) locations.push_back(locationOf(file, std::move(region)));
         notifications.push_back({{"level", "error"},
                                  {"descriptor", {{"id", failure.id}}},
                                  {"message", {{"text", failure.message}}},
-                                 {"locations", {locationOf(file, std::move(region))}}});
+                                 {"locations", std::move(locations)}});
     }
 
     void finish(Counts const& counts, std::uint64_t shown) override {
-        Json const invocation = {{"executionSuccessful", counts.failedFiles == 0},
+        Json const invocation = {{"executionSuccessful", notifications.empty()},
                                  {"toolExecutionNotifications", std::move(notifications)}};
         out.write("\n],\"invocations\":[" + toText(invocation) + "]}]}\n");
         if (!settings.isQuiet) printError(summaryLine(counts, shown));
@@ -141,9 +143,7 @@ private:
         }
         constexpr std::string_view end = "\xFF"; // which no text has
         std::uint64_t hash = hashOf("");
-        for (std::string_view const text : {kindOf(finding.fault).id, std::string_view(finding.element),
-                                            std::string_view(finding.attribute), std::string_view(finding.text)})
-            hash = hashOf(end, hashOf(text, hash));
+        for (std::string_view const text : finding.identity()) hash = hashOf(end, hashOf(text, hash));
         hash = hashOf(end, hashOf(std::to_string(alike[hash]++), hash));
         std::array<char, 16> digits;
         return {digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), hash, 16).ptr};

@@ -9,7 +9,7 @@ namespace Command {
 namespace {
 
 std::string location(std::string const& file, Place place) {
-    return file + ":" + std::to_string(place.line) + ":" + std::to_string(place.column) + ":";
+    return withoutControls(file) + ":" + std::to_string(place.line) + ":" + std::to_string(place.column) + ":";
 }
 
 std::string_view colorOf(Severity severity) {
@@ -66,7 +66,8 @@ std::string findingLine(std::string const& file, Finding const& finding, bool is
 }
 
 std::string failureLine(std::string const& file, XmlFailure const& failure) {
-    std::string const where = failure.place ? location(file, *failure.place) : file + ":";
+    if (file.empty()) return "xmlattr: " + failure.message + "\n";
+    std::string const where = failure.place ? location(file, *failure.place) : withoutControls(file) + ":";
     return where + " error: " + failure.message + " [" + std::string(failure.id) + "]\n";
 }
 

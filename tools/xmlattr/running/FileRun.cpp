@@ -1,12 +1,11 @@
 #include "running/FileRun.h"
 
 #include "running/OrderedQueue.h"
+#include "running/Relay.h"
 #include "running/Stop.h"
 
 #include <algorithm>
 #include <atomic>
-#include <cerrno>
-#include <cstdio>
 #include <exception>
 #include <memory>
 #include <system_error>
@@ -20,6 +19,8 @@ namespace {
 // Of findings that wait for the files before theirs.
 constexpr std::size_t mostWaiting = 16 << 20;
 constexpr std::chrono::milliseconds patience(50);
+// Of a file that was read before a second thread is worth its start.
+constexpr std::uint64_t relayedFrom = 1 << 20;
 
 constexpr std::string_view stopped = "stopped"; // the failure of a file at whose end nobody waited any more
 
@@ -33,30 +34,63 @@ std::string_view remedyFor(std::string_view failure) {
 
 // What the threads of a run share.
 struct Shared {
-    std::atomic<std::size_t> next = 0; // file that nobody has begun
+    std::atomic<std::int64_t> spareThreads = 0; // that may be started yet
+    std::atomic<std::size_t> next = 0;          // file that nobody has begun
     std::atomic<std::uint64_t> bytes = 0, wanted = 0;
     std::atomic<bool> isStopping = false;
+};
+
+// A thread beside that which reads a file, where the run has one to spare.
+class SecondThread {
+public:
+    SecondThread(Shared& shared, Relay& relay) : shared(shared), relay(relay) {}
+    SecondThread(SecondThread const&) = delete;
+    SecondThread& operator=(SecondThread const&) = delete;
+    ~SecondThread() {
+        if (relay.isStarted()) ++shared.spareThreads;
+    }
+
+    void tryStart() {
+        if (relay.isStarted() || shared.spareThreads <= 0) return;
+        bool const isMine = shared.spareThreads-- > 0;
+        try {
+            if (isMine) return relay.start();
+        } catch (std::system_error const&) { // the machine has no more threads
+        }
+        ++shared.spareThreads;
+    }
+
+private:
+    Shared& shared;
+    Relay& relay;
 };
 
 // Counts the bytes, and fails when the run is to end.
 class WatchedSource final : public ByteSource {
 public:
-    WatchedSource(std::FILE* file, Shared& shared) : file(file), shared(shared) {}
+    WatchedSource(std::string const& path, Shared& shared, Relay& relay)
+        : file(path), shared(shared), second(shared, relay) {
+        failed = file.failure();
+    }
 
     std::size_t read(std::span<char> buffer) override {
         if (shared.isStopping) {
             failed = SourceFailure{stopped, ""};
             return 0;
         }
+        if (bytes >= relayedFrom) second.tryStart();
         std::size_t const count = file.read(buffer);
         failed = file.failure();
+        bytes += count;
         shared.bytes += count;
         return count;
     }
 
 private:
     FileSource file;
+    std::uint64_t bytes = 0;
     Shared& shared;
+    SecondThread second;
 };
 
 struct End {
@@ -77,12 +111,20 @@ std::size_t sizeOf(Finding const& finding) {
     return size;
 }
 
+// What a thread uses for one file after the other.
+struct Tools {
+    XmlReader reader;
+    std::shared_ptr<VerdictCache> verdicts = std::make_shared<VerdictCache>();
+};
+
 class Run {
 public:
     Run(std::span<FileJob const> jobs, std::uint64_t threads, RunListener& listener)
-        : jobs(jobs), listener(listener), queue(mostWaiting) {
+        : jobs(jobs), listener(listener), queue(jobs.size(), mostWaiting) {
         shared.wanted = listener.wanted();
-        for (std::size_t i = 0; i < std::min<std::uint64_t>(threads, jobs.size()); ++i) {
+        std::uint64_t const mostWorkers = std::min<std::uint64_t>(threads, jobs.size());
+        shared.spareThreads = static_cast<std::int64_t>(std::min<std::uint64_t>(threads, INT32_MAX) - mostWorkers);
+        for (std::size_t i = 0; i < mostWorkers; ++i) {
             try {
                 workers.emplace_back([this] { work(); });
             } catch (std::system_error const&) {
@@ -123,18 +165,20 @@ private:
     }
 
     void work() {
+        Tools tools;
         for (std::size_t number = shared.next++; number < jobs.size(); number = shared.next++) {
             End end;
             try {
-                check(number, end);
+                check(number, tools, end);
             } catch (...) {
                 end.thrown = std::current_exception();
             }
             queue.put(number, std::move(end), sizeof(Told), true);
         }
+        ++shared.spareThreads;
     }
 
-    void check(std::size_t number, End& end) {
+    void check(std::size_t number, Tools& tools, End& end) {
         end.isStopped = shared.isStopping;
         if (end.isStopped) return; // and was not begun
         FileJob const& job = jobs[number];
@@ -156,19 +200,12 @@ private:
             if (passes) return queue.put(number, finding, sizeOf(finding), false);
             ++ignored.of(kindOf(finding.fault).severity);
         };
-        Checker checker(counts, report, options);
-        errno = 0;
-        OpenFile const opened(job.path == "-" ? stdin : std::fopen(job.path.c_str(), "rb"));
+        Checker checker(counts, report, options, tools.verdicts);
+        Relay relay(checker);
+        WatchedSource source(job.path, shared, relay);
         std::optional<XmlFailure>& failure = end.file.failure;
-        if (opened) {
-            WatchedSource source(opened.get(), shared);
-            failure = readXml(source, checker);
-        } else {
-            failure = XmlFailure{"unreadable",
-                                 "cannot be read: " + std::generic_category().message(errno) +
-                                     "; check the path and its permissions",
-                                 std::nullopt};
-        }
+        failure = tools.reader.read(source, relay);
+        relay.settle();
         if (failure) failure->message += remedyFor(failure->id);
         counts.files = 1;
         counts.failedFiles = failure ? 1 : 0;

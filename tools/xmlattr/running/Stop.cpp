@@ -8,34 +8,47 @@ namespace Command {
 
 namespace {
 
-// All that a signal handler may touch.
-std::atomic<bool> requested = false;
-static_assert(std::atomic<bool>::is_always_lock_free);
+constexpr int signals[] = {
+    SIGINT,
+    SIGTERM,
+#ifdef SIGHUP
+    SIGHUP,
+#endif
+};
 
-extern "C" void interrupted(int) {
-    requested = true;
-    std::signal(SIGINT, SIG_DFL);
+// All that a signal handler may touch: the signal that came, or 0.
+std::atomic<int> requested = 0;
+static_assert(std::atomic<int>::is_always_lock_free);
+
+void handle(void (*handler)(int)) {
+    for (int const signal : signals)
+        // What a shell starts in the background ignores interruptions already.
+        if (std::signal(signal, handler) == SIG_IGN) std::signal(signal, SIG_IGN);
+}
+
+extern "C" void interrupted(int signal) {
+    requested = signal;
+    for (int const each : signals) std::signal(each, SIG_DFL);
 }
 
 } // namespace
 
 Stop::Stop() {
-    requested = false;
-    // What a shell starts in the background ignores interruptions already.
-    if (std::signal(SIGINT, interrupted) == SIG_IGN) std::signal(SIGINT, SIG_IGN);
+    requested = 0;
+    handle(interrupted);
 }
 
 Stop::~Stop() {
-    if (std::signal(SIGINT, SIG_DFL) == SIG_IGN) std::signal(SIGINT, SIG_IGN);
+    handle(SIG_DFL);
 }
 
 bool Stop::isRequested() {
-    return requested;
+    return requested != 0;
 }
 
 void Stop::end() {
-    std::signal(SIGINT, SIG_DFL);
-    std::raise(SIGINT);
+    std::signal(requested, SIG_DFL);
+    std::raise(requested);
     std::_Exit(2);
 }
 

@@ -1,10 +1,10 @@
-// The wish of a user to end a run early: Ctrl-C.
+// The wish of a user to end a run early: Ctrl-C, the end of a session, or that of the machine.
 #pragma once
 
 namespace Command {
 
-// While one exists, the first interruption is remembered and the run ends by itself; a second one ends the program at
-// once. There is at most one at a time.
+// While one exists, the first SIGINT, SIGTERM or SIGHUP is remembered and the run ends by itself; a second one ends the
+// program at once. There is at most one at a time.
 class Stop {
 public:
     Stop();
@@ -14,7 +14,7 @@ public:
 
     // From any thread.
     static bool isRequested();
-    // Ends the program as an interruption that nobody handles does, so that a loop of a shell ends too.
+    // Ends the program as the signal does when nobody handles it, so that a loop of a shell ends too.
     [[noreturn]] static void end();
 };
 

@@ -19,14 +19,14 @@ namespace fs = std::filesystem;
 constexpr int version = 1;
 
 // A long text by its beginning and a hash of the whole.
-std::string recorded(std::string const& text) {
+std::string recorded(std::string_view text) {
     constexpr std::size_t longest = 120, shown = 60;
-    if (text.size() <= longest) return text;
+    if (text.size() <= longest) return std::string(text);
     std::size_t cut = shown;
     while ((static_cast<unsigned char>(text[cut]) & 0xC0) == 0x80) --cut; // inside of a code point
     char digits[17];
     std::snprintf(digits, sizeof digits, "%016llx", static_cast<unsigned long long>(hashOf(text)));
-    return text.substr(0, cut) + "... " + digits;
+    return std::string(text.substr(0, cut)) + "... " + digits;
 }
 
 } // namespace
@@ -99,7 +99,7 @@ std::vector<std::string> Baseline::gone() const {
         for (auto const& [key, count] : document.counts) {
             if (count == 0) continue;
             auto const& [id, element, attribute, text] = key;
-            std::string line = name + ": ";
+            std::string line = withoutControls(name) + ": ";
             if (!attribute.empty()) line.append(attribute).append("=").append(inQuotes(printable(text))).append(" on ");
             line.append(printable(element)).append(" [").append(id).append("]");
             if (count > 1) line += ", " + std::to_string(count) + " times";
@@ -110,7 +110,8 @@ std::vector<std::string> Baseline::gone() const {
 }
 
 Baseline::Key Baseline::keyOf(Finding const& finding) {
-    return {std::string(kindOf(finding.fault).id), finding.element, finding.attribute, recorded(finding.text)};
+    auto const [id, element, attribute, text] = finding.identity();
+    return {std::string(id), std::string(element), std::string(attribute), recorded(text)};
 }
 
 std::string Baseline::nameOf(std::string const& document) const {

@@ -30,6 +30,19 @@ fs::path absolute(std::string const& path) {
 
 } // namespace
 
+void RunSettings::complete(RunSettings const& others) {
+    auto const take = [](auto& own, auto const& other) {
+        if (!own) own = other;
+    };
+    take(format, others.format);
+    take(color, others.color);
+    take(baseline, others.baseline);
+    take(isGrouped, others.isGrouped);
+    take(isQuiet, others.isQuiet);
+    take(maxFindings, others.maxFindings);
+    take(jobs, others.jobs);
+}
+
 // Reads one file up to the first thing that is wrong.
 class Configuration::Reader {
 public:

@@ -13,13 +13,16 @@
 
 namespace Command {
 
-// Each option is absent where the file does not have it.
+// Each option is absent where the command line or the file does not have it.
 struct RunSettings {
     std::optional<ReportFormat const*> format;
     std::optional<ColorMode> color;
     std::optional<std::string> baseline; // the path
     std::optional<bool> isGrouped, isQuiet;
-    std::optional<std::uint64_t> maxFindings, jobs;
+    std::optional<std::uint64_t> maxFindings, jobs; // the latter as many as there are cores
+
+    // Takes what is absent from the others.
+    void complete(RunSettings const& others);
 };
 
 class Configuration {

@@ -39,14 +39,10 @@ std::string escaped(unsigned char control) {
 
 } // namespace
 
-std::string printable(std::string_view utf8) {
-    constexpr std::size_t most = 80;
+std::string withoutControls(std::string_view utf8) {
     std::string text;
-    std::size_t count = 0;
     for (std::size_t i = 0; i < utf8.size(); ++i) {
         auto const byte = static_cast<unsigned char>(utf8[i]);
-        bool const startsCodePoint = (byte & 0xC0) != 0x80;
-        if (startsCodePoint && count++ == most) return text + "...";
         // C1 controls are C2 80 to C2 9F.
         bool const isC1 = byte == 0xC2 && i + 1 < utf8.size() && static_cast<unsigned char>(utf8[i + 1]) < 0xA0;
         if (byte < 0x20 || byte == 0x7F) {
@@ -58,6 +54,16 @@ std::string printable(std::string_view utf8) {
         }
     }
     return text;
+}
+
+std::string printable(std::string_view utf8) {
+    constexpr std::size_t most = 80;
+    std::size_t count = 0;
+    for (std::size_t i = 0; i < utf8.size(); ++i) {
+        bool const startsCodePoint = (static_cast<unsigned char>(utf8[i]) & 0xC0) != 0x80;
+        if (startsCodePoint && count++ == most) return withoutControls(utf8.substr(0, i)) + "...";
+    }
+    return withoutControls(utf8);
 }
 
 std::string inQuotes(std::string_view text) {

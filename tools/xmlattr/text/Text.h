@@ -18,7 +18,9 @@ constexpr std::size_t utf8Length(char32_t c) {
     return c < 0x80 ? 1 : c < 0x800 ? 2 : c < 0x10000 ? 3 : 4;
 }
 
-// What a message shows of a text: at most 80 code points, control characters as \u{..}.
+// With control characters as \u{..}, ends of lines among them.
+std::string withoutControls(std::string_view utf8);
+// What a message shows of a text: the same of at most 80 code points.
 std::string printable(std::string_view utf8);
 
 std::string inQuotes(std::string_view text);

@@ -9,6 +9,7 @@
 #include "xmlattr/catalogue/text/Words.h"
 
 #include <algorithm>
+#include <array>
 #include <exception>
 #include <memory>
 #include <set>
@@ -46,42 +47,44 @@ ByteEncoding singleByteEncoding(std::string_view name) {
     return ByteEncoding::Utf8;
 }
 
+// Reads one document.
 class Reader final : XmlHandler::Tag {
 public:
-    explicit Reader(XmlHandler& handler) : handler(handler), parser(XML_ParserCreateNS(nullptr, separator)) {
-        if (!parser) throw std::bad_alloc();
-        XML_SetUserData(parser.get(), this);
-        XML_SetElementHandler(parser.get(), onStart, onEnd);
-        XML_SetXmlDeclHandler(parser.get(), onDeclaration);
-        XML_SetUnknownEncodingHandler(parser.get(), onUnknownEncoding, this);
-        XML_SetNamespaceDeclHandler(parser.get(), onNamespace, onNamespaceEnd);
-        XML_SetNotStandaloneHandler(parser.get(), onUnreadDeclarations);
-        XML_SetSkippedEntityHandler(parser.get(), onSkippedEntity);
-        XML_SetExternalEntityRefHandler(parser.get(), onExternalEntity);
-        XML_SetEntityDeclHandler(parser.get(), onEntity);
-        XML_SetParamEntityParsing(parser.get(), XML_PARAM_ENTITY_PARSING_NEVER);
-        XML_SetBillionLaughsAttackProtectionMaximumAmplification(parser.get(), 100.0f);
-        XML_SetBillionLaughsAttackProtectionActivationThreshold(parser.get(), 1 << 20);
+    // The parser is in the state in which it was made.
+    Reader(XML_Parser parser, XmlHandler& handler) : handler(handler), parser(parser) {
+        XML_SetUserData(parser, this);
+        XML_SetElementHandler(parser, onStart, onEnd);
+        XML_SetXmlDeclHandler(parser, onDeclaration);
+        XML_SetUnknownEncodingHandler(parser, onUnknownEncoding, this);
+        XML_SetNamespaceDeclHandler(parser, onNamespace, onNamespaceEnd);
+        XML_SetNotStandaloneHandler(parser, onUnreadDeclarations);
+        XML_SetSkippedEntityHandler(parser, onSkippedEntity);
+        XML_SetExternalEntityRefHandler(parser, onExternalEntity);
+        XML_SetEntityDeclHandler(parser, onEntity);
+        XML_SetParamEntityParsing(parser, XML_PARAM_ENTITY_PARSING_NEVER);
+        XML_SetBillionLaughsAttackProtectionMaximumAmplification(parser, 100.0f);
+        XML_SetBillionLaughsAttackProtectionActivationThreshold(parser, 1 << 20);
     }
 
     // In the encoding that it declares.
-    std::optional<XmlFailure> read(ByteSource& declared) {
-        PeekedSource source(declared);
+    std::optional<XmlFailure> read(PeekedSource& source) {
         std::string const foreign = foreignEncoding(source.peek(longestDeclaration));
         if (foreign.empty()) return readOwn(source);
         std::unique_ptr<TranscodedSource> const transcoded = TranscodedSource::open(source, foreign);
         if (!transcoded) return readOwn(source); // the parser finds the name again and refuses it
-        XML_SetEncoding(parser.get(), "UTF-8");
+        XML_SetEncoding(parser, "UTF-8");
         isTranscoded = true;
         return readOwn(*transcoded);
     }
 
+    // In bytes, as far as it was read.
+    std::int64_t size() const { return total; }
+
 private:
     // In an encoding of the parser's own.
     std::optional<XmlFailure> readOwn(ByteSource& source) {
-        std::int64_t total = 0;
         for (int size = blockSize;;) {
-            void* const buffer = XML_GetBuffer(parser.get(), size);
+            void* const buffer = XML_GetBuffer(parser, size);
             if (!buffer) return failed("limit", "out of memory");
             std::span const block(static_cast<char*>(buffer), static_cast<std::size_t>(size));
             std::size_t const count = source.read(block);
@@ -89,7 +92,7 @@ private:
             total += static_cast<std::int64_t>(count);
 
             bool const isLast = count == 0 && !source.failure();
-            XML_Status const status = XML_ParseBuffer(parser.get(), static_cast<int>(count), isLast);
+            XML_Status const status = XML_ParseBuffer(parser, static_cast<int>(count), isLast);
             if (thrown) std::rethrow_exception(thrown);
             if (failure) return failure;
             if (status != XML_STATUS_OK) return parserFailure();
@@ -98,7 +101,7 @@ private:
 
             // A tag is read anew with each block until it is whole: blocks that grow with it keep
             // the time linear.
-            std::int64_t const pending = total - XML_GetCurrentByteIndex(parser.get());
+            std::int64_t const pending = total - XML_GetCurrentByteIndex(parser);
             if (pending > maxTag) return failed("limit", "a tag or comment of more than 32 MiB");
             size = static_cast<int>(std::clamp<std::int64_t>(pending, blockSize, maxTag - pending + blockSize));
         }
@@ -180,7 +183,7 @@ private:
         if (failure || thrown) return;
         if (depth >= maxDepth) {
             failure = failed("limit", "elements nest more than 10000 deep");
-            XML_StopParser(parser.get(), XML_FALSE);
+            XML_StopParser(parser, XML_FALSE);
             return;
         }
         XmlElement element{.space = {}, .name = name, .attributes = {}, .depth = depth++, .namespaces = namespaces};
@@ -193,8 +196,7 @@ private:
             split(attribute.space, attribute.name);
         }
         element.attributes = attributes;
-        hasTag = false;
-        last = {};
+        renew();
         guarded([&] {
             handler.startElement(element, *this);
             if (content)
@@ -217,14 +219,14 @@ private:
             call();
         } catch (...) {
             thrown = std::current_exception();
-            XML_StopParser(parser.get(), XML_FALSE);
+            XML_StopParser(parser, XML_FALSE);
         }
     }
 
     void startContent() {
         content.emplace();
         hasAllContent = true;
-        XML_SetCharacterDataHandler(parser.get(), onText);
+        XML_SetCharacterDataHandler(parser, onText);
     }
 
     // A text that is written in another way stands in other bytes, or elsewhere.
@@ -238,7 +240,7 @@ private:
     void endInContent() {
         if (content->endElement(here())) return;
         TextValues const ended = *std::exchange(content, std::nullopt);
-        XML_SetCharacterDataHandler(parser.get(), nullptr);
+        XML_SetCharacterDataHandler(parser, nullptr);
         for (TextValues::Value const& value : ended.values()) {
             std::optional<BytePlace> bytes;
             if (value.bytes) bytes = BytePlace{*value.bytes, encoding};
@@ -258,40 +260,31 @@ private:
         name.remove_prefix(at + 1);
     }
 
-    RawTag& raw() override {
-        if (hasTag) return tag;
-        hasTag = true;
-        int const count = XML_GetCurrentByteCount(parser.get()); // 0 inside of an entity
+    TagSource source() override {
+        int const count = XML_GetCurrentByteCount(parser); // 0 inside of an entity
         std::string_view const rest = bytesFromHere();
         bool const isHere = count >= 0 && static_cast<std::size_t>(count) <= rest.size();
-        std::string_view const bytes = isHere ? rest.substr(0, static_cast<std::size_t>(count)) : std::string_view();
-        tag = RawTag(decode(bytes, encoding), here());
-        return tag;
+        return {isHere ? rest.substr(0, static_cast<std::size_t>(count)) : std::string_view(),
+                {byteOffset(), encoding},
+                here(),
+                hasUnreadDeclarations ? &knownEntities : nullptr};
     }
-
-    bool isWhole(std::size_t attribute) override {
-        if (!hasUnreadDeclarations) return true;
-        if (last.attribute != attribute) last = {attribute, raw().refersOnlyTo(attribute, knownEntities)};
-        return last.isWhole;
-    }
-
-    BytePlace bytes() override { return {byteOffset(), encoding}; }
 
     // Of the event at hand.
-    std::uint64_t byteOffset() const { return static_cast<std::uint64_t>(XML_GetCurrentByteIndex(parser.get())); }
-    std::uint64_t byteCount() const { return static_cast<std::uint64_t>(XML_GetCurrentByteCount(parser.get())); }
+    std::uint64_t byteOffset() const { return static_cast<std::uint64_t>(XML_GetCurrentByteIndex(parser)); }
+    std::uint64_t byteCount() const { return static_cast<std::uint64_t>(XML_GetCurrentByteCount(parser)); }
 
     // What the parser has of the file from the event at hand on.
     std::string_view bytesFromHere() const {
         int offset = 0, size = 0;
-        char const* const context = XML_GetInputContext(parser.get(), &offset, &size);
+        char const* const context = XML_GetInputContext(parser, &offset, &size);
         if (!context || offset < 0 || offset > size) return {};
         return std::string_view(context, static_cast<std::size_t>(size)).substr(static_cast<std::size_t>(offset));
     }
 
     Place here() const {
-        std::uint64_t const line = XML_GetCurrentLineNumber(parser.get());
-        std::uint64_t const before = XML_GetCurrentColumnNumber(parser.get());
+        std::uint64_t const line = XML_GetCurrentLineNumber(parser);
+        std::uint64_t const before = XML_GetCurrentColumnNumber(parser);
         return {line, before + 1 - (line == 1 ? std::min(before, markColumns) : 0)};
     }
 
@@ -310,7 +303,7 @@ private:
     XmlFailure failed(std::string_view id, std::string message) const { return {id, std::move(message), here()}; }
 
     XmlFailure parserFailure() const {
-        XML_Error const code = XML_GetErrorCode(parser.get());
+        XML_Error const code = XML_GetErrorCode(parser);
         switch (code) {
         case XML_ERROR_UNKNOWN_ENCODING:
         case XML_ERROR_INCORRECT_ENCODING:
@@ -334,35 +327,46 @@ private:
         }
     }
 
-    struct Free {
-        void operator()(XML_Parser parser) const { XML_ParserFree(parser); }
-    };
-
     XmlHandler& handler;
-    std::unique_ptr<std::remove_pointer_t<XML_Parser>, Free> parser;
+    XML_Parser parser;
+    std::int64_t total = 0; // bytes
     ByteEncoding encoding = ByteEncoding::Utf8;
     bool isTranscoded = false;
     std::uint64_t markColumns = 0; // on line 1
     std::string unknownEncoding;
     int depth = 0;
     std::vector<XmlAttributeText> attributes;
-    bool hasTag = false;
-    RawTag tag;
     bool hasUnreadDeclarations = false;
     std::set<std::string> knownEntities;
     Namespaces namespaces;
     std::optional<TextValues> content; // of the element whose text is wanted
     std::uint64_t contentEnd = 0;      // of the tag or the text before
     bool hasAllContent = true;         // false when an entity left something out of it
-    struct {
-        std::size_t attribute = SIZE_MAX;
-        bool isWhole = false;
-    } last;
     std::optional<XmlFailure> failure;
     std::exception_ptr thrown;
 };
 
 } // namespace
+
+void XmlHandler::Tag::renew() {
+    isRead = false;
+    last = {};
+}
+
+RawTag& XmlHandler::Tag::raw() {
+    if (isRead) return tag;
+    isRead = true;
+    TagSource const from = source();
+    tag = RawTag(decode(from.bytes, from.begin.encoding), from.place);
+    return tag;
+}
+
+bool XmlHandler::Tag::isWhole(std::size_t attribute) {
+    TagSource const from = source();
+    if (!from.entities) return true;
+    if (last.attribute != attribute) last = {attribute, raw().refersOnlyTo(attribute, *from.entities)};
+    return last.isWhole;
+}
 
 std::string nameInDocument(std::string_view local, XmlHandler::Tag& tag) {
     std::string name = tag.raw().elementName();
@@ -370,16 +374,45 @@ std::string nameInDocument(std::string_view local, XmlHandler::Tag& tag) {
     return name;
 }
 
-std::optional<XmlFailure> readXml(ByteSource& source, XmlHandler& handler) {
-    PeekedSource peeked(source);
-    if (!isGzip(peeked.peek(2))) return Reader(handler).read(peeked);
+struct XmlReader::State {
+    struct Free {
+        void operator()(XML_Parser parser) const { XML_ParserFree(parser); }
+    };
+
+    using ParserPointer = std::unique_ptr<std::remove_pointer_t<XML_Parser>, Free>;
+
+    ParserPointer parser;              // null when a new one is to be made
+    std::array<char, blockSize> start; // of the file
+
+    std::optional<XmlFailure> read(PeekedSource& source, XmlHandler& handler) {
+        // What a large document, or a hostile one, made the parser take is not kept.
+        constexpr std::int64_t longestKept = 256 << 10;
+        ParserPointer own = std::exchange(parser, nullptr);
+        bool const isKept = own && XML_ParserReset(own.get(), nullptr);
+        if (!isKept) own.reset(XML_ParserCreateNS(nullptr, separator));
+        if (!own) throw std::bad_alloc();
+        Reader reader(own.get(), handler);
+        std::optional<XmlFailure> failure = reader.read(source);
+        if (!failure && reader.size() <= longestKept) parser = std::move(own);
+        return failure;
+    }
+};
+
+XmlReader::XmlReader() : state(std::make_unique<State>()) {}
+
+XmlReader::~XmlReader() = default;
+
+std::optional<XmlFailure> XmlReader::read(ByteSource& source, XmlHandler& handler) {
+    PeekedSource peeked(source, state->start);
+    if (!isGzip(peeked.peek(2))) return state->read(peeked, handler);
     GzipSource expanded(peeked);
-    return Reader(handler).read(expanded);
+    std::array<char, longestDeclaration> start;
+    PeekedSource peekedAgain(expanded, start);
+    return state->read(peekedAgain, handler);
 }
 
-std::optional<XmlFailure> readXml(std::FILE* file, XmlHandler& handler) {
-    FileSource source(file);
-    return readXml(source, handler);
+std::optional<XmlFailure> readXml(ByteSource& source, XmlHandler& handler) {
+    return XmlReader().read(source, handler);
 }
 
 } // namespace Command

@@ -7,8 +7,11 @@
 #include "xml/Namespaces.h"
 #include "xml/RawTag.h"
 
-#include <cstdio>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
 #include <optional>
+#include <set>
 #include <span>
 #include <string>
 #include <string_view>
@@ -36,21 +39,41 @@ struct XmlText {
     std::optional<BytePlace> bytes;
 };
 
+// What tells everything about a tag.
+struct TagSource {
+    std::string_view bytes; // as the document has them; none inside of an entity
+    BytePlace begin;
+    Place place;
+    // Where a part of the DTD is not read, those of which all is known, until the end of the document.
+    std::set<std::string> const* entities;
+};
+
 class XmlHandler {
 public:
     virtual ~XmlHandler() = default;
     // Gives the tag of the element at hand, for its places; read only when asked for.
     class Tag {
     public:
-        virtual RawTag& raw() = 0;
+        RawTag& raw();
         // Whether the text of the attribute is all that the document says: nothing is left in the
         // place of an entity whose declaration, in a part of the DTD that is not read, is unknown.
-        virtual bool isWhole(std::size_t attribute) = 0;
+        bool isWhole(std::size_t attribute);
         // Where the tag begins.
-        virtual BytePlace bytes() = 0;
+        BytePlace bytes() { return source().begin; }
+        virtual TagSource source() = 0;
 
     protected:
         ~Tag() = default;
+        // From now on another tag is at hand.
+        void renew();
+
+    private:
+        bool isRead = false;
+        RawTag tag;
+        struct {
+            std::size_t attribute = SIZE_MAX;
+            bool isWhole = false;
+        } last;
     };
     virtual void startElement(XmlElement const& element, Tag& tag) = 0;
 
@@ -81,6 +104,17 @@ struct XmlFailure {
 // is ever read. There is a limit to how far entities and compressed files may expand, how deep elements nest and
 // how long one tag is; memory is bounded by the longest tag.
 std::optional<XmlFailure> readXml(ByteSource& source, XmlHandler& handler);
-std::optional<XmlFailure> readXml(std::FILE* file, XmlHandler& handler);
+
+// Reads many documents, as readXml() does, in memory that is used again.
+class XmlReader {
+public:
+    XmlReader();
+    ~XmlReader();
+    std::optional<XmlFailure> read(ByteSource& source, XmlHandler& handler);
+
+private:
+    struct State;
+    std::unique_ptr<State> state;
+};
 
 } // namespace Command

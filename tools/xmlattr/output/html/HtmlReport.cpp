@@ -165,9 +165,8 @@ public:
 private:
     static std::string keyOf(Finding const& finding) {
         constexpr std::size_t longest = 1024; // what is kept of a text; of a longer one its hash as well
-        std::string key(kindOf(finding.fault).id);
-        for (std::string_view const text :
-             std::initializer_list<std::string_view>{finding.element, finding.attribute, finding.text}) {
+        std::string key;
+        for (std::string_view const text : finding.identity()) {
             key.append(1, '\0').append(text.substr(0, longest));
             if (text.size() > longest) key += std::to_string(std::hash<std::string_view>()(text));
         }
@@ -220,6 +219,8 @@ private:
             counted(counts.attributes, "attribute");
         if (counts.declarations > 0) text += " and " + counted(counts.declarations, "style declaration");
         text += ".</p>\n";
+        if (counts.ignored > 0) text += "<p>Left out: " + counted(counts.ignored, "finding") + ".</p>\n";
+        if (counts.known > 0) text += "<p>In the baseline: " + counted(counts.known, "finding") + ".</p>\n";
         if (told + untold < counts.findings()) text += "<p>Shown: " + counted(told + untold, "finding") + ".</p>\n";
         if (untold > 0)
             text += "<p>" + counted(untold, "finding") + " came after the first " + grouped(mostEntries) +

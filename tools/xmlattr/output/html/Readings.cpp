@@ -111,30 +111,51 @@ struct Candidate {
     std::optional<Xml::AnyAttribute> value{};
 };
 
+std::optional<Xml::AnyAttribute> valueOf(Xml::AttributeType const* type, std::string const& text) {
+    std::optional<Xml::AnyAttribute> value;
+    if (!type || text.size() > mostDrawn) return value;
+    value.emplace(*type);
+    if (!value->parseValue(Core::String::fromUtf8(text))) value.reset();
+    return value;
+}
+
+// Of a part of a shorthand the finding that it would be on the attribute whose value it is, where that is known.
+Finding ofLonghand(Finding const& finding) {
+    bool const isReplaced = finding.text.substr(finding.offset, finding.length) == finding.part;
+    if (finding.part.empty() || (!isReplaced && !finding.replacement.empty())) return finding;
+    for (Xml::CatalogueEntry const* const longhand : finding.entry->longhands) {
+        auto const value = valueOf(longhand->type(), finding.part);
+        if (!value || value->getValueAsString().toUtf8() != finding.held) continue;
+        Finding part = finding;
+        part.entry = longhand;
+        part.text = finding.part;
+        std::size_t const after = finding.text.size() - finding.offset - finding.length;
+        if (isReplaced && !finding.replacement.empty())
+            part.replacement =
+                finding.replacement.substr(finding.offset, finding.replacement.size() - finding.offset - after);
+        return part;
+    }
+    return finding;
+}
+
 // What was meant comes first, where it is known: an exact replacement is read as what the text means.
 std::vector<Candidate> candidatesOf(Finding const& finding) {
     Xml::AttributeType const* const type = finding.entry->type();
-    auto const valueOf = [&](std::string const& text) {
-        std::optional<Xml::AnyAttribute> value;
-        if (!type || text.size() > mostDrawn) return value;
-        value.emplace(*type);
-        if (!value->parseValue(Core::String::fromUtf8(text))) value.reset();
-        return value;
-    };
     bool const isHeld = finding.fault == Fault::Misread || finding.fault == Fault::Lenient ||
                         finding.fault == Fault::Negative || !finding.held.empty();
     std::vector<Candidate> candidates;
-    if (finding.isExact) candidates.push_back({meansCaption, {}, valueOf(finding.replacement)});
-    if (isHeld) candidates.push_back({heldCaption, finding.held, valueOf(finding.text)});
+    if (finding.isExact) candidates.push_back({meansCaption, {}, valueOf(type, finding.replacement)});
+    if (isHeld) candidates.push_back({heldCaption, finding.held, valueOf(type, finding.text)});
     if (!finding.isExact && !finding.replacement.empty())
-        candidates.push_back({perhapsCaption, {}, valueOf(finding.replacement)});
+        candidates.push_back({perhapsCaption, {}, valueOf(type, finding.replacement)});
     return candidates;
 }
 
 } // namespace
 
-std::vector<Reading> readingsOf(Finding const& finding) {
-    if (!finding.entry) return {};
+std::vector<Reading> readingsOf(Finding const& whole) {
+    if (!whole.entry) return {};
+    Finding const finding = whole.entry->longhands.empty() ? whole : ofLonghand(whole);
     std::vector<Candidate> candidates = candidatesOf(finding);
     Box box;
     std::vector<std::optional<Shape>> shapes;
