@@ -58,7 +58,7 @@ int check(Command::ReportFormat const& format, std::string const& document, std:
     Command::CheckOptions options;
     options.paths = {document};
     options.output = report;
-    options.format = &format;
+    options.run.format = &format;
     std::string whole;
     int failures = 0;
     for (long allocations = -1; failures < 20; ++allocations) {
@@ -100,6 +100,7 @@ int check(Command::ReportFormat const& format, std::string const& document, std:
 int main(int argc, char** argv) {
     if (argc != 2) return 2;
     std::string const folder = argv[1], document = folder + "/document.fo";
+    std::filesystem::remove_all(folder);
     std::filesystem::create_directories(folder);
     std::ofstream(document) << "<block xmlns='http://www.w3.org/1999/XSL/Format' id='a' ref-id='b' widht='1'\n"
                                " color='Rot' border='1q solid red' font='12pt/14pt serif'/>";
