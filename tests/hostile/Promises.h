@@ -20,6 +20,14 @@ namespace Promises {
 
 using namespace Xml;
 
+template <class T, class... Listed> constexpr bool isAmong = (std::is_same_v<T, Listed> || ...);
+
+// The classes that hold no floating number.
+template <class T>
+constexpr bool holdsNoNumbers =
+    isAmong<T, Core::String, AxisSource, DisplayCondition, Drawing::ImageFilter, ForcePageCount, InitialPageNumber,
+            InitialSheetNumber, Language, MaxDataPoints, SPreserveAspectRatio, STextDecoration, TPRule, TextAlign, Url>;
+
 // Calls see(number) for every number in a value.
 template <class T, class See> void eachNumber(T const& value, See see) {
     auto const look = [&](auto const&... parts) { (eachNumber(parts, see), ...); };
@@ -77,6 +85,9 @@ template <class T, class See> void eachNumber(T const& value, See see) {
     } else if constexpr (
         requires { value.begin()->x; } || requires { value.begin()->type; } || requires { value.begin()->pxSize(); }) {
         for (auto const& element : value) look(element);
+    } else {
+        static_assert(std::is_enum_v<T> || std::is_integral_v<T> || holdsNoNumbers<T>,
+                      "a class that holds numbers is taken apart above; holdsNoNumbers lists those that hold none");
     }
 }
 
