@@ -44,5 +44,11 @@ TEST(ParseUtil, CallsEndAtTheFirstParenthesis) {
     }
 }
 
+TEST(ParseUtil, ComparesUnitByUnit) {
+    EXPECT_TRUE(equalsText(u"auto", u"auto"));
+    for (char16_t const* text : {u"Auto", u"aut", u"auto ", u""})
+        EXPECT_FALSE(equalsText(text, u"auto")) << narrow(text);
+}
+
 } // namespace
 } // namespace Xml

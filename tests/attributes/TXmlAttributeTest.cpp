@@ -1,7 +1,12 @@
 #include "Support.h"
 #include "xmlattr/attributes/PlainValues.h"
-#include "xmlattr/measures/Length.h"
+#include "xmlattr/document/TPRule.h"
+#include "xmlattr/measures/ColumnWidth.h"
+#include "xmlattr/measures/ContentLength.h"
+#include "xmlattr/measures/LengthOrPercent.h"
 #include "xmlattr/measures/SLength.h"
+#include "xmlattr/measures/SLengthOrPercent.h"
+#include "xmlattr/measures/TableWidth.h"
 
 #include <cfloat>
 
@@ -75,6 +80,33 @@ TEST(TXmlAttribute, SomeTypesRefuseTheVirtualComparison) {
     TXmlAttribute<SNullableLength> null(SNullableLength{});
     EXPECT_FALSE(null.isEqual(u"0"));
     EXPECT_TRUE(null.isEqual(u"0", int_to_type<1>())) << "the null flag takes no part";
+}
+
+// Whether a named reader of a class is that of its attributes.
+template <class T> void expectReadsAlike(bool (*read)(T&, Core::String const&)) {
+    int changed = 0;
+    for (char16_t const* text : {u"3pt", u"50%", u"7", u"auto", u"none", u"f(2pt)", u"proportional-column-width(2)",
+                                 u"scale-to-fit", u"FIND_KEYWORD(x)", u"?", u""}) {
+        T value{};
+        TXmlAttribute<T> attribute(value);
+        bool const isRead = attribute.parseValue(text);
+        changed += isRead && attribute != value;
+        EXPECT_EQ(read(value, text), isRead) << narrow(text);
+        EXPECT_TRUE(attribute == value) << narrow(text);
+    }
+    EXPECT_GT(changed, 0);
+}
+
+TEST(NamedReaders, ReadWhatAttributesRead) {
+    expectReadsAlike(Length::parseLength);
+    expectReadsAlike(SLength::parseSLength);
+    expectReadsAlike(SLength::parseSLengthOrPercent);
+    expectReadsAlike(LengthOrPercentAuto::parseLengthOrPercentAuto);
+    expectReadsAlike(Margin::parseMargin);
+    expectReadsAlike(ContentLength::parseContentLength);
+    expectReadsAlike(ColumnWidth::parseColumnWidth);
+    expectReadsAlike(TableWidth::parseTableWidth);
+    expectReadsAlike(TPRule::parseRule);
 }
 
 TEST(PlainValues, ReadAndPrintAsTheyAre) {

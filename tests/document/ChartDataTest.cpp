@@ -27,6 +27,8 @@ TEST(AxisSource, SplitsCallsOfGroupingFunctions) {
         EXPECT_EQ(narrow(source->getFn()), row.fn);
         EXPECT_EQ(narrow(source->getName()), row.name);
     }
+    for (char16_t const* text : {u"year(", u"Years", u"dayOfYear (x)"}) EXPECT_TRUE(AxisSource::hasFn(text));
+    for (char16_t const* text : {u" year(x)", u"avg(x)", u""}) EXPECT_FALSE(AxisSource::hasFn(text));
     EXPECT_EQ(printed<AxisSource>(u"Month( Date )"), "Month(Date)");
     EXPECT_EQ(printed<AxisSource>(u" avg( x ) "), " avg( x ) ");
 }

@@ -61,6 +61,10 @@ TEST(STextShadow, ReadsSvgLengthsAndAPaint) {
     EXPECT_FALSE(attribute.isEqual(u"url(#b) 2 50% 4"));
     EXPECT_TRUE(*parsed<STextShadow>(u"none 3") == *parsed<STextShadow>(u"3")) << "absence is not compared";
     SmartPtr<Drawing::Color> const black = new Drawing::RGBColor(0, 0, 0);
+    STextShadow filled = *shadow;
+    EXPECT_TRUE(filled.readFromString(u"7 red") && filled.getDx() == SLength(7, SLength::UserUnit) &&
+                filled.getDy() == shadow->getDy() && filled.getColor().getColor());
+    EXPECT_FALSE(filled.readFromString(u""));
     STextShadow const made(SLength(), SLength(), SLength(), black);
     EXPECT_TRUE(made.getColor().getColor() == black && made.getColor().isNull() && made != STextShadow());
 }
