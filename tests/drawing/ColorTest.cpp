@@ -38,6 +38,9 @@ TEST(Color, PlainComponentsAreReadLikeAllOthers) {
 }
 
 TEST(Color, ClonesAreNewObjectsOfTheSameContents) {
+    struct Unique : Color {};
+    SmartPtr<Color> const unique = new Unique;
+    EXPECT_FALSE(unique->clone()) << "a class that says nothing of copies";
     auto const rgb = cloneOf<RGBColor>(new RGBColor(1, 2, 3));
     EXPECT_TRUE(rgb && rgb->getR() == 1 && rgb->getG() == 2 && rgb->getB() == 3);
     auto const cmyk = cloneOf<CMYKColor>(new CMYKColor(0.1, 0.2, 0.3, 4));
