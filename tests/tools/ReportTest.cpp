@@ -1,6 +1,7 @@
 // Reports of findings whose texts and files try to be something else.
 #include "output/Report.h"
 #include "output/Json.h"
+#include "text/Text.h"
 
 #include <gtest/gtest.h>
 
@@ -65,6 +66,13 @@ std::string reportOf(std::string_view format) {
     return report;
 }
 
+TEST(Report, ControlsHaveNumbers) {
+    EXPECT_EQ(printable("\x1F \x7F\xC2\x80\xC2\x9F\xC2\xA0"), "\\u{1f} \\u{7f}\\u{80}\\u{9f}\xC2\xA0");
+    std::string const eighty = std::string(79, 'x') + "\u00E9";
+    EXPECT_EQ(printable(eighty), eighty);
+    EXPECT_EQ(printable(eighty + "\u00E9"), eighty + "...");
+}
+
 TEST(Report, JsonKeepsEveryText) {
     std::istringstream lines(reportOf("json"));
     std::size_t count = 0;
@@ -77,6 +85,8 @@ TEST(Report, JsonKeepsEveryText) {
             bool const isFailure = count % 2 == 1;
             EXPECT_EQ(object[isFailure ? "message" : "text"], texts[count / 2]);
             EXPECT_EQ(object["severity"], isFailure ? "fatal" : "warning");
+            EXPECT_EQ(object["id"], isFailure ? "malformed" : "lenient");
+            EXPECT_TRUE(object["line"] == 1 && object["column"] == (isFailure ? 2 : 1));
         }
     }
     EXPECT_EQ(count, 2 * std::size(texts) + 1);
