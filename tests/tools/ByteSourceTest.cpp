@@ -119,9 +119,10 @@ TEST(TranscodedSource, KeepsPlacesInCodePoints) {
     };
     for (Row const& row :
          {Row{"ISO-8859-2", "\xB1\xE6", "\u0105\u0107"}, Row{"ISO-8859-15", "\xA4\xBD", "\u20AC\u0153"},
-          Row{"KOI8-R", "\xC1\xC2", "\u0430\u0431"}, Row{"windows-1251", "\xE0\xE1", "\u0430\u0431"},
-          Row{"Windows-1250", "\x8A\x9A", "\u0160\u0161"}, Row{"Shift_JIS", "\x83\x65\x93\xFA", "\u30C6\u65E5"},
-          Row{"EUC-JP", "\xC6\xFC\xCB\xDC", "\u65E5\u672C"}, Row{"GB18030", "\xC4\xE3\x81\x30\x81\x30", "\u4F60\u0080"},
+          Row{"ANSI_X3.4-1968", "ab", "ab"}, Row{"KOI8-R", "\xC1\xC2", "\u0430\u0431"},
+          Row{"windows-1251", "\xE0\xE1", "\u0430\u0431"}, Row{"Windows-1250", "\x8A\x9A", "\u0160\u0161"},
+          Row{"Shift_JIS", "\x83\x65\x93\xFA", "\u30C6\u65E5"}, Row{"EUC-JP", "\xC6\xFC\xCB\xDC", "\u65E5\u672C"},
+          Row{"GB18030", "\xC4\xE3\x81\x30\x81\x30", "\u4F60\u0080"},
           Row{"Big5", "\xA4\xA4\xA4\xE5", "\u4E2D\u6587"}}) {
         std::string document = "<?xml version='1.0' encoding = \""s + row.encoding + "\"?>\n<a b='" + row.bytes +
                                "' x='" + row.bytes + "'>";
@@ -152,6 +153,9 @@ TEST(TranscodedSource, RefusesBytesOfAnotherEncoding) {
     std::string const message = "encoding: the file is not in EUC-JP, the encoding that it declares";
     EXPECT_EQ(placesIn(declaration + "<a x=''><b x='\xFF'/></a>"), "1:43= " + message);
     EXPECT_EQ(placesIn(declaration + "<a x=''/>\xC6"), "1:43= " + message) << "half a character at the end";
+    MemorySource source(declaration);
+    EXPECT_TRUE(TranscodedSource::open(source, "EUC-JP"));
+    EXPECT_FALSE(TranscodedSource::open(source, "EUC-JP//IGNORE"));
 }
 #endif
 

@@ -15,6 +15,7 @@ struct Outcome {
     Place last;             // of the findings
     std::string attributes; // that were refused, each followed by a blank
     std::string messages;   // each with its column before and a line end after it
+    std::string excerpts;   // what the document has of the findings, each followed by a bar
 };
 
 inline Outcome checkDocument(std::string_view document) {
@@ -23,6 +24,7 @@ inline Outcome checkDocument(std::string_view document) {
         outcome.last = finding.place;
         outcome.attributes += finding.attribute + " ";
         outcome.messages += std::to_string(finding.place.column) + " " + finding.message() + "\n";
+        outcome.excerpts += finding.source.part + "|";
     });
     MemorySource source(document);
     if (auto const failure = readXml(source, checker))

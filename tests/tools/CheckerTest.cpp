@@ -92,6 +92,22 @@ TEST(Checker, TellsWhatIsNoDeclaration) {
     EXPECT_EQ(outcome.counts.unread, 1u);
 }
 
+TEST(Checker, ShowsWhatTheDocumentHas) {
+    for (auto const& [document, excerpts] :
+         {std::pair{svg + "width='1&#32;q' nope='' style='fill:q;fil : red'/>", "1&#32;q|nope|q|fil|"},
+          {"<f:blok xmlns:f='http://www.w3.org/1999/XSL/Format'/>", "f:blok|"}})
+        EXPECT_EQ(checkDocument(document).excerpts, excerpts) << document;
+}
+
+TEST(Checker, FollowsResultsWithinAFilter) {
+    Outcome const outcome =
+        checkDocument(svg + "xmlns:x='urn:x'><filter><feTile in='a'/><feTile in='a' result='b' x:result='c'/>"
+                            "<feBlend in='b' in2='c'/><feTile in='SourceAlpha'/></filter><feTile in='d'/>"
+                            "<filter><feTile in='b'/></filter></svg>");
+    EXPECT_EQ(outcome.excerpts, "a|a|c|b|") << outcome.messages;
+    EXPECT_EQ(outcome.attributes, "in in in2 in ");
+}
+
 TEST(Checker, JudgesWhatStylesheetsMake) {
     struct Row {
         char const *content, *messages;

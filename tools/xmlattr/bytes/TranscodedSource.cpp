@@ -61,10 +61,10 @@ struct TranscodedSource::State {
 };
 
 std::unique_ptr<TranscodedSource> TranscodedSource::open(ByteSource& source, std::string const& encoding) {
-    // A name with a slash is an instruction to some implementations.
+    // What XML has in such names. One with a slash is an instruction to some implementations.
     auto const isNamePart = [](char c) {
         return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '-' || c == '_' ||
-               c == '.' || c == ':' || c == '+';
+               c == '.';
     };
     if (!std::ranges::all_of(encoding, isNamePart)) return nullptr;
     auto* const converter = iconv_open("UTF-8", encoding.c_str());
