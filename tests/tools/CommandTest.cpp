@@ -56,6 +56,9 @@ TEST(Command, FindsEachPlantedFault) {
         EXPECT_NE(result.output.find(message), std::string::npos) << message;
     EXPECT_NE(result.errors.find(" refused, "), std::string::npos) << result.errors;
     EXPECT_EQ(run("check -q --max-findings 2 " XMLATTR_SAMPLES "/faults.fo | wc -l").output, "2\n");
+    std::string const both = scratch + "/both";
+    std::string const told = run("check " XMLATTR_SAMPLES "/faults.fo >" + both + " 2>&1; cat " + both).output;
+    EXPECT_EQ(told, result.output + result.errors) << "in this order";
 }
 
 TEST(Command, SpeaksJson) {
