@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <fstream>
 #include <regex>
+#include <set>
 #include <sstream>
 #include <unistd.h>
 
@@ -123,6 +124,28 @@ TEST(Report, SarifKeepsEveryText) {
     }
     EXPECT_EQ(results.back()["occurrenceCount"], 3);
     EXPECT_FALSE(results.back().contains("baselineState"));
+}
+
+TEST(Report, SarifTellsFindingsApart) {
+    std::filesystem::create_directories(folder);
+    ReportFile out((folder / "report").string());
+    auto const reporter =
+        std::ranges::find(reportFormats(), "sarif", &ReportFormat::word)->make(out, {.isQuiet = true});
+    Finding moved = findingOf("a");
+    moved.place = moved.source.begin = {7, 1};
+    for (auto const& [name, finding] :
+         {std::pair{"x.svg", findingOf("a")}, {"x.svg", findingOf("b")}, {"x.svg", findingOf("a")}, {"y.svg", moved}})
+        reporter->finding(name, finding);
+    reporter->finish({}, 4);
+    out.complete();
+    std::vector<std::string> prints;
+    Json const report = Json::parse(contentOf(folder / "report"));
+    for (Json const& result : report["runs"][0]["results"])
+        prints.push_back(result["partialFingerprints"]["findingHash/v1"].get<std::string>());
+    std::filesystem::remove_all(folder);
+    ASSERT_EQ(prints.size(), 4);
+    EXPECT_EQ(prints[0], prints[3]) << "elsewhere";
+    EXPECT_EQ(std::set(prints.begin(), prints.end()).size(), 3) << "twice in a file";
 }
 
 TEST(Report, GithubHasOneCommandALine) {
