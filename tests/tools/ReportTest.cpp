@@ -174,6 +174,7 @@ TEST(Report, HtmlHasNoMarkupFromDocuments) {
         EXPECT_EQ(count(text), 0) << text;
     EXPECT_TRUE(std::ranges::none_of(page, [](char c) { return c >= 0 && c < ' ' && c != '\n' && c != '\t'; }));
     EXPECT_GT(count("\\u{202e}"), 0);
+    EXPECT_EQ(count(" and 3 more</summary>"), 1) << "one finding, and three in a group";
 }
 
 TEST(Report, TextHasOneLineForEachWhateverAFileIsCalled) {
