@@ -46,7 +46,7 @@ TEST(NewerRecommendation, NamesIt) {
              Row{u"12q1", "", ""},
              Row{u"1remm", "", ""},
              Row{u"url(rgba(x).png)", "", ""},
-             Row{u"'calc(1px)' \"unset", "", ""},
+             Row{u"a 'calc(1px)' \"unset", "", ""},
              Row{u"context", "", ""},
              Row{u"", "", ""},
          }) {
