@@ -46,7 +46,7 @@ TEST(Command, FindsEachPlantedFault) {
           "padding=\"1pt 2pt 3pt 4pt 5pt\" on fo:block has more than 4 parts [bad-value]"s,
           "warning: hyphenate=\"treu\" on fo:block is not legal, but the formatter takes it; write \"true\" [lenient]"s,
           "warning: margin-left=\"10\" on fo:block is read as 1000%; write \"10pt\" [lenient]"s,
-          "warning: fo:blok is no element of its vocabulary; did you mean \"fo:block\"? [unknown-element]"s,
+          "warning: fo:blok is not an element of XSL-FO 1.1; did you mean \"fo:block\"? [unknown-element]"s,
           "warning: widht on fo:block is no known attribute; did you mean \"width\"? [unknown-attribute]"s,
           "warning: writing-mode=\"lr_tb\" on fo:block-container is not legal; expected lr-tb, "s,
           "warning: font-size=\"-3pt\" on fo:block is negative, and is read as -3pt"s,

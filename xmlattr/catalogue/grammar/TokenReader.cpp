@@ -152,7 +152,8 @@ bool readFamilyName(Item& item, ValueCursor& cursor) {
     while (!cursor.atEnd() && std::u16string_view(u",;/()\"'").find(cursor.peek()) == std::u16string_view::npos)
         ++cursor.index;
     item.text = trimXmlSpace(cursor.text.substr(first, cursor.index - first));
-    return !item.text.empty() && (cursor.atEnd() || cursor.peek() == u',');
+    bool const isInherit = equalsWord(item.text, "inherit", cursor.dialect != Dialect::Fo);
+    return !item.text.empty() && !isInherit && (cursor.atEnd() || cursor.peek() == u',');
 }
 
 // White space alone is a character too, which the cursor has skipped.
