@@ -112,6 +112,11 @@ TEST(Checker, JudgesTheValuesOfAnimations) {
     }
 }
 
+TEST(Checker, TellsEachPartOfAShorthandThatIsWrong) {
+    EXPECT_NE(checkDocument(block + "border='q 1 x'/>").messages.find("\"q\", \"1\" and \"x\" are not legal"),
+              std::string::npos);
+}
+
 TEST(Checker, TellsWhatIsNoDeclaration) {
     struct Row {
         char const *style, *messages;

@@ -37,6 +37,17 @@ public:
     throw RewriteFailure("unreadable", "cannot be read: " + why);
 }
 
+// As patch takes it: a name that is absolute or leads upwards begins in the folder of the call, if the file lies below.
+std::string nameInDiff(std::string const& name) {
+    fs::path const path = pathOf(name);
+    if (!path.is_absolute() && std::ranges::find(path, "..") == path.end()) return path.generic_string();
+    std::error_code error;
+    fs::path const folder = fs::canonical(fs::absolute(path).parent_path(), error);
+    fs::path const below = (folder / path.filename()).lexically_relative(fs::current_path(error));
+    bool const isBelow = !below.empty() && *below.begin() != "..";
+    return (isBelow ? below : path).generic_string();
+}
+
 // Standard input as a file that can be read twice.
 OpenFile openInput() {
     if (std::fseek(stdin, 0, SEEK_SET) == 0) return OpenFile(stdin);
@@ -162,7 +173,7 @@ private:
 
     std::unique_ptr<RewrittenDocument> destinationOf(Job const& job, std::string const& name) {
         if (options.isDryRun)
-            return std::make_unique<UnifiedDiff>(pathOf(name).generic_string(), isColored,
+            return std::make_unique<UnifiedDiff>(nameInDiff(name), isColored,
                                                  [](std::string const& diff) { print(diff); });
         if (job.isInput()) return std::make_unique<PrintedDocument>();
         return std::make_unique<ReplacedFile>(system, folders, job.target, job.document);
