@@ -306,6 +306,23 @@ TEST(Command, FixesFilesInPlace) {
     EXPECT_EQ(run("fix /dev/null").code, 2);
 }
 
+TEST(Command, FixesWhatTheConfigurationOfADocumentHas) {
+    std::filesystem::remove_all(scratch);
+    std::filesystem::create_directories(scratch + "/tree");
+    std::string const file = write("tree/a.svg", drawing("1PX", " height='2PX' x='q'/>\n"));
+    write("tree/xmlattr.toml", "ignore = ['attribute:width', 'attribute:x']\n");
+    std::filesystem::path const before = std::filesystem::current_path();
+    std::filesystem::current_path(scratch);
+    std::string const diff = run("fix -n " + scratch + "/tree/../tree/a.svg").output;
+    std::filesystem::current_path(before);
+    EXPECT_TRUE(diff.starts_with("--- tree/a.svg\n+++ tree/a.svg\n")) << diff;
+    Result const result = run("fix " + file);
+    EXPECT_EQ(contentOf(file), drawing("1PX", " height='2px' x='q'/>\n"));
+    EXPECT_TRUE(result.errors.ends_with("values fixed 1 (1 lenient), findings left 0\n")) << result.errors;
+    write("tree/xmlattr.toml", "ignore = 'no-such-id'\n");
+    EXPECT_EQ(run("fix " + file).code, 2);
+}
+
 TEST(Command, FixesWhatLinksLeadToAndWritesElsewhere) {
     namespace fs = std::filesystem;
     fs::remove_all(scratch);

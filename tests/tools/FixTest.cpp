@@ -32,7 +32,7 @@ Outcome fixDocument(std::string_view document, Fixer::Options const& options = {
     Rewriter rewriter(copied, versions);
     Outcome outcome;
     Fixer fixer(
-        options, [&](Edit const& edit) { rewriter.apply(edit); },
+        options, [](Finding const&) { return true; }, [&](Edit const& edit) { rewriter.apply(edit); },
         [&](Finding const& finding, std::string_view reason) {
             outcome.reasons += finding.attribute + ": " + std::string(reason) + "\n";
         });
@@ -107,6 +107,12 @@ TEST(Fix, FollowsTheBranchesOfStylesheets) {
                "</x:text></x:when><x:otherwise>\n " + second + "\n</x:otherwise></x:choose></x:attribute></path></x:t>";
     };
     EXPECT_EQ(fixDocument(document("M0 0l.5.5", "M1 1l.5.5")).document, document("M0 0l.5 .5", "M1 1l.5 .5"));
+}
+
+TEST(Fix, WritesEachValueOfAnAnimation) {
+    Outcome const outcome =
+        fixDocument("<svg><animate attributeName='d' values='M0&#32;0l.5.5;M0 0; M1-1l.1.1 ;q'/></svg>");
+    EXPECT_EQ(outcome.document, "<svg><animate attributeName='d' values='M0&#32;0l.5 .5;M0 0; M1-1l.1 .1 ;q'/></svg>");
 }
 
 TEST(Fix, TellsWhatItLeaves) {

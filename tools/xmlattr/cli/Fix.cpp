@@ -6,6 +6,7 @@
 #include "fixing/ReplacedFile.h"
 #include "fixing/UnifiedDiff.h"
 #include "output/Report.h"
+#include "selecting/Configuration.h"
 #include "text/Path.h"
 #include "text/Text.h"
 
@@ -73,6 +74,7 @@ OpenFile openFile(std::string const& path) {
 struct Job {
     std::string document;
     fs::path target;
+    std::vector<FileSettings const*> settings{};
 
     bool isInput() const { return document == "-"; }
 };
@@ -98,6 +100,17 @@ std::vector<Job> jobsOf(FixOptions const& options, std::vector<std::string>& pro
         }
     }
     return jobs;
+}
+
+// Adds what the configurations say of the documents; gives what is wrong with one of them.
+std::optional<std::string> readConfigurations(Configurations& configurations, std::vector<Job>& jobs) {
+    for (Job& job : jobs) {
+        Configuration const* configuration = nullptr;
+        if (job.isInput()) continue;
+        if (auto problem = configurations.find(job.document, configuration)) return problem;
+        if (configuration) configuration->addSettings(job.document, job.settings);
+    }
+    return std::nullopt;
 }
 
 class Fixing {
@@ -151,8 +164,12 @@ private:
         std::string_view const start = source.peek(longestDeclaration);
         bool const hasPlaces = !isGzip(start) && foreignEncoding(start).empty();
         Rewriter rewriter(copied, *rewritten);
+        auto const isWanted = [&](Finding const& finding) {
+            return std::ranges::all_of(job.settings,
+                                       [&](FileSettings const* settings) { return settings->filter.passes(finding); });
+        };
         Fixer fixer(
-            {options.takesSuggestions, hasPlaces}, [&](Edit const& edit) { rewriter.apply(edit); },
+            {options.takesSuggestions, hasPlaces}, isWanted, [&](Edit const& edit) { rewriter.apply(edit); },
             [&](Finding const& finding, std::string_view reason) { tell(name, finding, reason); });
         std::optional<XmlFailure> failure = readXml(source, fixer);
         if (!failure) fixer.finish();
@@ -219,8 +236,13 @@ int fix(FixOptions const& options) {
     Core::Log::setHandler([](Core::String const&) {});
 
     std::vector<std::string> problems;
-    std::vector<Job> const jobs = jobsOf(options, problems);
+    std::vector<Job> jobs = jobsOf(options, problems);
     for (std::string const& line : problems) printError("xmlattr: " + line + "\n");
+    Configurations configurations;
+    if (auto const problem = readConfigurations(configurations, jobs)) {
+        printError("xmlattr: " + *problem + "\n");
+        return 2;
+    }
     Fixing fixing(options, std::ranges::any_of(jobs, &Job::isInput));
     for (Job const& job : jobs) fixing.fix(job);
     fixing.syncFolders();
