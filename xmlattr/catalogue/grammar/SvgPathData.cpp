@@ -129,7 +129,7 @@ public:
         if (differs()) return;
         if (next == end) return differ(at, at + 1, "nothing");
         current = next++;
-        if (current->kind != kind || current->relative != relative) differ(at, at + 1, letterOf(*current));
+        if (current->kind != kind || current->relative != relative) differ(at, at + 1, {letterOf(*current)});
     }
     void number(SvgNumber const& number, SLength Command::*field) {
         if (!differs()) expect(number, current->*field);
@@ -141,15 +141,10 @@ public:
         if (!differs() && current->*field != (*at == u'1')) differ(at, at + 1, current->*field ? "1" : "0");
     }
     void finish(char16_t const* at) {
-        if (next != end) differ(at, at, letterOf(*next));
+        if (next != end) differ(at, at, {letterOf(*next)});
     }
 
 private:
-    static std::string letterOf(Command const& command) {
-        std::string_view const letters = command.relative ? "mzlhvcsqta" : "MZLHVCSQTA"; // by kind, from MoveTo on
-        return std::string(letters.substr(static_cast<std::size_t>(command.kind - PathCommandKind::MoveTo), 1));
-    }
-
     Command const* next;
     Command const* end;
     Command const* current = nullptr;
