@@ -3,6 +3,7 @@
 #include "cli/Commands.h"
 #include "cli/Files.h"
 #include "fixing/Fixer.h"
+#include "fixing/GzipDocument.h"
 #include "fixing/ReplacedFile.h"
 #include "fixing/UnifiedDiff.h"
 #include "output/Report.h"
@@ -156,14 +157,21 @@ private:
     // Nothing is left of what was done before a failure.
     std::optional<XmlFailure> rewrite(Job const& job, std::string const& name) {
         OpenFile opened = job.isInput() ? openInput() : openFile(job.document);
-        std::unique_ptr<RewrittenDocument> const rewritten = destinationOf(job, name);
         SharedFileSource checked(opened.get()), copied(opened.get());
         constexpr std::size_t longestDeclaration = 1 << 10;
-        std::array<char, longestDeclaration> room;
-        PeekedSource source(checked, room);
-        std::string_view const start = source.peek(longestDeclaration);
-        bool const hasPlaces = !isGzip(start) && foreignEncoding(start).empty();
-        Rewriter rewriter(copied, *rewritten);
+        std::array<char, longestDeclaration> room, unpackedRoom;
+        PeekedSource start(checked, room);
+        bool const isPacked = isGzip(start.peek(longestDeclaration));
+        std::optional<GzipSource> unpacked, unpackedCopy;
+        if (isPacked) {
+            unpacked.emplace(start);
+            unpackedCopy.emplace(copied);
+        }
+        PeekedSource source(isPacked ? static_cast<ByteSource&>(*unpacked) : start, unpackedRoom);
+        bool const hasPlaces = foreignEncoding(source.peek(longestDeclaration)).empty();
+        std::unique_ptr<RewrittenDocument> rewritten = destinationOf(job, name);
+        if (isPacked && !options.isDryRun) rewritten = std::make_unique<GzipDocument>(std::move(rewritten));
+        Rewriter rewriter(isPacked ? static_cast<ByteSource&>(*unpackedCopy) : copied, *rewritten);
         auto const isWanted = [&](Finding const& finding) {
             return std::ranges::all_of(job.settings,
                                        [&](FileSettings const* settings) { return settings->filter.passes(finding); });

@@ -12,7 +12,7 @@ constexpr std::string_view inEntity = "the value comes out of an entity";
 constexpr std::string_view inTemplate = "the value is a template with doubled braces";
 constexpr std::string_view inPieces = "the text of the element is not in one piece, or has references";
 constexpr std::string_view withComment = "there is a comment in the value";
-constexpr std::string_view withoutPlaces = "the file is compressed, or in an encoding in which nothing is rewritten";
+constexpr std::string_view withoutPlaces = "the file is in an encoding in which nothing is rewritten";
 constexpr std::string_view afterOthers = "what stands after the value has been rewritten already";
 
 bool isOfValue(Fault fault) {
