@@ -374,7 +374,9 @@ void Checker::checkStyle(Occurrence const& occurrence) {
         Occurrence piece = occurrence;
         piece.offset = declaration.offset;
         if (!declaration.fault.empty()) {
-            findFault(piece, declaration);
+            piece.value = declaration.text;
+            piece.valueOffset = declaration.offset;
+            findFault(piece, declaration.fault);
             continue;
         }
         piece.name = declaration.property;
@@ -385,7 +387,7 @@ void Checker::checkStyle(Occurrence const& occurrence) {
     }
 }
 
-void Checker::findFault(Occurrence const& piece, Xml::Declaration const& declaration) {
+void Checker::findFault(Occurrence const& piece, std::string_view fault) {
     if (!piece.isWhole()) {
         ++counts.unread;
         return showNotCovered(piece, Uncovered::Unread);
@@ -395,10 +397,7 @@ void Checker::findFault(Occurrence const& piece, Xml::Declaration const& declara
     Finding finding;
     finding.fault = Fault::BadWord;
     finding.attribute = piece.name;
-    finding.part = piece.value.substr(declaration.offset, declaration.text.size());
-    finding.problem = std::string("is no declaration: ").append(declaration.fault);
-    finding.offset = declaration.offset;
-    finding.length = declaration.text.size();
+    finding.problem = std::string("is no declaration: ").append(fault);
     find(piece, std::move(finding));
 }
 
@@ -436,13 +435,9 @@ void Checker::find(Occurrence const& occurrence, Finding finding) {
         finding.element = nameInDocument(occurrence.element, *occurrence.tag);
         bool const isName = finding.fault == Fault::UnknownAttribute || finding.fault == Fault::MisplacedAttribute;
         if (occurrence.offset) {
-            // The value of a declaration is a part of the style; what is no declaration is a fault as a whole.
-            bool const isValue = !isName && (occurrence.isDeclaration() || occurrence.isAnimated);
-            std::size_t const length = isValue  ? occurrence.value.size()
-                                       : isName ? occurrence.name.size()
-                                                : finding.length;
             finding.source =
-                tag.excerptInValue(occurrence.number, isValue ? occurrence.valueOffset : *occurrence.offset, length);
+                isName ? tag.excerptInValue(occurrence.number, *occurrence.offset, occurrence.name.size())
+                       : tag.excerptInValue(occurrence.number, occurrence.valueOffset, occurrence.value.size());
         } else {
             finding.source = isName ? tag.excerptOfName(occurrence.number) : tag.excerptOfValue(occurrence.number);
         }

@@ -85,7 +85,8 @@ private:
     // Of the text in `utf16`, which was judged by the row.
     void find(Occurrence const& occurrence, Xml::CatalogueEntry const& entry, Xml::Judgement const& judgement);
     void checkStyle(Occurrence const& occurrence);
-    void findFault(Occurrence const& piece, Xml::Declaration const& declaration);
+    // Of what is no declaration.
+    void findFault(Occurrence const& piece, std::string_view fault);
     void find(Occurrence const& occurrence, Finding finding);
     void find(ReferenceFault const& fault);
     void showPassedOver(Occurrence const& occurrence);
