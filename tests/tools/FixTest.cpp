@@ -1,8 +1,6 @@
 #include "Versions.h"
-#include "bytes/GzipSource.h"
 #include "fixing/Changes.h"
 #include "fixing/Fixer.h"
-#include "fixing/GzipDocument.h"
 #include "fixing/ReplacedFile.h"
 #include "xml/Encoding.h"
 
@@ -146,31 +144,6 @@ TEST(Fix, TellsWhatItLeaves) {
         EXPECT_EQ(outcome.reasons, row.reasons) << row.document;
     }
 }
-
-#ifdef XMLATTR_HAS_ZLIB
-TEST(Fix, CompressesWhatWasCompressed) {
-    struct Collected final : RewrittenDocument {
-        explicit Collected(std::string& all) : all(all) {}
-        void keep(std::string_view bytes) override { all += bytes; }
-        void replace(std::string_view, std::string_view after) override { all += after; }
-        void finish() override {}
-        std::string& all;
-    };
-    std::string packed, text, unpacked(1 << 20, '\0');
-    GzipDocument document(std::make_unique<Collected>(packed));
-    for (int i = 0; i < 100'000; ++i) {
-        std::string const piece = std::to_string(i * 7919LL % 10'007);
-        i % 3 == 0 ? document.replace("before", piece) : document.keep(piece);
-        text += piece;
-    }
-    document.finish();
-    MemorySource source(packed);
-    GzipSource again(source);
-    unpacked.resize(again.read(unpacked));
-    EXPECT_EQ(unpacked, text);
-    EXPECT_FALSE(again.failure());
-}
-#endif
 
 TEST(Changes, MakeOneTextOfTheOther) {
     std::mt19937 random(16);

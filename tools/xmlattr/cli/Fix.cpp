@@ -1,9 +1,9 @@
+#include "bytes/GzipPacker.h"
 #include "bytes/GzipSource.h"
 #include "bytes/TranscodedSource.h"
 #include "cli/Commands.h"
 #include "cli/Files.h"
 #include "fixing/Fixer.h"
-#include "fixing/GzipDocument.h"
 #include "fixing/ReplacedFile.h"
 #include "fixing/UnifiedDiff.h"
 #include "output/Report.h"
@@ -33,6 +33,23 @@ public:
     void keep(std::string_view bytes) override { print(bytes); }
     void replace(std::string_view, std::string_view after) override { print(after); }
     void finish() override {}
+};
+
+// Compresses what goes to another document.
+class PackedDocument final : public RewrittenDocument {
+public:
+    explicit PackedDocument(std::unique_ptr<RewrittenDocument> document)
+        : document(std::move(document)), packer([this](std::string_view bytes) { this->document->keep(bytes); }) {}
+    void keep(std::string_view bytes) override { packer.add(bytes); }
+    void replace(std::string_view, std::string_view after) override { packer.add(after); }
+    void finish() override {
+        packer.add({}, true);
+        document->finish();
+    }
+
+private:
+    std::unique_ptr<RewrittenDocument> document;
+    GzipPacker packer;
 };
 
 [[noreturn]] void failToRead(std::string const& why) {
@@ -170,7 +187,7 @@ private:
         PeekedSource source(isPacked ? static_cast<ByteSource&>(*unpacked) : start, unpackedRoom);
         bool const hasPlaces = foreignEncoding(source.peek(longestDeclaration)).empty();
         std::unique_ptr<RewrittenDocument> rewritten = destinationOf(job, name);
-        if (isPacked && !options.isDryRun) rewritten = std::make_unique<GzipDocument>(std::move(rewritten));
+        if (isPacked && !options.isDryRun) rewritten = std::make_unique<PackedDocument>(std::move(rewritten));
         Rewriter rewriter(isPacked ? static_cast<ByteSource&>(*unpackedCopy) : copied, *rewritten);
         auto const isWanted = [&](Finding const& finding) {
             return std::ranges::all_of(job.settings,

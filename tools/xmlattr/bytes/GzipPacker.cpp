@@ -1,4 +1,4 @@
-#include "fixing/GzipDocument.h"
+#include "bytes/GzipPacker.h"
 
 #ifdef XMLATTR_HAS_ZLIB
 #include <algorithm>
@@ -15,7 +15,7 @@ namespace Command {
 
 #ifdef XMLATTR_HAS_ZLIB
 
-struct GzipDocument::State {
+struct GzipPacker::State {
     z_stream stream{};
     std::array<char, 64 << 10> output;
 
@@ -30,7 +30,7 @@ struct GzipDocument::State {
     ~State() { deflateEnd(&stream); }
 };
 
-void GzipDocument::add(std::string_view bytes, bool isLast) {
+void GzipPacker::add(std::string_view bytes, bool isLast) {
     z_stream& stream = state->stream;
     // Less than the counters of zlib can hold.
     constexpr std::size_t most = 1 << 30;
@@ -43,7 +43,7 @@ void GzipDocument::add(std::string_view bytes, bool isLast) {
             stream.next_out = reinterpret_cast<Bytef*>(state->output.data());
             stream.avail_out = static_cast<uInt>(state->output.size());
             deflate(&stream, isLast && bytes.empty() ? Z_FINISH : Z_NO_FLUSH);
-            packed->keep({state->output.data(), state->output.size() - stream.avail_out});
+            packed({state->output.data(), state->output.size() - stream.avail_out});
         } while (stream.avail_out == 0);
     } while (!bytes.empty());
 }
@@ -51,20 +51,14 @@ void GzipDocument::add(std::string_view bytes, bool isLast) {
 #else
 
 // What is compressed cannot be read either.
-struct GzipDocument::State {};
+struct GzipPacker::State {};
 
-void GzipDocument::add(std::string_view /*bytes*/, bool /*isLast*/) {}
+void GzipPacker::add(std::string_view /*bytes*/, bool /*isLast*/) {}
 
 #endif
 
-GzipDocument::GzipDocument(std::unique_ptr<RewrittenDocument> packed)
-    : packed(std::move(packed)), state(std::make_unique<State>()) {}
+GzipPacker::GzipPacker(Packed packed) : packed(std::move(packed)), state(std::make_unique<State>()) {}
 
-GzipDocument::~GzipDocument() = default;
-
-void GzipDocument::finish() {
-    add({}, true);
-    packed->finish();
-}
+GzipPacker::~GzipPacker() = default;
 
 } // namespace Command
