@@ -224,7 +224,7 @@ private:
     // The text with each word that the grammar has in another case as the grammar has it, but what is in parentheses or
     // quotation marks.
     std::u16string withWords(std::u16string_view trimmed) const {
-        std::vector<std::string_view> const words = wordsOf(entry.grammar);
+        std::vector<std::string_view> const words = wordsIn(entry.grammar);
         std::u16string out(trimmed);
         for (std::u16string_view const written : splitValues(trimmed, u",/")) {
             auto const isSame = [&](std::string_view word) { return equalsWord(written, word, true); };
