@@ -11,8 +11,8 @@ std::optional<std::string> fixed(std::string_view document, bool takesSuggestion
     Command::Versions versions;
     Command::Rewriter rewriter(copied, versions);
     Command::Fixer fixer(
-        {takesSuggestions}, [&](Command::Edit const& edit) { rewriter.apply(edit); },
-        [](Command::Finding const&, std::string_view) {});
+        {takesSuggestions}, [](Command::Finding const&) { return true; },
+        [&](Command::Edit const& edit) { rewriter.apply(edit); }, [](Command::Finding const&, std::string_view) {});
     if (Command::readXml(checked, fixer)) return std::nullopt;
     fixer.finish();
     rewriter.finish();

@@ -30,8 +30,9 @@ void expectAdvice(std::initializer_list<Row> rows) {
         EXPECT_EQ(advice.isExact, row.isExact);
         if (advice.replacement.empty()) continue;
         EXPECT_EQ(std::u16string(text).replace(advice.offset, advice.length, advice.inserted()), advice.replacement);
-        EXPECT_EQ(judge(*entry, advice.replacement).verdict,
-                  entry->type() || !entry->longhands.empty() ? Verdict::Read : Verdict::PassedOver);
+        Verdict const after = judge(*entry, advice.replacement).verdict;
+        bool const mayBePassedOver = advice.isExact || (!entry->type() && entry->longhands.empty());
+        EXPECT_TRUE(after == Verdict::Read || (mayBePassedOver && after == Verdict::PassedOver));
     }
 }
 
@@ -75,6 +76,16 @@ TEST(Advice, GuessesOnlyWhatIsLegalAndRead) {
         {Fo, "block", "writing-mode", u"lr_tb", Refused, "", ""},
         {Fo, "block", "white-space", u"prre", Refused, "", "pre"},
         {Svg, "feBlend", "mode", u"Multiply", Refused, "", "multiply", true},
+        // Words that have one right case, though no value type reads some of them.
+        {Svg, "marker", "orient", u"Auto", Refused, "", "auto", true},
+        {Svg, "rect", "fill", u"currentcolor", Refused, "", "currentColor", true},
+        {Svg, "rect", "fill", u"URL(#None)", Refused, "", "url(#None)", true},
+        {Svg, "svg", "preserveAspectRatio", u"xmidymid MEET", Lenient, "xMid YMid", "xMidYMid meet", true},
+        // Numbers that XSL-FO and SVG write otherwise.
+        {Fo, "block", "start-indent", u"12.pt", Lenient, "12pt", "12pt", true},
+        {Fo, "block", "start-indent", u"10e-16pt", Lenient, "0pt", "0.000000000000001pt", true},
+        {Svg, "rect", "x", u"10.", Lenient, "1", "10", true},
+        {Fo, "block", "space-before", u"10.", Refused, "", "10pt"},
         // Nothing is put together, and no word is made of another.
         {Fo, "block", "orphans", u"20 20", Refused, "", ""},
         {Fo, "block", "color", u"gray blue", Refused, "", ""},
@@ -126,8 +137,9 @@ TEST(Judge, TellsNegativeAndNewerValues) {
           Case{Svg, "svg", "viewBox", u"0 0 -1 1", true, ""}, Case{Svg, "line", "stroke-dasharray", u"1 -1", true, ""},
           Case{Svg, "path", "fill", u"context-fill", false, "SVG 2"},
           Case{Svg, "path", "fill", u"#11223344", false, "CSS 4"},
-          Case{Fo, "block", "font-size", u"2rem", false, "CSS 3"},
-          Case{Fo, "block", "font-size", u"2rex10", false, ""}}) {
+          Case{Fo, "block", "font-size", u"2rem", false, "CSS 3"}, Case{Fo, "block", "font-size", u"2rex10", false, ""},
+          Case{Svg, "path", "fill", u"hsl(1,2)", false, ""},
+          Case{Svg, "path", "fill", u"hsl(var(--c))", false, "CSS 3"}, Case{Svg, "path", "d", u"M0 0q", false, ""}}) {
         Judgement const judgement = judge(row.vocabulary, row.element, row.attribute, row.text);
         EXPECT_TRUE(isFault(judgement.verdict)) << row.attribute << narrow(row.text);
         EXPECT_EQ(judgement.isNegative, row.isNegative) << row.attribute << narrow(row.text);

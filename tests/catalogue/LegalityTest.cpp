@@ -140,6 +140,7 @@ TEST(Shorthand, LetsTheTypesOfItsPartsRead) {
              Row{Vocabulary::Fo, "border", u"from-parent(border)", PassedOver},
              Row{Vocabulary::Fo, "border", u"1pt inherit", Refused, "inherit is legal only by itself"},
              Row{Vocabulary::Fo, "padding", u"inherit inherit", Refused, "inherit is legal only by itself"},
+             Row{Vocabulary::Fo, "font", u"12pt inherit", Refused, "inherit is legal only by itself"},
              Row{Vocabulary::Fo, "font", u"inherit 12pt Arial", Refused, "inherit is legal only by itself"},
              Row{Vocabulary::Fo, "border", u" ", Refused, "is empty"},
              Row{Vocabulary::Fo, "background", u"url(a.png) no-repeat fixed center", Read},

@@ -1,4 +1,5 @@
 // Compressed documents and the encodings that the parser lacks.
+#include "bytes/GzipPacker.h"
 #include "bytes/GzipSource.h"
 #include "bytes/TranscodedSource.h"
 #include "xml/XmlReader.h"
@@ -75,6 +76,21 @@ TEST(GzipSource, ExpandsDocuments) {
         EXPECT_EQ(readAll(expanded, size), large) << size;
         EXPECT_FALSE(expanded.failure());
     }
+}
+
+TEST(GzipPacker, IsReadAgain) {
+    std::string packed, text;
+    GzipPacker packer([&](std::string_view bytes) { packed += bytes; });
+    for (int i = 0; i < 100'000; ++i) {
+        std::string const piece = std::to_string(i * 7919LL % 10'007);
+        packer.add(piece);
+        text += piece;
+    }
+    packer.add({}, true);
+    MemorySource source(packed);
+    GzipSource expanded(source);
+    EXPECT_EQ(readAll(expanded), text);
+    EXPECT_FALSE(expanded.failure());
 }
 
 TEST(GzipSource, RefusesWhatIsDamaged) {

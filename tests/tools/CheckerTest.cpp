@@ -71,16 +71,60 @@ TEST(Checker, ReadsStyleAsCss) {
         << "an attribute has a case";
 }
 
+TEST(Checker, JudgesTheValuesOfAnimations) {
+    struct Row {
+        char const *animation, *messages;
+    };
+    for (Row const& row :
+         {Row{"animate attributeName='r' from='1pt' to=' 2 ' by='-3' values='1;2; 3;'", ""},
+          Row{"animate attributeName='r' values='1;-3; 4 ;x'",
+              "79 values=\"-3\" on animate is negative, and is read as -3\n"
+              "86 values=\"x\" on animate is not legal; expected a number, also with px, pt, pc, cm, mm, in, em or ex "
+              "or "
+              "a percentage\n"},
+          Row{"animate attributeName='r' additive='sum' from='-3' to='x'",
+              "98 to=\"x\" on animate is not legal; expected a number, also with px, pt, pc, cm, mm, in, em or ex or a "
+              "percentage\n"},
+          Row{"animate attributeName='d' to='M0 0L.5.5'",
+              "73 to=\"M0 0L.5.5\" on animate: \".5\" is read as 0; write \"M0 0L.5 .5\"\n"},
+          Row{"animate attributeName='x' from='1 2' to='1,5'", ""}, // on a text
+          Row{"set attributeName='fill' to='bleu'", "72 to=\"bleu\" on set is not legal; write \"blue\"\n"},
+          Row{"animateColor attributeName='fill' from='RED' to='None'", ""}, // as in CSS
+          Row{"animate attributeName='fill' attributeType='XML' to='None'",
+              "96 to=\"None\" on animate is read as none; write \"none\"\n"},
+          Row{"animateTransform type='rotate' from='0' to='360,12 12' by='5'", ""},
+          Row{"animateTransform type='rotate' values='0;1 2'",
+              "84 values=\"1 2\" on animateTransform: expected one number or three\n"},
+          Row{"animateTransform from='0 1' to='1deg'",
+              "75 to=\"1deg\" on animateTransform: expected one number or two\n"},
+          Row{"animateMotion from='0,0' to='1pt 5%' values='0-5;1'",
+              "92 values=\"1\" on animateMotion: expected two coordinates\n"},
+          Row{"animate to='q'", ""}, Row{"animate attributeName='q' to='q'", ""},
+          Row{"animateTransform type='{q}' to='q' xmlns:t='http://www.w3.org/1999/XSL/Transform'", ""},
+          Row{"set attributeName='class' to='q'", ""}}) {
+        Outcome const outcome = checkDocument(svg + "><" + row.animation + "/></svg>");
+        EXPECT_EQ(outcome.messages, row.messages) << row.animation;
+        EXPECT_EQ(outcome.counts.read + outcome.counts.passedOver + outcome.counts.freeText + outcome.counts.misread +
+                      outcome.counts.lenient + outcome.counts.refused + outcome.counts.unknown +
+                      outcome.counts.templates,
+                  outcome.counts.attributes)
+            << row.animation;
+    }
+}
+
+TEST(Checker, TellsEachPartOfAShorthandThatIsWrong) {
+    EXPECT_NE(checkDocument(block + "border='q 1 x'/>").messages.find("\"q\", \"1\" and \"x\" are not legal"),
+              std::string::npos);
+}
+
 TEST(Checker, TellsWhatIsNoDeclaration) {
     struct Row {
         char const *style, *messages;
     };
     for (Row const& row :
-         {Row{"fill red; stroke: blue",
-              "52 style=\"fill red; stroke: blue\" on g: \"fill red\" is no declaration: it has no colon\n"},
-          Row{" fill=red", "53 style=\" fill=red\" on g: \"fill=red\" is no declaration: it has no colon\n"},
-          Row{"fill:red;/*x*/a/*y*/",
-              "66 style=\"fill:red;/*x*/a/*y*/\" on g: \"a\" is no declaration: it has no colon\n"},
+         {Row{"fill red; stroke: blue", "52 style=\"fill red\" on g is no declaration: it has no colon\n"},
+          Row{" fill=red", "53 style=\"fill=red\" on g is no declaration: it has no colon\n"},
+          Row{"fill:red;/*x*/a/*y*/", "66 style=\"a\" on g is no declaration: it has no colon\n"},
           Row{":red", "52 style=\":red\" on g is no declaration: no name stands before its colon\n"},
           Row{"points: 1 2", "52 points on g is no known property\n"},
           Row{"fil:red", "52 fil on g is no known property; did you mean \"fill\"?\n"}, Row{"; ;/* x */;", ""}}) {
@@ -121,9 +165,9 @@ TEST(Checker, JudgesWhatStylesheetsMake) {
           Row{"<x:attribute-set><x:attribute name='span'>al</x:attribute></x:attribute-set>",
               "43 span=\"al\" on x:attribute-set"},
           Row{"<x:template><x:attribute name='span'>al</x:attribute></x:template>", "38 span=\"al\" on x:attribute"},
-          Row{"<x:element name='f:blok'/>", "12 f:blok is no element of its vocabulary; did you mean \"f:block\"?"},
+          Row{"<x:element name='f:blok'/>", "12 f:blok is not an element of XSL-FO 1.1; did you mean \"f:block\"?"},
           Row{"<x:element name='blok' namespace='http://www.w3.org/1999/XSL/Format'/>",
-              "12 blok is no element of its vocabulary; did you mean \"block\"?"},
+              "12 blok is not an element of XSL-FO 1.1; did you mean \"block\"?"},
           Row{"<x:element name='f:{a}'/><x:element name='blok'/>", ""},
           Row{"<x:attribute name='span'>{a}</x:attribute>", "26 span=\"{a}\" on x:attribute"},
           Row{"<x:attribute name='span' expand-text='yes'>{a}</x:attribute>", "", 1},

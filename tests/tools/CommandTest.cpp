@@ -46,7 +46,7 @@ TEST(Command, FindsEachPlantedFault) {
           "padding=\"1pt 2pt 3pt 4pt 5pt\" on fo:block has more than 4 parts [bad-value]"s,
           "warning: hyphenate=\"treu\" on fo:block is not legal, but the formatter takes it; write \"true\" [lenient]"s,
           "warning: margin-left=\"10\" on fo:block is read as 1000%; write \"10pt\" [lenient]"s,
-          "warning: fo:blok is no element of its vocabulary; did you mean \"fo:block\"? [unknown-element]"s,
+          "warning: fo:blok is not an element of XSL-FO 1.1; did you mean \"fo:block\"? [unknown-element]"s,
           "warning: widht on fo:block is no known attribute; did you mean \"width\"? [unknown-attribute]"s,
           "warning: writing-mode=\"lr_tb\" on fo:block-container is not legal; expected lr-tb, "s,
           "warning: font-size=\"-3pt\" on fo:block is negative, and is read as -3pt"s,
@@ -307,6 +307,23 @@ TEST(Command, FixesFilesInPlace) {
     EXPECT_EQ(run("fix").code, 2);
     EXPECT_EQ(run("fix " + scratch + "/nowhere.svg").code, 2);
     EXPECT_EQ(run("fix /dev/null").code, 2);
+}
+
+TEST(Command, FixesWhatTheConfigurationOfADocumentHas) {
+    std::filesystem::remove_all(scratch);
+    std::filesystem::create_directories(scratch + "/tree");
+    std::string const file = write("tree/a.svg", drawing("1PX", " height='2PX' x='q'/>\n"));
+    write("tree/xmlattr.toml", "ignore = ['attribute:width', 'attribute:x']\n");
+    std::filesystem::path const before = std::filesystem::current_path();
+    std::filesystem::current_path(scratch);
+    std::string const diff = run("fix -n " + scratch + "/tree/../tree/a.svg").output;
+    std::filesystem::current_path(before);
+    EXPECT_TRUE(diff.starts_with("--- tree/a.svg\n+++ tree/a.svg\n")) << diff;
+    Result const result = run("fix " + file);
+    EXPECT_EQ(contentOf(file), drawing("1PX", " height='2px' x='q'/>\n"));
+    EXPECT_TRUE(result.errors.ends_with("values fixed 1 (1 lenient), findings left 0\n")) << result.errors;
+    write("tree/xmlattr.toml", "ignore = 'no-such-id'\n");
+    EXPECT_EQ(run("fix " + file).code, 2);
 }
 
 TEST(Command, FixesWhatLinksLeadToAndWritesElsewhere) {

@@ -152,8 +152,10 @@ constexpr auto attributes = [] {
 
 template <Vocabulary vocabulary> using Attributes = Core::WordTable<attributes<vocabulary>>;
 
-constexpr Core::WordRow<Vocabulary, char> namespaces[] = {{"http://www.w3.org/1999/XSL/Format", Vocabulary::Fo},
-                                                          {"http://www.w3.org/2000/svg", Vocabulary::Svg}};
+constexpr std::string_view foNamespace = "http://www.w3.org/1999/XSL/Format";
+constexpr std::string_view svgNamespace = "http://www.w3.org/2000/svg";
+constexpr Core::WordRow<Vocabulary, char> namespaces[] = {{foNamespace, Vocabulary::Fo},
+                                                          {svgNamespace, Vocabulary::Svg}};
 
 } // namespace
 
@@ -165,21 +167,35 @@ std::span<CatalogueEntry const> Catalogue::entries() noexcept {
     return rows;
 }
 
-CatalogueEntry const* Catalogue::find(Vocabulary vocabulary, std::string_view element,
-                                      std::string_view attribute) noexcept {
+std::span<CatalogueEntry const> Catalogue::rowsOf(Vocabulary vocabulary, std::string_view attribute) noexcept {
     auto const first = vocabulary == Vocabulary::Fo ? Attributes<Vocabulary::Fo>::find(attribute)
                                                     : Attributes<Vocabulary::Svg>::find(attribute);
-    if (!first) return nullptr;
+    if (!first) return {};
+    std::size_t end = *first + 1u;
+    while (end < rowCount && isSameAttribute(rowNames[end], vocabulary, attribute)) ++end;
+    return {&rows[*first], &rows[end]};
+}
+
+CatalogueEntry const* Catalogue::find(Vocabulary vocabulary, std::string_view element,
+                                      std::string_view attribute) noexcept {
     CatalogueEntry const* forEvery = nullptr;
-    for (std::size_t i = *first; i < rowCount && isSameAttribute(rowNames[i], vocabulary, attribute); ++i) {
-        if (rows[i].isForEveryElement()) forEvery = &rows[i];
-        if (std::ranges::find(rows[i].elements, element) != rows[i].elements.end()) return &rows[i];
+    for (CatalogueEntry const& row : rowsOf(vocabulary, attribute)) {
+        if (row.isForEveryElement()) forEvery = &row;
+        if (std::ranges::find(row.elements, element) != row.elements.end()) return &row;
     }
     return forEvery;
 }
 
 std::optional<Vocabulary> Catalogue::vocabularyOf(std::string_view namespaceName) noexcept {
     return Core::WordTable<namespaces>::find(namespaceName);
+}
+
+std::string_view Catalogue::namespaceOf(Vocabulary vocabulary) noexcept {
+    return vocabulary == Vocabulary::Fo ? foNamespace : svgNamespace;
+}
+
+std::string_view Catalogue::recommendation(Vocabulary vocabulary) noexcept {
+    return vocabulary == Vocabulary::Fo ? "XSL-FO 1.1" : "SVG 1.1";
 }
 
 std::string_view Catalogue::name(Vocabulary vocabulary) noexcept {

@@ -78,8 +78,14 @@ public:
     static CatalogueEntry const* find(Vocabulary vocabulary, std::string_view element,
                                       std::string_view attribute) noexcept;
 
+    // The rows of an attribute, that for every element first; none when the vocabulary has no such attribute.
+    static std::span<CatalogueEntry const> rowsOf(Vocabulary vocabulary, std::string_view attribute) noexcept;
+
     // The vocabulary of a namespace, for the two that the catalogue has.
     static std::optional<Vocabulary> vocabularyOf(std::string_view namespaceName) noexcept;
+    static std::string_view namespaceOf(Vocabulary vocabulary) noexcept;
+    // "XSL-FO 1.1" and "SVG 1.1".
+    static std::string_view recommendation(Vocabulary vocabulary) noexcept;
     // "fo" and "svg"; "typed", "shorthand", "identifier", "text" and "none".
     static std::string_view name(Vocabulary vocabulary) noexcept;
     static std::string_view name(AttributeKind kind) noexcept;

@@ -107,6 +107,7 @@ TEST(Meaning, ReadsUnitsAsEachVocabularyWritesThem) {
                     {u"02:33", "time 153", "time 153", "time 153"},
                     {u"1.5h", "time 5400", "time 5400", "time 5400"},
                     {u"1:60", "illegal", "illegal", "illegal"},
+                    {u"1:2", "illegal", "illegal", "illegal"},
                 });
 }
 
@@ -134,6 +135,8 @@ TEST(Meaning, ReadsColors) {
                     {u"system-color(ButtonFace)", "word system-color(ButtonFace)", "illegal", "illegal"},
                     {u"rgb-icc(1,2,3,#CMYK,0,0,0,1)", "color 010203", "illegal", "illegal"},
                     {u"rgb-icc(1,2,3)", "illegal", "illegal", "illegal"},
+                    {u"rgb-icc(1,2,3,4)", "illegal", "illegal", "illegal"},
+                    {u"system-color(1)", "illegal", "illegal", "illegal"},
                     {u"rgb-named-color(1,2,3,profile,'a')", "color 010203", "illegal", "illegal"},
                 });
     EXPECT_EQ(read("<paint>"_grammar, Dialect::SvgAttribute, u"url(#a) red icc-color(p, 1 2)"),

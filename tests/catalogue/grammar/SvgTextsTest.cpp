@@ -11,7 +11,7 @@ TEST(SvgTexts, ReadTimingLists) {
                                  u"accessKey(x)", u"wallclock(2002-01-01)", u"0s; 5s ;a.click"})
         EXPECT_TRUE(readTimingList(text)) << narrow(text);
     for (char16_t const* text : {u"", u" ", u"zzz qqq", u"1.s", u"1x", u"1 s", u"1:2", u"1:02:03:04", u"0s,5s", u"0s;",
-                                 u";0s", u"a.end+", u"a.end+b", u"repeat(2", u"+", u"#"})
+                                 u";0s", u"a.end+", u"a.end+b", u"repeat(2", u"repeat()", u"scale(2)", u"+", u"#"})
         EXPECT_FALSE(readTimingList(text)) << narrow(text);
 }
 

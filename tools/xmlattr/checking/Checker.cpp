@@ -6,9 +6,11 @@
 #include "xmlattr/catalogue/Names.h"
 #include "xmlattr/catalogue/legality/Advice.h"
 #include "xmlattr/catalogue/legality/StyleAttribute.h"
+#include "xmlattr/catalogue/text/Words.h"
 
 #include <iterator>
 #include <utility>
+#include <vector>
 
 namespace Command {
 
@@ -17,8 +19,17 @@ namespace {
 // The values of a list take up to twenty times the memory of its text.
 constexpr std::size_t longestList = 4 << 20;
 
-constexpr std::string_view foreign = "of another vocabulary", unknown = "unknown",
-                           cutByEntity = "with an entity that is not read", fromTemplate = "a template of a stylesheet";
+// Why an attribute is not covered, in words.
+constexpr std::string_view wordOf(Uncovered why) {
+    switch (why) {
+    case Uncovered::Foreign: return "of another vocabulary";
+    case Uncovered::Template: return "a template of a stylesheet";
+    case Uncovered::TooLong: return "too long";
+    case Uncovered::Unread: return "with an entity that is not read";
+    case Uncovered::Unknown: break;
+    }
+    return "unknown";
+}
 
 Fault faultOf(Xml::CatalogueEntry const& entry, Xml::Judgement const& judgement) {
     if (judgement.verdict == Xml::Verdict::Misread) return Fault::Misread;
@@ -33,6 +44,32 @@ std::optional<Xml::NameFact> unknownElement(Xml::Vocabulary vocabulary, std::str
     if (Xml::Elements::isKnown(vocabulary, element)) return std::nullopt;
     Xml::NameFact const fact = Xml::Names::ofElement(vocabulary, element);
     return fact.standing == Xml::NameStanding::Unknown ? std::optional(fact) : std::nullopt;
+}
+
+std::optional<Xml::Animation> animationOf(XmlElement const& element) {
+    if (!element.name.starts_with("animate") && element.name != "set") return std::nullopt;
+    Xml::Animation animation{element.name};
+    for (auto const& [space, name, value] : element.attributes) {
+        if (!space.empty()) continue;
+        if (name == "attributeName") animation.attributeName = value;
+        if (name == "attributeType") animation.attributeType = value;
+        if (name == "type") animation.type = value;
+        if (name == "additive") animation.additive = value;
+    }
+    return animation;
+}
+
+// The values of an animation, trimmed: one, or in "values" several with semicolons between them and perhaps at the end.
+std::vector<std::string_view> animatedValues(std::string_view attribute, std::string_view text) {
+    std::vector<std::string_view> values;
+    for (;;) {
+        std::size_t const end = attribute == "values" ? text.find(';') : std::string_view::npos;
+        values.push_back(Xml::trimXmlSpace(text.substr(0, end)));
+        if (end == std::string_view::npos) break;
+        text.remove_prefix(end + 1);
+    }
+    if (values.size() > 1 && values.back().empty()) values.pop_back();
+    return values;
 }
 
 } // namespace
@@ -72,12 +109,15 @@ struct Checker::Occurrence {
     std::size_t number;       // of the attribute in its tag
     std::string_view name, value;
     std::optional<std::size_t> offset{}; // in the attribute's value; none where all of it is meant
+    // Where the value begins there: after the offset, when a name stands before it.
+    std::size_t valueOffset = 0;
     Xml::Notation notation = Xml::Notation::Attribute;
+    bool isAnimated = false; // so that the row is that of another attribute
     // Without a tag: where the text stands, and the element as the document names it.
     Place place{};
     std::string_view named{};
 
-    bool isDeclaration() const { return notation == Xml::Notation::Declaration; }
+    bool isDeclaration() const { return notation == Xml::Notation::Declaration && !isAnimated; }
     bool isWhole() const { return !tag || tag->isWhole(number); }
 
     // Whether the element is known and does not have the attribute, which is a known one.
@@ -99,13 +139,14 @@ void Checker::startElement(XmlElement const& element, Tag& tag) {
         for (std::size_t i = 0; i < element.attributes.size(); ++i) {
             ++counts.foreign;
             showNotCovered({&tag, {}, element.name, i, element.attributes[i].name, element.attributes[i].value},
-                           foreign);
+                           Uncovered::Foreign);
         }
         if (std::optional<MadeElement> const made = elementMadeBy(element)) checkMade(*made, element, tag);
         return;
     }
     if (std::optional<Xml::NameFact> const fact = unknownElement(*vocabulary, element.name))
-        findUnknown(*fact, nameInDocument(element.name, tag), tag.raw().place(), tag.raw().excerptOfElement());
+        findUnknown(*fact, *vocabulary, nameInDocument(element.name, tag), tag.raw().place(),
+                    tag.raw().excerptOfElement());
     bool const isSvg = *vocabulary == Xml::Vocabulary::Svg;
     std::optional<std::size_t> const missing = isSvg ? filterResults.startElement(element) : std::nullopt;
     if (missing && !element.namespaces.hasXslt() && tag.isWhole(*missing) && isReported(Fault::DanglingReference)) {
@@ -117,13 +158,14 @@ void Checker::startElement(XmlElement const& element, Tag& tag) {
               element.attributes[*missing].value},
              std::move(finding));
     }
+    animation = isSvg ? animationOf(element) : std::nullopt;
     bool const isInStylesheet = element.namespaces.hasXslt();
     for (std::size_t i = 0; i < element.attributes.size(); ++i) {
         XmlAttributeText const& attribute = element.attributes[i];
         Occurrence occurrence{&tag, *vocabulary, element.name, i, attribute.name, attribute.value};
         if (isInStylesheet && isTemplate(attribute.value)) {
             ++counts.templates;
-            showNotCovered(occurrence, fromTemplate);
+            showNotCovered(occurrence, Uncovered::Template);
             continue;
         }
         std::string plain; // a template without expressions
@@ -136,7 +178,7 @@ void Checker::startElement(XmlElement const& element, Tag& tag) {
             occurrence.name = prefixed;
         } else if (!attribute.space.empty()) {
             ++counts.foreign;
-            showNotCovered(occurrence, foreign);
+            showNotCovered(occurrence, Uncovered::Foreign);
             continue;
         }
         check(occurrence);
@@ -146,14 +188,16 @@ void Checker::startElement(XmlElement const& element, Tag& tag) {
 void Checker::checkMade(MadeElement const& made, XmlElement const& element, Tag& tag) {
     std::optional<Xml::NameFact> const fact = unknownElement(made.vocabulary, made.local);
     if (fact && tag.isWhole(made.number))
-        findUnknown(*fact, std::string(element.attributes[made.number].value), tag.raw().attribute(made.number),
-                    tag.raw().excerptOfValue(made.number));
+        findUnknown(*fact, made.vocabulary, std::string(element.attributes[made.number].value),
+                    tag.raw().attribute(made.number), tag.raw().excerptOfValue(made.number));
 }
 
-void Checker::findUnknown(Xml::NameFact const& fact, std::string const& element, Place place, Excerpt source) {
+void Checker::findUnknown(Xml::NameFact const& fact, Xml::Vocabulary vocabulary, std::string const& element,
+                          Place place, Excerpt source) {
     if (!isReported(Fault::UnknownElement)) return;
     Finding finding;
     finding.fault = Fault::UnknownElement;
+    finding.problem = std::string("is not an element of ").append(Xml::Catalogue::recommendation(vocabulary));
     finding.place = place;
     finding.source = std::move(source);
     finding.element = element;
@@ -168,6 +212,7 @@ bool Checker::wantsText(XmlElement const& element) {
 void Checker::text(XmlText const& text) {
     std::optional<MadeAttribute> const& made = stylesheet.made();
     if (!made || !text.isWhole) return;
+    animation.reset();
     ++counts.attributes;
     Occurrence occurrence{.tag = nullptr,
                           .vocabulary = made->vocabulary,
@@ -179,7 +224,7 @@ void Checker::text(XmlText const& text) {
                           .named = made->named};
     if (made->hasTextTemplates && isTemplate(text.text)) {
         ++counts.templates;
-        return showNotCovered(occurrence, fromTemplate);
+        return showNotCovered(occurrence, Uncovered::Template);
     }
     std::string plain;
     if (made->hasTextTemplates) {
@@ -200,13 +245,14 @@ void Checker::check(Occurrence const& occurrence) {
         ++counts.unknown;
         return checkName(occurrence);
     }
-    if (occurrence.isMisplaced()) findMisplaced(occurrence);
+    if (options.isStrict && occurrence.isMisplaced()) findMisplaced(occurrence);
     if (occurrence.vocabulary == Xml::Vocabulary::Svg && occurrence.name == "style") checkStyle(occurrence);
-    checkValue(occurrence, *entry);
+    auto const animated = animation ? Xml::findAnimated(*animation, occurrence.name) : std::nullopt;
+    animated ? checkAnimated(occurrence, *animated) : checkValue(occurrence, *entry);
 }
 
 void Checker::findMisplaced(Occurrence const& occurrence) {
-    if (!options.isStrict || !isReported(Fault::MisplacedAttribute)) return;
+    if (!isReported(Fault::MisplacedAttribute)) return;
     Finding finding;
     finding.fault = Fault::MisplacedAttribute;
     finding.attribute = occurrence.name;
@@ -217,10 +263,12 @@ void Checker::checkName(Occurrence const& occurrence) {
     Xml::NameFact const fact = occurrence.isDeclaration()
                                    ? Xml::Names::ofProperty(occurrence.name)
                                    : Xml::Names::ofAttribute(occurrence.vocabulary, occurrence.name);
-    if (fact.standing == Xml::NameStanding::Known && occurrence.isMisplaced()) return findMisplaced(occurrence);
+    if (options.isStrict && fact.standing == Xml::NameStanding::Known && occurrence.isMisplaced())
+        return findMisplaced(occurrence);
     // What a stylesheet makes outside of every element may belong to another vocabulary.
     bool const isElsewhere = occurrence.element.empty();
-    if (fact.standing != Xml::NameStanding::Unknown || isElsewhere) return showNotCovered(occurrence, unknown);
+    if (fact.standing != Xml::NameStanding::Unknown || isElsewhere)
+        return showNotCovered(occurrence, Uncovered::Unknown);
     if (!isReported(Fault::UnknownAttribute)) return;
     Finding finding;
     finding.fault = Fault::UnknownAttribute;
@@ -232,7 +280,7 @@ void Checker::checkName(Occurrence const& occurrence) {
 void Checker::checkValue(Occurrence const& occurrence, Xml::CatalogueEntry const& entry) {
     if (occurrence.value.size() > longestList && entry.type() && entry.type()->readsList()) {
         ++counts.tooLong;
-        return showNotCovered(occurrence, "too long");
+        return showNotCovered(occurrence, Uncovered::TooLong);
     }
     if (entry.grammar.text() == "<text>") {
         ++counts.freeText;
@@ -244,32 +292,70 @@ void Checker::checkValue(Occurrence const& occurrence, Xml::CatalogueEntry const
         judgement = Xml::judge(entry, utf16, occurrence.notation);
         return judgement->verdict;
     });
+    if (count(occurrence, verdict)) find(occurrence, entry, *judgement);
+}
+
+// The attribute is counted once, as its first value that is a fault; each of these is reported.
+void Checker::checkAnimated(Occurrence const& occurrence, Xml::AnimatedValue const& animated) {
+    if (occurrence.value.size() > longestList) {
+        ++counts.tooLong;
+        return showNotCovered(occurrence, Uncovered::TooLong);
+    }
+    std::optional<Xml::Verdict> verdict;
+    for (std::string_view const value : animatedValues(occurrence.name, occurrence.value)) {
+        Occurrence piece = occurrence;
+        piece.value = value;
+        piece.valueOffset = static_cast<std::size_t>(value.data() - occurrence.value.data());
+        piece.offset = piece.valueOffset;
+        piece.notation = animated.notation;
+        piece.isAnimated = true;
+        toUtf16(value, utf16);
+        Xml::Judgement const judgement = Xml::judge(animated, utf16);
+        if (!verdict || !Xml::isFault(*verdict)) verdict = judgement.verdict;
+        if (Xml::isFault(judgement.verdict) && occurrence.isWhole()) find(piece, animated.rows.front(), judgement);
+    }
+    count(occurrence, *verdict);
+}
+
+bool Checker::count(Occurrence const& occurrence, Xml::Verdict verdict) {
     if (Xml::isFault(verdict) && !occurrence.isWhole()) {
         ++counts.unread;
-        return showNotCovered(occurrence, cutByEntity);
+        showNotCovered(occurrence, Uncovered::Unread);
+        return false;
     }
     switch (verdict) {
-    case Xml::Verdict::Read: ++counts.read; return;
-    case Xml::Verdict::PassedOver: ++counts.passedOver; return showPassedOver(occurrence);
-    case Xml::Verdict::FreeText: ++counts.freeText; return;
-    case Xml::Verdict::NotCovered: ++counts.unknown; return showNotCovered(occurrence, unknown);
-    case Xml::Verdict::Misread: ++counts.misread; break;
-    case Xml::Verdict::Lenient: ++counts.lenient; break;
-    case Xml::Verdict::Refused: ++counts.refused; break;
+    case Xml::Verdict::Read: ++counts.read; return false;
+    case Xml::Verdict::PassedOver:
+        ++counts.passedOver;
+        showPassedOver(occurrence);
+        return false;
+    case Xml::Verdict::FreeText: ++counts.freeText; return false;
+    case Xml::Verdict::NotCovered:
+        ++counts.unknown;
+        showNotCovered(occurrence, Uncovered::Unknown);
+        return false;
+    case Xml::Verdict::Misread: ++counts.misread; return true;
+    case Xml::Verdict::Lenient: ++counts.lenient; return true;
+    case Xml::Verdict::Refused: ++counts.refused; return true;
     }
-    Fault const fault = faultOf(entry, *judgement);
+    return false;
+}
+
+void Checker::find(Occurrence const& occurrence, Xml::CatalogueEntry const& entry, Xml::Judgement const& judgement) {
+    Fault const fault = faultOf(entry, judgement);
     if (!isReported(fault)) return;
-    Xml::Advice const advice = Xml::advise(entry, utf16, occurrence.notation, *judgement);
+    Xml::Advice const advice = Xml::advise(entry, utf16, occurrence.notation, judgement);
     Finding finding;
     finding.fault = fault;
-    finding.attribute = entry.attribute;
-    finding.part = toUtf8(judgement->part);
-    finding.problem = judgement->problem;
-    bool const isMissing = judgement->part.data() && judgement->part.empty();
+    finding.attribute = occurrence.isAnimated ? occurrence.name : entry.attribute;
+    finding.part = toUtf8(judgement.part);
+    for (std::u16string_view const part : judgement.otherParts) finding.otherParts.push_back(toUtf8(part));
+    finding.problem = judgement.problem;
+    bool const isMissing = judgement.part.data() && judgement.part.empty();
     if (isMissing && finding.problem.starts_with("expected")) finding.problem += " at the end";
-    finding.newer = judgement->newer;
+    finding.newer = judgement.newer;
     finding.held = toUtf8(advice.held);
-    finding.isTaken = verdict != Xml::Verdict::Refused;
+    finding.isTaken = judgement.verdict != Xml::Verdict::Refused;
     finding.expected = advice.expected;
     finding.replacement = toUtf8(advice.replacement);
     finding.isExact = advice.isExact;
@@ -288,30 +374,30 @@ void Checker::checkStyle(Occurrence const& occurrence) {
         Occurrence piece = occurrence;
         piece.offset = declaration.offset;
         if (!declaration.fault.empty()) {
-            findFault(piece, declaration);
+            piece.value = declaration.text;
+            piece.valueOffset = declaration.offset;
+            findFault(piece, declaration.fault);
             continue;
         }
         piece.name = declaration.property;
         piece.value = declaration.value;
+        piece.valueOffset = static_cast<std::size_t>(declaration.value.data() - style.data());
         piece.notation = Xml::Notation::Declaration;
         check(piece);
     }
 }
 
-void Checker::findFault(Occurrence const& piece, Xml::Declaration const& declaration) {
+void Checker::findFault(Occurrence const& piece, std::string_view fault) {
     if (!piece.isWhole()) {
         ++counts.unread;
-        return showNotCovered(piece, cutByEntity);
+        return showNotCovered(piece, Uncovered::Unread);
     }
     ++counts.refused;
     if (!isReported(Fault::BadWord)) return;
     Finding finding;
     finding.fault = Fault::BadWord;
     finding.attribute = piece.name;
-    finding.part = piece.value.substr(declaration.offset, declaration.text.size());
-    finding.problem = std::string("is no declaration: ").append(declaration.fault);
-    finding.offset = declaration.offset;
-    finding.length = declaration.text.size();
+    finding.problem = std::string("is no declaration: ").append(fault);
     find(piece, std::move(finding));
 }
 
@@ -323,13 +409,13 @@ void Checker::showPassedOver(Occurrence const& occurrence) {
     find(occurrence, std::move(finding));
 }
 
-void Checker::showNotCovered(Occurrence const& occurrence, std::string_view why) {
-    bool const isShown = options.showsNotCovered || (options.showsUnknown && why == unknown);
+void Checker::showNotCovered(Occurrence const& occurrence, Uncovered why) {
+    bool const isShown = options.showsNotCovered || (options.showsUnknown && why == Uncovered::Unknown);
     if (!isShown || !isReported(Fault::NotCovered)) return;
     Finding finding;
     finding.fault = Fault::NotCovered;
     finding.attribute = occurrence.name;
-    finding.problem = why;
+    finding.problem = wordOf(why);
     find(occurrence, std::move(finding));
 }
 
@@ -349,14 +435,9 @@ void Checker::find(Occurrence const& occurrence, Finding finding) {
         finding.element = nameInDocument(occurrence.element, *occurrence.tag);
         bool const isName = finding.fault == Fault::UnknownAttribute || finding.fault == Fault::MisplacedAttribute;
         if (occurrence.offset) {
-            // The value of a declaration is a part of the style; what is no declaration is a fault as a whole.
-            bool const isValue = occurrence.isDeclaration() && !isName;
-            std::size_t const offset =
-                isValue ? static_cast<std::size_t>(occurrence.value.data() - style.data()) : *occurrence.offset;
-            std::size_t const length = isValue  ? occurrence.value.size()
-                                       : isName ? occurrence.name.size()
-                                                : finding.length;
-            finding.source = tag.excerptInValue(occurrence.number, offset, length);
+            finding.source =
+                isName ? tag.excerptInValue(occurrence.number, *occurrence.offset, occurrence.name.size())
+                       : tag.excerptInValue(occurrence.number, occurrence.valueOffset, occurrence.value.size());
         } else {
             finding.source = isName ? tag.excerptOfName(occurrence.number) : tag.excerptOfValue(occurrence.number);
         }
@@ -364,8 +445,7 @@ void Checker::find(Occurrence const& occurrence, Finding finding) {
     finding.notation = occurrence.notation;
     finding.text = occurrence.value;
     finding.number = occurrence.number;
-    if (occurrence.isDeclaration())
-        finding.textOffset = static_cast<std::size_t>(occurrence.value.data() - style.data());
+    finding.textOffset = occurrence.valueOffset;
     report(finding);
 }
 

@@ -8,7 +8,7 @@
 #include "checking/VerdictCache.h"
 #include "xml/XmlReader.h"
 #include "xmlattr/catalogue/Names.h"
-#include "xmlattr/catalogue/legality/Judge.h"
+#include "xmlattr/catalogue/legality/Animation.h"
 #include "xmlattr/catalogue/legality/StyleAttribute.h"
 
 #include <cstdint>
@@ -40,6 +40,9 @@ struct Counts {
     Counts& operator+=(Counts const& other);
 };
 
+// Why an attribute is not covered.
+enum class Uncovered : std::uint8_t { Foreign, Template, TooLong, Unread, Unknown };
+
 class Checker final : public XmlHandler {
 public:
     using Report = std::function<void(Finding const& finding)>;
@@ -70,17 +73,24 @@ private:
     struct Occurrence;
 
     void checkMade(MadeElement const& made, XmlElement const& element, Tag& tag);
-    void findUnknown(Xml::NameFact const& fact, std::string const& element, Place place, Excerpt source);
+    void findUnknown(Xml::NameFact const& fact, Xml::Vocabulary vocabulary, std::string const& element, Place place,
+                     Excerpt source);
     void check(Occurrence const& occurrence);
     void checkName(Occurrence const& occurrence);
     void findMisplaced(Occurrence const& occurrence);
     void checkValue(Occurrence const& occurrence, Xml::CatalogueEntry const& entry);
+    void checkAnimated(Occurrence const& occurrence, Xml::AnimatedValue const& animated);
+    // Whether it is a fault of a text that is known.
+    bool count(Occurrence const& occurrence, Xml::Verdict verdict);
+    // Of the text in `utf16`, which was judged by the row.
+    void find(Occurrence const& occurrence, Xml::CatalogueEntry const& entry, Xml::Judgement const& judgement);
     void checkStyle(Occurrence const& occurrence);
-    void findFault(Occurrence const& piece, Xml::Declaration const& declaration);
+    // Of what is no declaration.
+    void findFault(Occurrence const& piece, std::string_view fault);
     void find(Occurrence const& occurrence, Finding finding);
     void find(ReferenceFault const& fault);
     void showPassedOver(Occurrence const& occurrence);
-    void showNotCovered(Occurrence const& occurrence, std::string_view why);
+    void showNotCovered(Occurrence const& occurrence, Uncovered why);
     // Counts a finding; whether it is to be reported.
     bool isReported(Fault fault);
 
@@ -91,8 +101,9 @@ private:
     References references;
     FilterResults filterResults;
     Stylesheet stylesheet;
-    std::u16string utf16; // of the attribute at hand, kept for its memory
-    std::string style;    // the style attribute at hand, likewise
+    std::optional<Xml::Animation> animation; // by the element at hand
+    std::u16string utf16;                    // of the attribute at hand, kept for its memory
+    std::string style;                       // the style attribute at hand, likewise
     std::string prefixed;
     bool isPlainSvg = false; // an SVG document that declares no namespace
 };

@@ -88,11 +88,18 @@ std::string_view wordOf(Severity severity) {
     return "note";
 }
 
+std::string Finding::listOfParts() const {
+    std::string list = inQuotes(printable(part));
+    for (std::string const& other : otherParts)
+        list += (&other == &otherParts.back() ? " and " : ", ") + inQuotes(printable(other));
+    return list;
+}
+
 std::string Finding::message() const {
     std::string const where = " on " + printable(element);
     switch (fault) {
     case Fault::UnknownElement:
-        return printable(element) + " is no element of its vocabulary" +
+        return printable(element) + " " + problem +
                (replacement.empty() ? "" : "; did you mean " + inQuotes(replacement) + "?");
     case Fault::UnknownAttribute:
         return printable(attribute) + where + " is no known " +
@@ -117,7 +124,7 @@ std::string Finding::message() const {
     case Fault::NewerValue: break;
     }
     std::string line = attribute + "=" + inQuotes(around(text, offset, length)) + where;
-    if (!part.empty() && part != text) line += ": " + inQuotes(printable(part));
+    if (!part.empty() && part != text) line += ": " + listOfParts();
     bool const needsExpected =
         problem.empty() && (fault == Fault::BadValue || fault == Fault::BadWord || fault == Fault::Lenient);
     if (fault == Fault::NewerValue)
@@ -127,7 +134,7 @@ std::string Finding::message() const {
     else if (fault == Fault::Negative)
         line += " is negative";
     else if (fault != Fault::Misread && (fault != Fault::Lenient || held.empty()))
-        line += " is not legal";
+        line += otherParts.empty() ? " is not legal" : " are not legal";
     if (!held.empty()) {
         bool const isFirst = line.ends_with('"') || line.ends_with(element);
         line += std::string(isFirst ? " is read as " : ", and is read as ") + shown(held);

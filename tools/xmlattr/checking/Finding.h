@@ -10,6 +10,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace Command {
 
@@ -57,14 +58,15 @@ struct Finding {
     Excerpt source;        // the value as the document writes it; of a name that is wrong the name
 
     // Of a value, in UTF-8. Empty where they do not apply.
-    std::string part;        // of the text: what is wrong, or held otherwise
-    std::string problem;     // what is wrong with it
-    std::string held;        // what the value type makes of it
-    bool isTaken = false;    // whether it takes the text at all
-    std::string expected;    // what is legal
-    std::string newer;       // the recommendation that has it
-    std::string replacement; // the whole text to write instead; of a name the name
-    bool isExact = false;    // whether that means the same; else it is what the author may have wanted
+    std::string part;                    // of the text: what is wrong, or held otherwise
+    std::vector<std::string> otherParts; // after it that are wrong too
+    std::string problem;                 // what is wrong with it
+    std::string held;                    // what the value type makes of it
+    bool isTaken = false;                // whether it takes the text at all
+    std::string expected;                // what is legal
+    std::string newer;                   // the recommendation that has it
+    std::string replacement;             // the whole text to write instead; of a name the name
+    bool isExact = false;                // whether that means the same; else it is what the author may have wanted
     // The range of the text, in bytes, that the replacement changes, or that is wrong.
     std::size_t offset = 0, length = 0;
 
@@ -79,6 +81,9 @@ struct Finding {
     std::string message() const;
     // Id, element, attribute and text: findings are equal where these are.
     std::array<std::string_view, 4> identity() const;
+
+private:
+    std::string listOfParts() const;
 };
 
 } // namespace Command

@@ -9,9 +9,6 @@ namespace Command {
 
 namespace {
 
-constexpr std::string_view foNamespace = "http://www.w3.org/1999/XSL/Format";
-constexpr std::string_view svgNamespace = "http://www.w3.org/2000/svg";
-
 std::optional<std::string_view> attributeOf(XmlElement const& element, std::string_view name,
                                             std::string_view space = {}) {
     for (XmlAttributeText const& attribute : element.attributes)
@@ -127,7 +124,10 @@ std::optional<MadeAttribute> Stylesheet::makes(XmlElement const& element, XmlHan
     }
     // An attribute set, or a template that adds to whatever calls it: it belongs to the vocabulary of the
     // stylesheet if there is but one.
-    bool const isFo = element.namespaces.has(foNamespace), isSvg = element.namespaces.has(svgNamespace);
+    auto const has = [&](Xml::Vocabulary vocabulary) {
+        return element.namespaces.has(Xml::Catalogue::namespaceOf(vocabulary));
+    };
+    bool const isFo = has(Xml::Vocabulary::Fo), isSvg = has(Xml::Vocabulary::Svg);
     if (isFo == isSvg) return std::nullopt;
     made.vocabulary = isFo ? Xml::Vocabulary::Fo : Xml::Vocabulary::Svg;
     made.named = owners.empty() ? nameInDocument(element.name, tag) : owners.back().named;

@@ -1,3 +1,4 @@
+#include "bytes/GzipPacker.h"
 #include "bytes/GzipSource.h"
 #include "bytes/TranscodedSource.h"
 #include "cli/Commands.h"
@@ -6,6 +7,7 @@
 #include "fixing/ReplacedFile.h"
 #include "fixing/UnifiedDiff.h"
 #include "output/Report.h"
+#include "selecting/Configuration.h"
 #include "text/Path.h"
 #include "text/Text.h"
 
@@ -33,8 +35,36 @@ public:
     void finish() override {}
 };
 
+// Compresses what goes to another document.
+class PackedDocument final : public RewrittenDocument {
+public:
+    explicit PackedDocument(std::unique_ptr<RewrittenDocument> document)
+        : document(std::move(document)), packer([this](std::string_view bytes) { this->document->keep(bytes); }) {}
+    void keep(std::string_view bytes) override { packer.add(bytes); }
+    void replace(std::string_view, std::string_view after) override { packer.add(after); }
+    void finish() override {
+        packer.add({}, true);
+        document->finish();
+    }
+
+private:
+    std::unique_ptr<RewrittenDocument> document;
+    GzipPacker packer;
+};
+
 [[noreturn]] void failToRead(std::string const& why) {
     throw RewriteFailure("unreadable", "cannot be read: " + why);
+}
+
+// As patch takes it: a name that is absolute or leads upwards begins in the folder of the call, if the file lies below.
+std::string nameInDiff(std::string const& name) {
+    fs::path const path = pathOf(name);
+    if (!path.is_absolute() && std::ranges::find(path, "..") == path.end()) return path.generic_string();
+    std::error_code error;
+    fs::path const folder = fs::canonical(fs::absolute(path).parent_path(), error);
+    fs::path const below = (folder / path.filename()).lexically_relative(fs::current_path(error));
+    bool const isBelow = !below.empty() && *below.begin() != "..";
+    return (isBelow ? below : path).generic_string();
 }
 
 // Standard input as a file that can be read twice.
@@ -62,6 +92,7 @@ OpenFile openFile(std::string const& path) {
 struct Job {
     std::string document;
     fs::path target;
+    std::vector<FileSettings const*> settings{};
 
     bool isInput() const { return document == "-"; }
 };
@@ -87,6 +118,17 @@ std::vector<Job> jobsOf(FixOptions const& options, std::vector<std::string>& pro
         }
     }
     return jobs;
+}
+
+// Adds what the configurations say of the documents; gives what is wrong with one of them.
+std::optional<std::string> readConfigurations(Configurations& configurations, std::vector<Job>& jobs) {
+    for (Job& job : jobs) {
+        Configuration const* configuration = nullptr;
+        if (job.isInput()) continue;
+        if (auto problem = configurations.find(job.document, configuration)) return problem;
+        if (configuration) configuration->addSettings(job.document, job.settings);
+    }
+    return std::nullopt;
 }
 
 class Fixing {
@@ -132,16 +174,27 @@ private:
     // Nothing is left of what was done before a failure.
     std::optional<XmlFailure> rewrite(Job const& job, std::string const& name) {
         OpenFile opened = job.isInput() ? openInput() : openFile(job.document);
-        std::unique_ptr<RewrittenDocument> const rewritten = destinationOf(job, name);
         SharedFileSource checked(opened.get()), copied(opened.get());
         constexpr std::size_t longestDeclaration = 1 << 10;
-        std::array<char, longestDeclaration> room;
-        PeekedSource source(checked, room);
-        std::string_view const start = source.peek(longestDeclaration);
-        bool const hasPlaces = !isGzip(start) && foreignEncoding(start).empty();
-        Rewriter rewriter(copied, *rewritten);
+        std::array<char, longestDeclaration> room, unpackedRoom;
+        PeekedSource start(checked, room);
+        bool const isPacked = isGzip(start.peek(longestDeclaration));
+        std::optional<GzipSource> unpacked, unpackedCopy;
+        if (isPacked) {
+            unpacked.emplace(start);
+            unpackedCopy.emplace(copied);
+        }
+        PeekedSource source(isPacked ? static_cast<ByteSource&>(*unpacked) : start, unpackedRoom);
+        bool const hasPlaces = foreignEncoding(source.peek(longestDeclaration)).empty();
+        std::unique_ptr<RewrittenDocument> rewritten = destinationOf(job, name);
+        if (isPacked && !options.isDryRun) rewritten = std::make_unique<PackedDocument>(std::move(rewritten));
+        Rewriter rewriter(isPacked ? static_cast<ByteSource&>(*unpackedCopy) : copied, *rewritten);
+        auto const isWanted = [&](Finding const& finding) {
+            return std::ranges::all_of(job.settings,
+                                       [&](FileSettings const* settings) { return settings->filter.passes(finding); });
+        };
         Fixer fixer(
-            {options.takesSuggestions, hasPlaces}, [&](Edit const& edit) { rewriter.apply(edit); },
+            {options.takesSuggestions, hasPlaces}, isWanted, [&](Edit const& edit) { rewriter.apply(edit); },
             [&](Finding const& finding, std::string_view reason) { tell(name, finding, reason); });
         std::optional<XmlFailure> failure = readXml(source, fixer);
         if (!failure) fixer.finish();
@@ -162,7 +215,7 @@ private:
 
     std::unique_ptr<RewrittenDocument> destinationOf(Job const& job, std::string const& name) {
         if (options.isDryRun)
-            return std::make_unique<UnifiedDiff>(pathOf(name).generic_string(), isColored,
+            return std::make_unique<UnifiedDiff>(nameInDiff(name), isColored,
                                                  [](std::string const& diff) { print(diff); });
         if (job.isInput()) return std::make_unique<PrintedDocument>();
         return std::make_unique<ReplacedFile>(system, folders, job.target, job.document);
@@ -208,8 +261,13 @@ int fix(FixOptions const& options) {
     Core::Log::setHandler([](Core::String const&) {});
 
     std::vector<std::string> problems;
-    std::vector<Job> const jobs = jobsOf(options, problems);
+    std::vector<Job> jobs = jobsOf(options, problems);
     for (std::string const& line : problems) printError("xmlattr: " + line + "\n");
+    Configurations configurations;
+    if (auto const problem = readConfigurations(configurations, jobs)) {
+        printError("xmlattr: " + *problem + "\n");
+        return 2;
+    }
     Fixing fixing(options, std::ranges::any_of(jobs, &Job::isInput));
     for (Job const& job : jobs) fixing.fix(job);
     fixing.syncFolders();

@@ -12,7 +12,7 @@ constexpr std::string_view inEntity = "the value comes out of an entity";
 constexpr std::string_view inTemplate = "the value is a template with doubled braces";
 constexpr std::string_view inPieces = "the text of the element is not in one piece, or has references";
 constexpr std::string_view withComment = "there is a comment in the value";
-constexpr std::string_view withoutPlaces = "the file is compressed, or in an encoding in which nothing is rewritten";
+constexpr std::string_view withoutPlaces = "the file is in an encoding in which nothing is rewritten";
 constexpr std::string_view afterOthers = "what stands after the value has been rewritten already";
 
 bool isOfValue(Fault fault) {
@@ -52,8 +52,9 @@ std::string written(std::u32string_view text, char32_t quote, ByteEncoding encod
 
 } // namespace
 
-Fixer::Fixer(Options const& options, Edited edited, Left left)
+Fixer::Fixer(Options const& options, Wanted wanted, Edited edited, Left left)
     : options(options),
+      wanted(std::move(wanted)),
       edited(std::move(edited)),
       left(std::move(left)),
       checker(checkCounts, [this](Finding const& finding) { take(finding); }) {}
@@ -76,6 +77,7 @@ void Fixer::text(XmlText const& text) {
 }
 
 void Fixer::take(Finding const& finding) {
+    if (!wanted(finding)) return;
     bool const hasReplacement = isOfValue(finding.fault) && !finding.replacement.empty();
     bool const isFixable = hasReplacement && (finding.isExact || options.takesSuggestions);
     std::string_view const reason = isFixable ? fix(finding) : std::string_view();

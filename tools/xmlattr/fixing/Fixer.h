@@ -26,12 +26,14 @@ public:
         bool hasPlaces = true;         // whether the bytes that are read are those of the file
     };
 
+    // Asked of each finding: what is not wanted is neither fixed nor told.
+    using Wanted = std::function<bool(Finding const& finding)>;
     // Called for each edit, in the order of the document.
     using Edited = std::function<void(Edit const& edit)>;
     // Called for what stays; `reason` is empty where no replacement is known, or but a guess.
     using Left = std::function<void(Finding const& finding, std::string_view reason)>;
 
-    Fixer(Options const& options, Edited edited, Left left);
+    Fixer(Options const& options, Wanted wanted, Edited edited, Left left);
 
     void startElement(XmlElement const& element, Tag& tag) override;
     bool wantsText(XmlElement const& element) override { return checker.wantsText(element); }
@@ -57,6 +59,7 @@ private:
     Value valueOf(std::size_t number) const;
 
     Options options;
+    Wanted wanted;
     Edited edited;
     Left left;
     Counts checkCounts;

@@ -4,18 +4,28 @@
 #include "xmlattr/core/Text.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
+#include <cstring>
 
 namespace Command {
 
 void toUtf16(std::string_view utf8, std::u16string& out) {
     out.resize(utf8.size());
+    char16_t* to = out.data();
     unsigned all = 0; // whether all is ASCII is asked once, so that the loop is a plain copy
-    for (std::size_t i = 0; i < utf8.size(); ++i) {
-        auto const byte = static_cast<unsigned char>(utf8[i]);
+    auto const widen = [&](unsigned char byte) {
         all |= byte;
-        out[i] = byte;
+        *to++ = byte;
+    };
+    // By blocks of a fixed size, for which the compiler needs no loop.
+    std::array<unsigned char, 16> block;
+    std::size_t const blocks = utf8.size() - utf8.size() % block.size();
+    for (std::size_t i = 0; i < blocks; i += block.size()) {
+        std::memcpy(block.data(), utf8.data() + i, block.size());
+        std::ranges::for_each(block, widen);
     }
+    for (char const c : utf8.substr(blocks)) widen(static_cast<unsigned char>(c));
     if (all >= 0x80) out = std::u16string_view(Core::String::fromUtf8(utf8));
 }
 

@@ -53,14 +53,24 @@ bool takeArgument(ValueCursor& cursor) {
     return hasOne;
 }
 
-// The arguments after the RGB colour of a call: from one up to as many as that.
+// The name of a profile, a set of inks or a system colour; formatters have some that begin with "#".
+bool takeNameArgument(ValueCursor& cursor) {
+    cursor.skipSpace();
+    char16_t const first = cursor.peek();
+    bool const isName = Core::isLetter(first) || first >= 0x80 ||
+                        std::u16string_view(u"_#'\"").find(first) != std::u16string_view::npos;
+    return isName && takeArgument(cursor);
+}
+
+// The arguments after the RGB colour of a call: a name, and others up to as many as that in all.
 bool takeArguments(ValueCursor& cursor, int most) {
-    int count = 0;
+    if (!cursor.take(u',') || !takeNameArgument(cursor)) return false;
+    int count = 1;
     while (cursor.take(u',')) {
         ++count;
         if (!takeArgument(cursor)) return false;
     }
-    return count > 0 && count <= most && cursor.take(u')');
+    return count <= most && cursor.take(u')');
 }
 
 bool readNamedColor(Item& item, std::u16string_view name) {
@@ -95,7 +105,7 @@ bool readColor(Item& item, ValueCursor& cursor) {
     if (name == u"rgb-named-color") return withText(readComponents(item, cursor) && takeArguments(cursor, 2));
     if (name != u"system-color") return false;
     item.kind = ItemKind::Word;
-    return withText(takeArgument(cursor) && cursor.take(u')'));
+    return withText(takeNameArgument(cursor) && cursor.take(u')'));
 }
 
 } // namespace Xml

@@ -192,13 +192,26 @@ private:
         if (equalsWord(word, "rgb", true)) return components();
         isTransform = isSvg && !Xml::find<transforms>(word).empty();
         std::string_view const found = Xml::find<newFunctions>(word);
+        bool const isColor = word == u"rgba" || word == u"hsl" || word == u"hsla" || word == u"hwb";
+        if (isColor && !hasComponents()) return {};
         return found.empty() && isSvg ? Xml::find<newSvgFunctions>(word) : found;
+    }
+
+    std::u16string_view arguments() const {
+        std::u16string_view const rest = text.substr(index + 1);
+        return rest.substr(0, rest.find(u')'));
+    }
+
+    // Three, and perhaps an alpha; a call among them may give several.
+    bool hasComponents() const {
+        std::u16string_view const given = arguments();
+        std::size_t const count = splitValues(given, u",/").size();
+        return count == 3 || count == 4 || given.find(u'(') != std::u16string_view::npos;
     }
 
     // rgb() with blanks instead of commas, or with a fourth part.
     std::string_view components() const {
-        std::u16string_view arguments = text.substr(index + 1);
-        arguments = arguments.substr(0, arguments.find(u')'));
+        std::u16string_view const arguments = this->arguments();
         auto const commas = std::ranges::count(arguments, u',');
         bool const hasBlanks = commas == 0 && splitValues(trimXmlSpace(arguments)).size() >= 3;
         return hasBlanks || commas == 3 || arguments.find(u'/') != std::u16string_view::npos ? "CSS 4" : "";
@@ -216,6 +229,8 @@ std::string_view newerRecommendation(Dialect dialect, std::string_view attribute
     Meaning meaning;
     auto const row = dialect == Dialect::Fo ? std::nullopt : Core::WordTable<rowsOf<newValues>>::find(attribute);
     if (row && readMeaning(meaning, newValues[*row].grammar, dialect, text)) return newValues[*row].recommendation;
+    bool const isPath = attribute == "d" || attribute == "path"; // whose letters are no units
+    if (isPath) return {};
     return Scanner(dialect, text).find();
 }
 

@@ -39,6 +39,14 @@ struct SvgReading {
     bool operator==(SvgReading const&) const = default;
 };
 
+// As path data has it: "M", or "m" where the command is relative.
+constexpr char letterOf(PathDataCommand const& command) {
+    constexpr std::string_view letters = "MZLHVCSQTA"; // by kind
+    char const letter = letters[static_cast<std::size_t>(command.kind - PathCommandKind::MoveTo)];
+    bool const isLower = command.relative && command.kind != PathCommandKind::ClosePath;
+    return isLower ? static_cast<char>(letter + ('a' - 'A')) : letter;
+}
+
 // What the items of a list of numbers or lengths may be.
 struct SvgListRule {
     bool units = false;        // lengths and percentages; else numbers

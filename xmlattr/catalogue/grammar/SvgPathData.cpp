@@ -1,6 +1,8 @@
 // Path data by SVG 1.1, section 8.3.9.
 #include "xmlattr/catalogue/grammar/SvgRewriter.h"
 
+#include <span>
+
 namespace Xml {
 
 namespace {
@@ -62,46 +64,51 @@ private:
         return false;
     }
 
-    template <class PathVisitor>
-    static bool readArguments(SvgScanner& scanner, PathVisitor& visitor, PathCommandKind kind) {
-        auto const take = [&](SLength Command::*field) {
-            SvgNumber number;
-            if (!scanner.takeNumber(number)) return false;
-            visitor.number(number, field);
-            return true;
-        };
-        auto const next = [&](SLength Command::*field) {
-            scanner.skipSeparator();
-            return take(field);
-        };
-        auto const takePair = [&](SLength Command::*x, SLength Command::*y) { return take(x) && next(y); };
-        auto const nextPair = [&](SLength Command::*x, SLength Command::*y) { return next(x) && next(y); };
+    using Field = SLength Command::*;
+    static constexpr Field curve[] = {&Command::x1, &Command::y1, &Command::x2, &Command::y2, &Command::x, &Command::y};
+    static constexpr Field arc[] = {&Command::rx, &Command::ry, &Command::x, &Command::y};
+    static constexpr Field quadratic[] = {&Command::x1, &Command::y1, &Command::x, &Command::y};
+
+    // The numbers of a command in their order, but for the rotation of an arc.
+    static std::span<Field const> fieldsOf(PathCommandKind kind) {
+        std::span<Field const> const all = curve, ofPoint = all.subspan(4);
         switch (kind) {
-        case PathCommandKind::ClosePath: return true;
-        case PathCommandKind::HorizontalLineTo: return take(&Command::x);
-        case PathCommandKind::VerticalLineTo: return take(&Command::y);
-        case PathCommandKind::CurveTo:
-            return takePair(&Command::x1, &Command::y1) && nextPair(&Command::x2, &Command::y2) &&
-                   nextPair(&Command::x, &Command::y);
-        case PathCommandKind::SmoothCurveTo:
-            return takePair(&Command::x2, &Command::y2) && nextPair(&Command::x, &Command::y);
-        case PathCommandKind::QuadraticCurveTo:
-            return takePair(&Command::x1, &Command::y1) && nextPair(&Command::x, &Command::y);
-        case PathCommandKind::ArcTo: {
-            // A negative radius is legal: section F.6.6 drops its sign.
-            if (!takePair(&Command::rx, &Command::ry)) return false;
-            scanner.skipSeparator();
-            SvgNumber rotation;
-            if (!scanner.takeNumber(rotation)) return false;
-            visitor.rotation(rotation);
-            return takeFlag(scanner, visitor, &Command::largeArc) && takeFlag(scanner, visitor, &Command::sweep) &&
-                   nextPair(&Command::x, &Command::y);
-        }
+        case PathCommandKind::ClosePath: return {};
+        case PathCommandKind::HorizontalLineTo: return ofPoint.first(1);
+        case PathCommandKind::VerticalLineTo: return ofPoint.last(1);
+        case PathCommandKind::CurveTo: return all;
+        case PathCommandKind::SmoothCurveTo: return all.subspan(2);
+        case PathCommandKind::QuadraticCurveTo: return quadratic;
+        case PathCommandKind::ArcTo: return arc;
         case PathCommandKind::MoveTo:
         case PathCommandKind::LineTo:
-        case PathCommandKind::SmoothQuadraticCurveTo: return takePair(&Command::x, &Command::y);
+        case PathCommandKind::SmoothQuadraticCurveTo: return ofPoint;
         }
-        return false;
+        return {};
+    }
+
+    template <class PathVisitor>
+    static bool readArguments(SvgScanner& scanner, PathVisitor& visitor, PathCommandKind kind) {
+        std::span<Field const> const fields = fieldsOf(kind);
+        for (std::size_t i = 0; i < fields.size(); ++i) {
+            if (i > 0) scanner.skipSeparator();
+            if (kind == PathCommandKind::ArcTo && i == 2 && !readTurn(scanner, visitor)) return false;
+            SvgNumber number;
+            if (!scanner.takeNumber(number)) return false;
+            visitor.number(number, fields[i]);
+        }
+        return true;
+    }
+
+    // Between the radii of an arc and its end. A negative radius is legal: section F.6.6 drops its sign.
+    template <class PathVisitor> static bool readTurn(SvgScanner& scanner, PathVisitor& visitor) {
+        SvgNumber rotation;
+        if (!scanner.takeNumber(rotation)) return false;
+        visitor.rotation(rotation);
+        if (!takeFlag(scanner, visitor, &Command::largeArc) || !takeFlag(scanner, visitor, &Command::sweep))
+            return false;
+        scanner.skipSeparator();
+        return true;
     }
 
     // One digit, which may touch what follows it.
@@ -122,7 +129,7 @@ public:
         if (differs()) return;
         if (next == end) return differ(at, at + 1, "nothing");
         current = next++;
-        if (current->kind != kind || current->relative != relative) differ(at, at + 1, letterOf(*current));
+        if (current->kind != kind || current->relative != relative) differ(at, at + 1, {letterOf(*current)});
     }
     void number(SvgNumber const& number, SLength Command::*field) {
         if (!differs()) expect(number, current->*field);
@@ -134,15 +141,10 @@ public:
         if (!differs() && current->*field != (*at == u'1')) differ(at, at + 1, current->*field ? "1" : "0");
     }
     void finish(char16_t const* at) {
-        if (next != end) differ(at, at, letterOf(*next));
+        if (next != end) differ(at, at, {letterOf(*next)});
     }
 
 private:
-    static std::string letterOf(Command const& command) {
-        std::string_view const letters = command.relative ? "mzlhvcsqta" : "MZLHVCSQTA"; // by kind, from MoveTo on
-        return std::string(letters.substr(static_cast<std::size_t>(command.kind - PathCommandKind::MoveTo), 1));
-    }
-
     Command const* next;
     Command const* end;
     Command const* current = nullptr;

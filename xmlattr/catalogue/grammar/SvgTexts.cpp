@@ -42,10 +42,12 @@ bool takeTiming(TextCursor& cursor) {
         return isLetter(unit) || Core::isDigit(unit) || unit > 0x7F ||
                std::u16string_view(u"_-.:\\").find(unit) != std::u16string_view::npos;
     };
-    if (cursor.takeWhile(belongsToName).empty()) return false;
-    if (cursor.take(u'(')) { // of repeat, accessKey or wallclock
-        cursor.takeWhile([](char16_t unit) { return unit != u')'; });
-        if (!cursor.take(u')')) return false;
+    std::u16string_view const name = cursor.takeWhile(belongsToName);
+    if (name.empty()) return false;
+    if (cursor.take(u'(')) {
+        bool const isEvent = name.ends_with(u"repeat") || name.ends_with(u"accessKey") || name.ends_with(u"accesskey");
+        bool const isFilled = !cursor.takeWhile([](char16_t unit) { return unit != u')'; }).empty();
+        if ((!isEvent && name != u"wallclock") || !isFilled || !cursor.take(u')')) return false;
     }
     return !takeSign(cursor) || takeClockValue(cursor);
 }

@@ -72,12 +72,14 @@ bool readMeasure(Item& item, ItemKind kind, GrammarStep const& step, ValueCursor
            cursor.allows(step, item.number);
 }
 
-// Two or three numbers with colons between them, or one with its unit; always held in seconds.
+// Two or three numbers with colons between them, of two digits but the first, or one with its unit; always held in seconds.
 bool readClockValue(Item& item, ValueCursor& cursor) {
     float parts[3] = {};
     int count = 0;
     do {
-        if (count == 3 || !Core::isDigit(cursor.peek()) || !readNumber(parts[count], cursor)) return false;
+        bool const hasTwoDigits = Core::isDigit(cursor.peek(1)) && !Core::isDigit(cursor.peek(2));
+        if (count == 3 || (count > 0 && !hasTwoDigits)) return false;
+        if (!Core::isDigit(cursor.peek()) || !readNumber(parts[count], cursor)) return false;
         ++count;
     } while (cursor.take(u':'));
     std::u16string_view const unit = takeUnit(cursor);
@@ -152,7 +154,8 @@ bool readFamilyName(Item& item, ValueCursor& cursor) {
     while (!cursor.atEnd() && std::u16string_view(u",;/()\"'").find(cursor.peek()) == std::u16string_view::npos)
         ++cursor.index;
     item.text = trimXmlSpace(cursor.text.substr(first, cursor.index - first));
-    return !item.text.empty() && (cursor.atEnd() || cursor.peek() == u',');
+    bool const isInherit = equalsWord(item.text, "inherit", cursor.dialect != Dialect::Fo);
+    return !item.text.empty() && !isInherit && (cursor.atEnd() || cursor.peek() == u',');
 }
 
 // White space alone is a character too, which the cursor has skipped.

@@ -2,6 +2,7 @@
 
 #include "xmlattr/catalogue/AttributeType.h"
 #include "xmlattr/catalogue/grammar/GrammarText.h"
+#include "xmlattr/catalogue/grammar/TokenReader.h"
 #include "xmlattr/catalogue/legality/NewerColor.h"
 #include "xmlattr/catalogue/legality/TypeReading.h"
 #include "xmlattr/catalogue/legality/ValueOfRow.h"
@@ -12,6 +13,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <iterator>
 #include <utility>
 #include <vector>
@@ -58,9 +60,28 @@ constexpr Core::WordRow<std::u16string_view> unitNames[] = {
     {u"degree", u"deg"}, {u"degrees", u"deg"}, {u"°", u"deg"},     {u"percent", u"%"}, {u"pct", u"%"},
 };
 
+// The text with an exponent of the number at its beginning written out, and without a point that no decimals follow.
+std::u16string withPlainNumber(std::u16string_view text) {
+    ValueCursor cursor{text, Dialect::SvgAttribute};
+    float number = 0;
+    if (!readNumber(number, cursor)) return std::u16string(text);
+    std::u16string_view const digits = text.substr(0, cursor.index);
+    cursor.take(u'.');
+    bool const hasExponent = digits.find_first_of(u"eE") != std::u16string_view::npos;
+    std::u16string plain(digits);
+    if (hasExponent) {
+        std::array<char, 128> written; // the largest floats have 39 digits, the smallest 45 zeros before theirs
+        char* const first = written.data();
+        plain.assign(first, std::to_chars(first, first + written.size(), number, std::chars_format::fixed).ptr);
+    }
+    return plain.append(cursor.rest());
+}
+
 // What may be meant by a text that begins with a number: it may have a comma for the decimal point, a blank before its
 // unit, the unit's name, or none.
-void addNumbers(std::vector<std::u16string>& guesses, std::u16string_view text) {
+void addNumbers(std::vector<std::u16string>& guesses, std::u16string_view written) {
+    std::u16string const plain = withPlainNumber(written);
+    std::u16string_view const text = plain;
     std::size_t i = 0;
     auto const skipDigits = [&] {
         std::size_t const first = i;
@@ -115,7 +136,7 @@ std::u16string withLowerNames(std::u16string_view text) {
 // What texts have in common that differ only in the case of their names, in blanks around them or before a unit, and
 // in the mark of the decimals. A comma before three digits may be one of thousands.
 std::u16string spelling(std::u16string_view text) {
-    std::u16string lower = withLowerNames(trimXmlSpace(text));
+    std::u16string lower = withLowerNames(withPlainNumber(trimXmlSpace(text)));
     if (lower.empty() || lower.find_first_of(u"0123456789") > lower.find_first_not_of(u"+-.,")) return lower;
     std::erase_if(lower, isXmlSpace);
     std::size_t const comma = lower.find(u',');
@@ -146,7 +167,7 @@ public:
                 if (advice.replacement.empty()) advice.replacement = std::move(*rewritten);
                 advice.isExact = true;
             }
-        } else if (text.size() <= longestGuess && !judgement.isNegative && judgement.newer.empty()) {
+        } else if (text.size() <= longestGuess && !judgement.isNegative) {
             guess();
         }
         if (advice.replacement.empty()) writeColor();
@@ -171,8 +192,11 @@ private:
     void guess() {
         std::u16string_view const trimmed = trimXmlSpace(part);
         if (trimmed.empty()) return;
-        std::vector<std::u16string> guesses = variantsOf(trimmed);
-        addNearest(guesses, trimmed);
+        std::vector<std::u16string> guesses{withWords(trimmed)};
+        if (judgement.newer.empty()) {
+            std::ranges::move(variantsOf(trimmed), std::back_inserter(guesses));
+            addNearest(guesses, trimmed);
+        }
         std::u16string_view const whole = std::exchange(part, trimmed);
         if (takeFirst(guesses) || whole.size() == trimmed.size()) return;
         part = whole;
@@ -181,8 +205,9 @@ private:
 
     bool takeFirst(std::vector<std::u16string> const& guesses) {
         for (std::u16string const& candidate : guesses) {
-            if (candidate == part || !take(candidate)) continue;
-            advice.isExact = advice.isExact && spelling(part) == spelling(candidate);
+            bool const isSame = spelling(part) == spelling(candidate);
+            if (candidate == part || !take(candidate, isSame)) continue;
+            advice.isExact = advice.isExact && isSame;
             return true;
         }
         return false;
@@ -194,6 +219,19 @@ private:
         std::u16string digits = u"#";
         for (int shift = 20; shift >= 0; shift -= 4) digits += u"0123456789abcdef"[color->rgb >> shift & 0xF];
         if (take(digits)) advice.isExact = advice.isExact && color->isOpaque;
+    }
+
+    // The text with each word that the grammar has in another case as the grammar has it, but what is in parentheses or
+    // quotation marks.
+    std::u16string withWords(std::u16string_view trimmed) const {
+        std::vector<std::string_view> const words = wordsIn(entry.grammar);
+        std::u16string out(trimmed);
+        for (std::u16string_view const written : splitValues(trimmed, u",/")) {
+            auto const isSame = [&](std::string_view word) { return equalsWord(written, word, true); };
+            auto const word = std::ranges::find_if(words, isSame);
+            if (word != words.end()) std::ranges::copy(*word, out.begin() + (written.data() - trimmed.data()));
+        }
+        return out;
     }
 
     void addNearest(std::vector<std::u16string>& guesses, std::u16string_view trimmed) const {
@@ -223,11 +261,12 @@ private:
     }
 
     // Tries the text with this in the place of the part: it is to be read as written, or to have no fault before a
-    // later part, of which advice is taken too, if there is any. False when another candidate may be better.
-    bool take(std::u16string_view candidate) {
+    // later part, of which advice is taken too, if there is any. What differs in its spelling alone may also be what no
+    // value type reads. False when another candidate may be better.
+    bool take(std::u16string_view candidate, bool isSame = false) {
         std::u16string whole = with(candidate);
         Judgement const next = judge(entry, whole, notation);
-        if (next.verdict == Verdict::Read || (!entry.type() && next.verdict == Verdict::PassedOver)) {
+        if (next.verdict == Verdict::Read || ((isSame || !entry.type()) && next.verdict == Verdict::PassedOver)) {
             advice.replacement = std::move(whole);
             advice.isExact = true;
             return true;

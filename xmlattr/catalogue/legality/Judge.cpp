@@ -29,13 +29,6 @@ bool isIllegal(Judgement const& judgement) {
     return judgement.verdict == Verdict::Lenient || judgement.verdict == Verdict::Refused;
 }
 
-bool isNegative(CatalogueEntry const& entry, Dialect dialect, std::u16string_view text) {
-    Meaning meaning;
-    return text.find(u'-') != std::u16string_view::npos &&
-           readMeaning(meaning, entry.grammar, dialect, text, Ranges::Ignored) &&
-           std::ranges::any_of(meaning.values(), [](Item const& item) { return item.number < 0; });
-}
-
 } // namespace
 
 Judgement judge(CatalogueEntry const& entry, std::u16string_view text, Notation notation) {
@@ -49,7 +42,10 @@ Judgement judge(CatalogueEntry const& entry, std::u16string_view text, Notation 
         Verdict const verdict = judgeIn(dialect, entry, toLower(text)).verdict;
         if (!isFault(verdict)) return {verdict == Verdict::Read ? Verdict::PassedOver : verdict};
     }
-    judgement.isNegative = isNegative(entry, dialect, text);
+    Meaning meaning;
+    judgement.isOutOfRange = readMeaning(meaning, entry.grammar, dialect, text, Ranges::Ignored);
+    judgement.isNegative = judgement.isOutOfRange &&
+                           std::ranges::any_of(meaning.values(), [](Item const& item) { return item.number < 0; });
     if (!judgement.isNegative) judgement.newer = newerRecommendation(dialect, entry.attribute, trimXmlSpace(text));
     return judgement;
 }

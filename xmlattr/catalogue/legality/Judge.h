@@ -34,6 +34,8 @@ struct Judgement {
     // Of a fault: the part of a shorthand or a list that is wrong or read otherwise, a slice of the judged text. Where
     // something is missing it has no length. A null one is the whole.
     std::u16string_view part{};
+    // Of a refused shorthand: the parts after it that are wrong too.
+    std::vector<std::u16string_view> otherParts{};
     // Of a fault: the value types that were asked for the part or the whole; of a misread or lenient one, the type
     // that reads it.
     std::vector<AttributeType const*> tried{};
@@ -43,8 +45,8 @@ struct Judgement {
     std::string held{};
     // Of a lenient or refused text: the newer recommendation that has it, "SVG 2" or "CSS 3"; empty when none has.
     std::string_view newer{};
-    // Of a lenient or refused text: legal but for its negative number.
-    bool isNegative = false;
+    // Of a lenient or refused text: legal but for the range of a number; and that number is negative.
+    bool isOutOfRange = false, isNegative = false;
 };
 
 // What the text is the value of: an attribute, or a property in a style attribute, where words have any case.

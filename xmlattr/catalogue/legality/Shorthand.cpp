@@ -30,9 +30,15 @@ public:
     Judgement inAnyOrder(std::vector<std::u16string_view> const& parts) {
         if (parts.size() > entry.mostParts)
             return refusal("has more than " + std::to_string(entry.mostParts) + " parts");
-        for (std::u16string_view const part : parts)
-            if (!isOneOf(entry.longhands, part) && !isWord(part)) return refusal(part);
-        return accepted();
+        std::optional<Judgement> refused;
+        for (std::u16string_view const part : parts) {
+            if (isOneOf(entry.longhands, part) || isWord(part)) continue;
+            if (!refused)
+                refused = refusal(part);
+            else
+                refused->otherParts.push_back(part);
+        }
+        return refused ? std::move(*refused) : accepted();
     }
 
     // [style, variant and weight in any order] size[/line-height] family
@@ -49,6 +55,7 @@ public:
             i += 2;
         }
         if (i >= parts.size()) return refusal("has no font family");
+        if (i + 1 == parts.size() && isInherit(parts[i])) return refusal(parts[i]);
         return accepted();
     }
 
@@ -94,9 +101,11 @@ private:
     bool isInherit(std::u16string_view part) const { return equalsWord(part, "inherit", dialect != Dialect::Fo); }
 
     Judgement refusal(std::u16string_view part) const {
-        return {Verdict::Refused, part, tried, isInherit(part) ? "is legal only by itself" : ""};
+        return {Verdict::Refused, part, {}, tried, isInherit(part) ? "is legal only by itself" : ""};
     }
-    static Judgement refusal(std::string problem) { return {Verdict::Refused, {}, {}, std::move(problem)}; }
+    static Judgement refusal(std::string problem) {
+        return {.verdict = Verdict::Refused, .problem = std::move(problem)};
+    }
     Judgement accepted() {
         if (fault) return std::move(*fault);
         return {hasRead ? Verdict::Read : Verdict::PassedOver};
@@ -132,7 +141,7 @@ Judgement judgeShorthand(CatalogueEntry const& entry, Dialect dialect, std::u16s
     if (entry.longhands.empty() && entry.ownWords.empty()) return judgeByGrammar(entry, dialect, text);
     if (isComputed(entry, text)) return {Verdict::PassedOver};
     auto const parts = splitParts(text, entry.isFont ? u"/" : u"");
-    if (parts.empty()) return {Verdict::Refused, {}, {}, "is empty"};
+    if (parts.empty()) return {.verdict = Verdict::Refused, .problem = "is empty"};
     PartsJudge judge(entry, dialect);
     Judgement judgement = entry.isFont ? judge.asFont(parts) : judge.inAnyOrder(parts);
     Meaning meaning;
@@ -141,7 +150,7 @@ Judgement judgeShorthand(CatalogueEntry const& entry, Dialect dialect, std::u16s
     if (isLegal && (judgement.verdict == Verdict::Refused || judgement.verdict == Verdict::Lenient))
         return {Verdict::PassedOver};
     if (isLegal || isFault(judgement.verdict) || judge.hasComputed()) return judgement;
-    return {Verdict::Refused, {}, {}, "has parts that do not go together"};
+    return {.verdict = Verdict::Refused, .problem = "has parts that do not go together"};
 }
 
 } // namespace Xml

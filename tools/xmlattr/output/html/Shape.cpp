@@ -1,6 +1,7 @@
 #include "output/html/Shape.h"
 
 #include "output/html/Markup.h"
+#include "xmlattr/catalogue/grammar/SvgLists.h"
 #include "xmlattr/svg/PathData.h"
 #include "xmlattr/svg/Point.h"
 #include "xmlattr/svg/Transform.h"
@@ -19,10 +20,7 @@ public:
     // A command as it is, so that the browser resolves it; its points count for the frame.
     void add(Xml::PathDataCommand const& command) {
         using enum Xml::PathCommandKind;
-        constexpr std::string_view letters = "MZLHVCSQTA"; // by kind
-        auto const index = static_cast<std::size_t>(command.kind - MoveTo);
-        auto const lower = static_cast<char>(command.relative && command.kind != ClosePath ? 'a' - 'A' : 0);
-        shape.path += static_cast<char>(letters[index] + lower);
+        shape.path += Xml::letterOf(command);
         origin = command.relative ? at : Spot();
         Spot const to{command.x.pxSize(), command.y.pxSize()};
         switch (static_cast<Xml::PathCommandKind>(command.kind)) {
