@@ -20,7 +20,7 @@ std::u16string_view trimmed(std::u16string_view text) {
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
     if (size < 3) return 0;
     auto const entries = Xml::Catalogue::entries();
-    Xml::CatalogueEntry const& entry = entries[(data[0] << 8 | data[1]) % entries.size()];
+    Xml::CatalogueEntry const& entry = entries[(data[0] * 256u + data[1]) % entries.size()];
     auto const notation = data[2] % 4 == 0 ? Xml::Notation::Declaration : Xml::Notation::Attribute;
     std::u16string const text = toText(data + 3, data + size);
 
