@@ -10,6 +10,7 @@
 #include <array>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 namespace Command {
 
@@ -22,6 +23,7 @@ public:
         using enum Xml::PathCommandKind;
         shape.path += Xml::letterOf(command);
         origin = command.relative ? at : Spot();
+        std::int32_t const before = std::exchange(kind, command.kind);
         Spot const to{command.x.pxSize(), command.y.pxSize()};
         switch (static_cast<Xml::PathCommandKind>(command.kind)) {
         case ClosePath: at = start; return;
@@ -31,12 +33,15 @@ public:
             control({command.x1.pxSize(), command.y1.pxSize()});
             control({command.x2.pxSize(), command.y2.pxSize()});
             break;
-        case SmoothCurveTo: control({command.x2.pxSize(), command.y2.pxSize()}); break;
+        case SmoothCurveTo:
+            mirror(before == CurveTo || before == SmoothCurveTo);
+            control({command.x2.pxSize(), command.y2.pxSize()});
+            break;
         case QuadraticCurveTo: control({command.x1.pxSize(), command.y1.pxSize()}); break;
         case ArcTo: arc(command, {origin.x + to.x, origin.y + to.y}); break;
+        case SmoothQuadraticCurveTo: mirror(before == QuadraticCurveTo || before == SmoothQuadraticCurveTo); break;
         case MoveTo:
-        case LineTo:
-        case SmoothQuadraticCurveTo: break;
+        case LineTo: break;
         }
         write(to.x);
         write(to.y);
@@ -57,7 +62,14 @@ private:
     void control(Spot point) {
         write(point.x);
         write(point.y);
-        shape.box.add(Spot{origin.x + point.x, origin.y + point.y});
+        lastControl = {origin.x + point.x, origin.y + point.y};
+        shape.box.add(lastControl);
+    }
+
+    // The control point that a smooth curve does not name mirrors the last one of a curve of its own degree.
+    void mirror(bool continues) {
+        lastControl = continues ? Spot{2 * at.x - lastControl.x, 2 * at.y - lastControl.y} : at;
+        shape.box.add(lastControl);
     }
 
     // The box of a circle that the arc fits in: of its own circle for the larger arc, else of one about the middle of
@@ -79,7 +91,8 @@ private:
         shape.box.add(Spot{middle.x + reach, middle.y + reach});
     }
 
-    Spot at, start, origin;
+    Spot at, start, origin, lastControl;
+    std::int32_t kind = 0; // of the last command
 };
 
 Shape shapeOf(Core::Vector<Xml::PathDataCommand> const& commands) {
