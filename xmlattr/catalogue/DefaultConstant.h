@@ -22,7 +22,7 @@ public:
     std::string_view name() const noexcept { return constantName; }
     // The type of its value.
     AttributeType const& type() const noexcept { return AttributeType::all()[typeNumber]; }
-    // The constant itself. Its text prints whatever its type.
+    // The constant itself, which prints what its type prints.
     XmlAttribute const& operator*() const noexcept { return *attribute; }
 
 private:

@@ -130,10 +130,12 @@ std::optional<int> carryOut(CheckOptions const& options, FileList const& list, F
     std::uint64_t const threads = run.jobs.value_or(0);
     std::size_t const told =
         runFiles(jobs, threads > 0 ? threads : std::max(1U, std::thread::hardware_concurrency()), teller);
-    if (told < jobs.size())
-        reporter->failure("",
-                          {"stopped", "stopped after " + std::to_string(told) + " of " + quantity(jobs.size(), "file"),
-                           std::nullopt});
+    if (told < jobs.size()) {
+        XmlFailure const stopped{
+            "stopped", "stopped after " + std::to_string(told) + " of " + quantity(jobs.size(), "file"), std::nullopt};
+        // The report in a file is left out.
+        options.output.empty() ? reporter->failure("", stopped) : printError(failureLine("", stopped));
+    }
     int const code = teller.finish();
     if (told < jobs.size()) return std::nullopt;
     report.complete();
