@@ -358,7 +358,9 @@ void Checker::find(Occurrence const& occurrence, Xml::CatalogueEntry const& entr
     finding.isTaken = judgement.verdict != Xml::Verdict::Refused;
     finding.expected = advice.expected;
     finding.replacement = toUtf8(advice.replacement);
-    finding.isExact = advice.isExact;
+    // A comma in an animation may be meant for a semicolon.
+    bool const hasComma = occurrence.isAnimated && occurrence.value.find(',') != std::string_view::npos;
+    finding.isExact = advice.isExact && !hasComma;
     std::u16string_view const judged = utf16;
     finding.offset = toUtf8(judged.substr(0, advice.offset)).size();
     finding.length = toUtf8(judged.substr(advice.offset, advice.length)).size();

@@ -136,7 +136,7 @@ std::string Finding::message() const {
     else if (fault != Fault::Misread && (fault != Fault::Lenient || held.empty()))
         line += otherParts.empty() ? " is not legal" : " are not legal";
     if (!held.empty()) {
-        bool const isFirst = line.ends_with('"') || line.ends_with(element);
+        bool const isFirst = problem.empty() && (line.ends_with('"') || line.ends_with(element));
         line += std::string(isFirst ? " is read as " : ", and is read as ") + shown(held);
     } else if (fault == Fault::Misread) {
         if (problem.empty()) line += " is read otherwise";

@@ -58,7 +58,9 @@ private:
 
 // As patch takes it: a name that is absolute or leads upwards begins in the folder of the call, if the file lies below.
 std::string nameInDiff(std::string const& name) {
-    fs::path const path = pathOf(name);
+    std::error_code unresolved;
+    fs::path const named = pathOf(name),
+                   path = fs::is_symlink(named, unresolved) ? fs::canonical(named, unresolved) : named;
     if (!path.is_absolute() && std::ranges::find(path, "..") == path.end()) return path.generic_string();
     std::error_code error;
     fs::path const folder = fs::canonical(fs::absolute(path).parent_path(), error);

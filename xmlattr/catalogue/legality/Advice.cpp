@@ -66,7 +66,9 @@ std::u16string withPlainNumber(std::u16string_view text) {
     float number = 0;
     if (!readNumber(number, cursor)) return std::u16string(text);
     std::u16string_view const digits = text.substr(0, cursor.index);
-    cursor.take(u'.');
+    std::u16string_view const rest = cursor.rest();
+    bool const hasPoint = digits.find(u'.') != std::u16string_view::npos; // then another one begins another number
+    if (!hasPoint && rest.starts_with(u'.') && (rest.size() == 1 || !Core::isDigit(rest[1]))) cursor.take(u'.');
     bool const hasExponent = digits.find_first_of(u"eE") != std::u16string_view::npos;
     std::u16string plain(digits);
     if (hasExponent) {
@@ -96,8 +98,9 @@ void addNumbers(std::vector<std::u16string>& guesses, std::u16string_view writte
     if (!hasDigits && !hasPoint) return;
     std::u16string number(text.substr(0, i));
     if (hasPoint) number[point] = u'.';
-    std::u16string const unit = toLower(trimXmlSpace(text.substr(i)));
+    std::u16string const spelt(trimXmlSpace(text.substr(i))), unit = toLower(spelt);
     if (std::ranges::any_of(unit, Core::isDigit)) return;
+    guesses.push_back(number + spelt);
     guesses.push_back(number + unit);
     if (unit.empty()) guesses.push_back(number + u"pt");
     if (auto const meant = Core::WordTable<unitNames>::find(unit)) guesses.push_back(number + std::u16string(*meant));
@@ -167,9 +170,8 @@ public:
                 if (advice.replacement.empty()) advice.replacement = std::move(*rewritten);
                 advice.isExact = true;
             }
-        } else if (text.size() <= longestGuess && !judgement.isNegative) {
-            guess();
         }
+        if (advice.replacement.empty() && text.size() <= longestGuess && !judgement.isNegative) guess();
         if (advice.replacement.empty()) writeColor();
         setChange();
         return std::move(advice);
@@ -195,7 +197,18 @@ private:
         std::vector<std::u16string> guesses{withWords(trimmed)};
         if (judgement.newer.empty()) {
             std::ranges::move(variantsOf(trimmed), std::back_inserter(guesses));
-            addNearest(guesses, trimmed);
+            // Two words are one with a blank in it only where there is such a word.
+            std::vector<std::u16string> const words = knownWords();
+            std::u16string joined(trimmed);
+            if (std::erase_if(joined, isXmlSpace) > 0)
+                std::erase_if(guesses, [&](std::u16string const& guess) {
+                    auto const isGuess = [&](std::u16string const& word) {
+                        return std::ranges::equal(word, guess, isAlike);
+                    };
+                    bool const isWord = std::ranges::none_of(guess, Core::isDigit);
+                    return isWord && std::ranges::equal(guess, joined, isAlike) && std::ranges::none_of(words, isGuess);
+                });
+            addNearest(guesses, trimmed, words);
         }
         std::u16string_view const whole = std::exchange(part, trimmed);
         if (takeFirst(guesses) || whole.size() == trimmed.size()) return;
@@ -206,11 +219,20 @@ private:
     bool takeFirst(std::vector<std::u16string> const& guesses) {
         for (std::u16string const& candidate : guesses) {
             bool const isSame = spelling(part) == spelling(candidate);
+            // What is legal means what it says.
+            if (judgement.verdict == Verdict::Misread && !isSame) continue;
             if (candidate == part || !take(candidate, isSame)) continue;
-            advice.isExact = advice.isExact && isSame;
+            advice.isExact = advice.isExact && isSame && !hasCommaForSemicolon();
             return true;
         }
         return false;
+    }
+
+    // Then it was hardly meant for the mark of decimals.
+    bool hasCommaForSemicolon() const {
+        std::u16string list(text);
+        std::ranges::replace(list, u',', u';');
+        return list != text && !isFault(judge(entry, list, notation).verdict);
     }
 
     void writeColor() {
@@ -234,11 +256,17 @@ private:
         return out;
     }
 
-    void addNearest(std::vector<std::u16string>& guesses, std::u16string_view trimmed) const {
+    // The words of the grammar and of the value types that were asked.
+    std::vector<std::u16string> knownWords() const {
         std::vector<std::u16string> words;
         for (std::string_view const word : wordsIn(entry.grammar)) words.emplace_back(word.begin(), word.end());
         for (AttributeType const* const type : judgement.tried)
             for (std::u16string_view const word : type->words()) words.emplace_back(word);
+        return words;
+    }
+
+    static void addNearest(std::vector<std::u16string>& guesses, std::u16string_view trimmed,
+                           std::vector<std::u16string> const& words) {
         std::vector<std::u16string_view> views(words.begin(), words.end());
         constexpr int mostTries = 4; // a word that the type reads may be none that is legal
         for (int i = 0; i < mostTries; ++i) {

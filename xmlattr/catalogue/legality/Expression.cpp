@@ -74,9 +74,12 @@ private:
     }
 
     bool factor(Expression& value) {
-        bool isSigned = false;
-        while (take(u"-") || take(u"+")) isSigned = true;
-        return primary(value) && (!isSigned || makeNumeric(value));
+        int signs = 0;
+        while (take(u"-") || take(u"+")) ++signs;
+        // A number with its sign is a value, and so is one with two by mistake; a sign apart is an operator.
+        skipBlanks();
+        if (signs == 1 && isXmlSpace(text[index - 1])) isMoreThanValue = true;
+        return primary(value) && (signs == 0 || makeNumeric(value));
     }
 
     bool primary(Expression& value) {

@@ -120,7 +120,7 @@ std::optional<NewerColor> readCall(std::u16string_view text) {
         std::optional<Argument> const argument = readArgument(pieces.back());
         std::optional<float> const alpha = argument ? fractionOf(*argument, 1) : std::nullopt;
         if (!alpha) return std::nullopt;
-        color.isOpaque = *alpha == 1;
+        color.isOpaque = *alpha == 1 && (argument->isPercentage() || argument->number <= 1);
     }
     return color;
 }
