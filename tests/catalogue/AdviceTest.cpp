@@ -75,6 +75,8 @@ TEST(Advice, GuessesOnlyWhatIsLegalAndRead) {
         {Fo, "block", "background-image", u"none none", Lenient, "url(none none)", ""},
         {Fo, "block", "pitch", u"120 Hz", Refused, "", "120Hz", true},
         {Fo, "block", "color", u"rgb(1,2,3,4)", Refused, "", "#010203"},
+        {Fo, "block", "border-color", u"rgb(300,0,0)", Misread, "rgb(44,0,0)", "#ff0000", true},
+        {Fo, "block", "padding", u"max(1pt,2pt)", PassedOver, "", ""},
         {Svg, "rect", "width", u"10.20.30", Refused, "", ""},
         {Svg, "animate", "keyTimes", u"0,1", Refused, "", "0.1"},
         {Fo, "block", "space-before", u"12 PT", Refused, "", "12pt", true},

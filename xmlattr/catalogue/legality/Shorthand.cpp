@@ -139,13 +139,14 @@ std::vector<std::u16string_view> splitParts(std::u16string_view text, std::u16st
 
 Judgement judgeShorthand(CatalogueEntry const& entry, Dialect dialect, std::u16string_view text) {
     if (entry.longhands.empty() && entry.ownWords.empty()) return judgeByGrammar(entry, dialect, text);
-    if (isComputed(entry, text)) return {Verdict::PassedOver};
     auto const parts = splitParts(text, entry.isFont ? u"/" : u"");
     if (parts.empty()) return {.verdict = Verdict::Refused, .problem = "is empty"};
     PartsJudge judge(entry, dialect);
     Judgement judgement = entry.isFont ? judge.asFont(parts) : judge.inAnyOrder(parts);
     Meaning meaning;
-    bool const isLegal = readMeaning(meaning, entry.grammar, dialect, text);
+    // A colour in a call may be both: a value that types read and an expression.
+    bool const isExpression = isComputed(entry, text);
+    bool const isLegal = isExpression || readMeaning(meaning, entry.grammar, dialect, text);
     // A part may be the value of an attribute that is no row here.
     if (isLegal && (judgement.verdict == Verdict::Refused || judgement.verdict == Verdict::Lenient))
         return {Verdict::PassedOver};
