@@ -265,6 +265,6 @@ int main(int argc, char** argv) {
 #ifdef SIGPIPE
     std::signal(SIGPIPE, SIG_IGN); // a reader that has enough is found out by the write
 #endif
-    StandardStreams const streams;
+    prepareStandardStreams();
     return guarded([&] { return run(argc, argv); });
 }

@@ -18,18 +18,14 @@
 
 namespace Command {
 
+void prepareStandardStreams() {
 #ifdef _WIN32
-StandardStreams::StandardStreams() : codePage(GetConsoleOutputCP()) {
     for (std::FILE* const stream : {stdin, stdout, stderr}) _setmode(_fileno(stream), _O_BINARY);
+    static unsigned const codePage = GetConsoleOutputCP();
+    std::atexit([] { SetConsoleOutputCP(codePage); });
     SetConsoleOutputCP(CP_UTF8);
-}
-StandardStreams::~StandardStreams() {
-    SetConsoleOutputCP(codePage);
-}
-#else
-StandardStreams::StandardStreams() = default;
-StandardStreams::~StandardStreams() = default;
 #endif
+}
 
 namespace {
 

@@ -7,17 +7,8 @@
 
 namespace Command {
 
-// As long as it lives, Windows leaves line ends as they are, and its console shows UTF-8.
-class StandardStreams {
-public:
-    StandardStreams();
-    StandardStreams(StandardStreams const&) = delete;
-    StandardStreams& operator=(StandardStreams const&) = delete;
-    ~StandardStreams();
-
-private:
-    unsigned codePage = 0; // that the console had
-};
+// Until the program ends, Windows leaves line ends as they are, and its console shows UTF-8.
+void prepareStandardStreams();
 
 // Standard output does not take any more: a closed pipe, a full disk.
 struct OutputClosed {

@@ -260,9 +260,10 @@ private:
         for (auto const& [fault, count] : countByFault) all += count;
         std::string text = tableHead("Findings", "Id", "Findings");
         for (auto const& [fault, count] : countByFault) {
-            std::string const id(kindOf(fault).id);
-            text +=
-                tableRow("<a href='#" + id + "'>" + id + "</a>", count, bar(shareOf(count, all), severityOf(fault)));
+            std::string_view const id = kindOf(fault).id;
+            std::string link("<a href='#");
+            link.append(id).append("'>").append(id).append("</a>");
+            text += tableRow(link, count, bar(shareOf(count, all), severityOf(fault)));
         }
         return text + "</tbody></table>\n";
     }
