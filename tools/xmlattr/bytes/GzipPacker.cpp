@@ -1,5 +1,7 @@
 #include "bytes/GzipPacker.h"
 
+#include "bytes/ByteSource.h"
+
 #ifdef XMLATTR_HAS_ZLIB
 #include <algorithm>
 #include <array>
@@ -17,7 +19,7 @@ namespace Command {
 
 struct GzipPacker::State {
     z_stream stream{};
-    std::array<char, 64 << 10> output;
+    std::array<char, blockSize> output;
 
     State() {
         constexpr int withGzipHeader = 15 + 16, memory = 8;
