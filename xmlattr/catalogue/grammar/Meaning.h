@@ -43,25 +43,25 @@ public:
 
     void push(T const& value) {
         if (count < inlined) {
-            near[count] = value;
+            few[count] = value;
         } else {
-            if (count == inlined) far.assign(near.begin(), near.end());
-            far.push_back(value);
+            if (count == inlined) many.assign(few.begin(), few.end());
+            many.push_back(value);
         }
         ++count;
     }
 
     void shrink(std::size_t size) {
-        if (count > inlined && size > inlined) far.resize(size);
-        if (count > inlined && size <= inlined) std::copy_n(far.begin(), size, near.begin());
+        if (count > inlined && size > inlined) many.resize(size);
+        if (count > inlined && size <= inlined) std::copy_n(many.begin(), size, few.begin());
         count = size;
     }
 
 private:
-    T const* data() const { return count > inlined ? far.data() : near.data(); }
+    T const* data() const { return count > inlined ? many.data() : few.data(); }
 
-    std::array<T, inlined> near; // only the first `count` have been written
-    std::vector<T> far;
+    std::array<T, inlined> few; // only the first `count` have been written
+    std::vector<T> many;
     std::size_t count = 0;
 };
 

@@ -71,7 +71,7 @@ std::string number(double value) {
 
 std::string grouped(std::uint64_t number) {
     std::string digits = std::to_string(number);
-    for (std::size_t at = digits.size(); at > 3;) digits.insert(at -= 3, ",");
+    for (std::size_t at = digits.size(); at > 3;) digits.insert(at -= 3, 1, ',');
     return digits;
 }
 
