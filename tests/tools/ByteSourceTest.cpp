@@ -99,6 +99,8 @@ TEST(GzipSource, RefusesWhatIsDamaged) {
         EXPECT_NE(placesIn(packed.substr(0, size)).find("malformed: the compressed file ends too early"),
                   std::string::npos)
             << size;
+    std::string const small = gzip("<a x='1'/>"); // all of which is there when its end is found to be missing
+    EXPECT_EQ(placesIn(small.substr(0, small.size() - 1)), "1:4=1 malformed: the compressed file ends too early");
     for (std::size_t at = 10; at < packed.size(); ++at) {
         std::string damaged = packed;
         damaged[at] = static_cast<char>(damaged[at] ^ 0x55);

@@ -346,6 +346,8 @@ TEST(Command, FixesWhatLinksLeadToAndWritesElsewhere) {
     EXPECT_NE(under.errors.find("link.svg: error: cannot be written: "), std::string::npos) << under.errors;
     EXPECT_EQ(under.code, 2);
 
+    std::string const both = scratch + "/link.svg " + scratch + "/tree/below/a.svg";
+    EXPECT_EQ(run("fix --dry-run " + both).output, run("fix --dry-run " + scratch + "/link.svg").output);
     EXPECT_EQ(run("fix " + scratch + "/link.svg").code, 0);
     EXPECT_TRUE(fs::is_symlink(scratch + "/link.svg"));
     EXPECT_EQ(contentOf(scratch + "/tree/below/a.svg"), drawing("1px"));

@@ -128,6 +128,34 @@ TEST(SvgPathDataGrammar, TellsWhatIsIllegal) {
     });
 }
 
+// The fast path, of which the comparison with the value type is the reference.
+TEST(SvgPathDataGrammar, KnowsPlainTexts) {
+    auto const isPlain = [](std::u16string_view text) {
+        bool const isSame = pathData.describe(text) == "same", isCalledPlain = isPlainPathData(text);
+        EXPECT_TRUE(isSame || !isCalledPlain) << narrow(text);
+        return isCalledPlain;
+    };
+    for (std::u16string_view const text :
+         {u"", u" \n", u" M1-2.5+3,.5L 1 1\n2,2z m1 1c1 1 1 1 1 1h-0", u"M0 0a1 1 0 01.5-1A1,1,0,1,1,1 1t1 1m2 2",
+          u"M16777217 900719.925474099", u"M0 123456789012345", u"M1.5e-8,1e-99z"})
+        EXPECT_TRUE(isPlain(text)) << narrow(text);
+    for (std::u16string_view const text : {u"M1 1e1", u"M1E-1 1", u"M1e-1-1", u"M1e-1.5", u"M1 1e-", u"M1 1.",
+                                           u"M1.5.5", u"M0 0a1 1 0 01.5.5", u"M1 1px", u"M1 1cm1 1", u"L1 1", u"M1",
+                                           u"M0 0a1 1 0 2 0 1 1", u"M0 1234567890123456", u"M1\u00A01", u"M1 1,"})
+        EXPECT_FALSE(isPlain(text)) << narrow(text);
+    constexpr std::u16string_view pieces[] = {u"1", u"50", u".5",  u"1.5", u"-2", u"+3", u"0",     u" ", u" ",
+                                              u",", u"1",  u"M",   u"c",   u"l1", u"A1", u"t",     u"z", u"h1",
+                                              u"v", u"1.", u"e-3", u"e",   u"p",  u"m",  u"\u00A0"};
+    std::mt19937 random(7);
+    int plain = 0;
+    for (int round = 0; round < 50'000; ++round) {
+        std::u16string text(u"M1 1");
+        for (auto length = random() % 12; length-- > 0;) text += pieces[random() % std::size(pieces)];
+        plain += isPlain(text);
+    }
+    EXPECT_GT(plain, 1000);
+}
+
 TEST(SvgPointsGrammar, TellsWhatTheValueTypeReadsOtherwise) {
     points.expect({
         {u"", "same"},

@@ -20,6 +20,18 @@ constexpr int forReading = O_RDONLY | O_BINARY;
 constexpr int forReading = O_RDONLY | O_CLOEXEC;
 #endif
 
+ByteSource::Filling ByteSource::fill(std::span<char> buffer) {
+    constexpr std::size_t leastRoom = 64; // more than a character takes, also one that becomes two in UTF-8
+    Filling filling;
+    std::size_t more = 0;
+    do {
+        more = read(buffer.subspan(filling.count));
+        filling.count += more;
+    } while (more > 0 && !failure() && buffer.size() - filling.count >= leastRoom);
+    filling.isAtEnd = more == 0 && !failure();
+    return filling;
+}
+
 FileSource::FileSource(std::string const& path) : file(path == "-" ? STDIN_FILENO : open(path.c_str(), forReading)) {
     if (file >= 0) return;
     failed = SourceFailure{"unreadable", "cannot be read: " + std::generic_category().message(errno) +

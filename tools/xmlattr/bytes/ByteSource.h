@@ -28,7 +28,14 @@ public:
     virtual ~ByteSource() = default;
 
     // Reads some bytes and tells how many; none only at the end, or when the source failed.
+    // There is room for a character of any encoding.
     virtual std::size_t read(std::span<char> buffer) = 0;
+    struct Filling {
+        std::size_t count = 0;
+        bool isAtEnd = false; // so that these were the last bytes; never when the source failed
+    };
+    // Reads on until the buffer is full, but for the room of a character.
+    Filling fill(std::span<char> buffer);
     // Set once the source failed; what was read before holds.
     virtual std::optional<SourceFailure> const& failure() const { return failed; }
 

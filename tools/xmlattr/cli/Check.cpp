@@ -13,6 +13,7 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <stdexcept>
 #include <thread>
 
 namespace Command {
@@ -95,6 +96,18 @@ Problem openBaselines(CheckOptions const& options, RunSettings const& run, Basel
     return known ? baselines.known.emplace(*known).read() : std::nullopt;
 }
 
+// Whether all is recorded that is to be; else the report says why not.
+bool record(Baselines const& baselines, Reporter& reporter) {
+    if (!baselines.recorded) return true;
+    try {
+        baselines.recorded->write();
+        return true;
+    } catch (std::runtime_error const& problem) {
+        reporter.failure("", {"unwritable", problem.what(), std::nullopt});
+        return false;
+    }
+}
+
 // Whether findings are left out, of which nobody knows then whether they still occur.
 bool isFiltered(std::span<FileJob const> jobs) {
     return std::ranges::any_of(jobs, [](FileJob const& job) {
@@ -130,18 +143,19 @@ std::optional<int> carryOut(CheckOptions const& options, FileList const& list, F
     std::uint64_t const threads = run.jobs.value_or(0);
     std::size_t const told =
         runFiles(jobs, threads > 0 ? threads : std::max(1U, std::thread::hardware_concurrency()), teller);
-    if (told < jobs.size()) {
+    bool const isStopped = told < jobs.size();
+    if (isStopped) {
         XmlFailure const stopped{
             "stopped", "stopped after " + std::to_string(told) + " of " + quantity(jobs.size(), "file"), std::nullopt};
         // The report in a file is left out.
         options.output.empty() ? reporter->failure("", stopped) : printError(failureLine("", stopped));
     }
-    int const code = teller.finish();
-    if (told < jobs.size()) return std::nullopt;
+    bool const isRecorded = !isStopped && record(baselines, *reporter);
+    int const code = teller.finish(isRecorded);
+    if (isStopped) return std::nullopt;
     report.complete();
     if (baselines.known && !telling.isQuiet && !isFiltered(jobs)) printGone(*baselines.known);
-    if (baselines.recorded) baselines.recorded->write();
-    return list.problems.empty() ? code : 2;
+    return list.problems.empty() && isRecorded ? code : 2;
 }
 
 } // namespace

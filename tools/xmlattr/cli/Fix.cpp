@@ -99,6 +99,13 @@ struct Job {
     bool isInput() const { return document == "-"; }
 };
 
+// The file that is written, where links lead to it.
+fs::path placeOf(fs::path const& target) {
+    std::error_code unresolved;
+    fs::path place = fs::weakly_canonical(target, unresolved);
+    return unresolved ? target.lexically_normal() : place;
+}
+
 // In a folder for output a file has the path below the directory that was named.
 std::vector<Job> jobsOf(FixOptions const& options, std::vector<std::string>& problems) {
     std::vector<Job> jobs;
@@ -113,7 +120,7 @@ std::vector<Job> jobsOf(FixOptions const& options, std::vector<std::string>& pro
                     file == path ? job.target.filename() : job.target.lexically_relative(pathOf(path));
                 job.target = pathOf(options.output) / below;
             }
-            if (targets.insert(job.target.lexically_normal()).second)
+            if (targets.insert(placeOf(job.target)).second)
                 jobs.push_back(std::move(job));
             else if (!options.output.empty())
                 problems.push_back(file + ": another file has the name " + job.target.string() + " already");

@@ -27,6 +27,18 @@ std::size_t sizeOf(XmlElement const& element, TagSource const& source) {
 
 } // namespace
 
+std::string_view Relay::Batch::keep(std::string_view part) {
+    char* const begin = text.get() + size;
+    size += part.copy(begin, part.size());
+    return {begin, part.size()};
+}
+
+void Relay::Batch::clear() {
+    size = 0;
+    elements.clear();
+    attributes.clear();
+}
+
 Relay::~Relay() {
     {
         std::scoped_lock const lock(mutex);
@@ -36,7 +48,7 @@ Relay::~Relay() {
 }
 
 void Relay::start() {
-    for (Batch& batch : batches) batch.text.reserve(batchSize);
+    for (Batch& batch : batches) batch.text = std::make_unique_for_overwrite<char[]>(batchSize);
     thread = std::jthread([this] { work(); });
 }
 
@@ -47,22 +59,17 @@ void Relay::startElement(XmlElement const& element, Tag& tag) {
     }
     TagSource source = tag.source();
     std::size_t const size = sizeOf(element, source);
-    if (batches[filled % batches.size()].text.size() + size > batchSize) handOver();
+    if (batches[filled % batches.size()].size + size > batchSize) handOver();
     if (size > batchSize) {
         settle();
         return handler.startElement(element, tag);
     }
     Batch& batch = batches[filled % batches.size()];
-    auto const keep = [&](std::string_view text) {
-        std::size_t const at = batch.text.size();
-        batch.text += text;
-        return std::string_view(batch.text).substr(at);
-    };
-    source.bytes = keep(source.bytes);
+    source.bytes = batch.keep(source.bytes);
     batch.elements.push_back(
-        {keep(element.space), keep(element.name), element.attributes.size(), element.depth, source});
+        {batch.keep(element.space), batch.keep(element.name), element.attributes.size(), element.depth, source});
     for (auto const& [space, name, value] : element.attributes)
-        batch.attributes.push_back({keep(space), keep(name), keep(value)});
+        batch.attributes.push_back({batch.keep(space), batch.keep(name), batch.keep(value)});
 }
 
 void Relay::missingContent() {
@@ -101,9 +108,7 @@ void Relay::work() {
         } catch (...) {
             problem = std::current_exception();
         }
-        batch.text.clear();
-        batch.elements.clear();
-        batch.attributes.clear();
+        batch.clear();
         lock.lock();
         ++told;
         if (problem) thrown = problem;

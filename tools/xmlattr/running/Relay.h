@@ -7,8 +7,9 @@
 #include <condition_variable>
 #include <cstddef>
 #include <exception>
+#include <memory>
 #include <mutex>
-#include <string>
+#include <string_view>
 #include <thread>
 #include <vector>
 
@@ -44,11 +45,15 @@ private:
         int depth;
         TagSource source;
     };
-    // The views are into the text, which does not move.
+    // The views are into the text.
     struct Batch {
-        std::string text;
+        std::unique_ptr<char[]> text; // null until start()
+        std::size_t size = 0;         // of what is in it
         std::vector<Element> elements;
         std::vector<XmlAttributeText> attributes;
+
+        std::string_view keep(std::string_view part);
+        void clear();
     };
 
     // Whether the handler hears of it at once.

@@ -2,13 +2,15 @@
 
 #include "text/Text.h"
 
+#include <utility>
+
 namespace Command {
 
 void Teller::finding(std::size_t file, Finding const& finding) {
-    if (baselines.recorded) baselines.recorded->add(names[file], finding);
     bool const isKnown = baselines.known && baselines.known->take(names[file], finding);
+    if (baselines.recorded) baselines.recorded->add(names[file], finding);
     if (baselines.recorded || isKnown) {
-        ++known.of(kindOf(finding.fault).severity);
+        ++(isKnown ? known : recorded).of(kindOf(finding.fault).severity);
         return;
     }
     if (options.isGrouped) return groups.add(names[file], finding);
@@ -20,7 +22,8 @@ void Teller::finding(std::size_t file, Finding const& finding) {
 
 void Teller::ended(std::size_t file, FileEnd const& end) {
     Counts ofFile = end.counts;
-    ofFile.known = ofFile.leaveOut(known);
+    ofFile.known = ofFile.leaveOut(known) + ofFile.leaveOut(recorded);
+    allRecorded += std::exchange(recorded, {});
     known = {};
     counts += ofFile;
     hasFaults = hasFaults || ofFile.errors > 0 || (end.isStrict && ofFile.warnings > 0);
@@ -38,8 +41,12 @@ std::uint64_t Teller::wanted() const {
     return looksAtEach ? UINT64_MAX : options.maxFindings - shown;
 }
 
-int Teller::finish() {
+int Teller::finish(bool isRecorded) {
     progress.clear();
+    if (!isRecorded) {
+        counts += allRecorded;
+        counts.known -= allRecorded.findings();
+    }
     std::vector<FindingGroup const*> const sorted = groups.byCount();
     for (FindingGroup const* const group : sorted) {
         if (shown == options.maxFindings) break;

@@ -36,8 +36,8 @@ public:
     std::uint64_t wanted() const override;
     void passed(std::uint64_t bytes) override { progress.draw(done, bytes); }
 
-    // Ends the report; gives the exit code.
-    int finish();
+    // Ends the report; gives the exit code. The summary has as findings what was to be recorded and is not.
+    int finish(bool isRecorded);
 
 private:
     Options options;
@@ -47,7 +47,8 @@ private:
     Progress& progress;
     Groups groups;
     Counts counts;
-    Counts known; // findings of the file at hand, by the baseline
+    Counts known, recorded; // findings of the file at hand that are in the baseline, or go to it
+    Counts allRecorded;
     bool hasFaults = false;
     std::uint64_t shown = 0;
     std::size_t done = 0;

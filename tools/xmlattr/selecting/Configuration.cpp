@@ -28,6 +28,12 @@ fs::path absolute(std::string const& path) {
     return fs::absolute(pathOf(path), ignored).lexically_normal();
 }
 
+// As the document is named, with what ends it.
+std::string_view folderIn(std::string_view document) {
+    constexpr std::string_view ends = fs::path::preferred_separator == '/' ? "/" : "/\\:";
+    return document.substr(0, document.find_last_of(ends) + 1);
+}
+
 } // namespace
 
 void RunSettings::complete(RunSettings const& others) {
@@ -202,12 +208,13 @@ std::optional<std::string> Configurations::use(std::string const& file) {
 std::optional<std::string> Configurations::find(std::string const& document, Configuration const*& configuration) {
     configuration = named ? &*named : nullptr;
     if (named) return std::nullopt;
-    // As the document is named, so that the next one beside it is found at once.
-    std::vector<std::string> visited = {pathOf(document).parent_path().string()};
-    if (auto const known = folders.find(visited.front()); known != folders.end()) {
+    // So that the next document beside it is found at once.
+    std::string_view const beside = folderIn(document);
+    if (auto const known = folders.find(beside); known != folders.end()) {
         configuration = known->second;
         return std::nullopt;
     }
+    std::vector<std::string> visited = {std::string(beside)};
     for (fs::path folder = absolute(document).parent_path();; folder = folder.parent_path()) {
         if (auto const known = folders.find(folder.string()); known != folders.end()) {
             configuration = known->second;

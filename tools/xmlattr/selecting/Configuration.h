@@ -58,7 +58,7 @@ public:
 private:
     std::optional<Configuration> named;
     std::map<std::string, Configuration> files;
-    std::map<std::string, Configuration const*> folders;
+    std::map<std::string, Configuration const*, std::less<>> folders;
 };
 
 } // namespace Command

@@ -12,6 +12,7 @@
 #include <array>
 #include <exception>
 #include <memory>
+#include <random>
 #include <set>
 #include <utility>
 #include <vector>
@@ -87,17 +88,16 @@ private:
             void* const buffer = XML_GetBuffer(parser, size);
             if (!buffer) return failed("limit", "out of memory");
             std::span const block(static_cast<char*>(buffer), static_cast<std::size_t>(size));
-            std::size_t const count = source.read(block);
+            auto const [count, isAtEnd] = source.fill(block);
             if (total == 0) noteMark({block.data(), count});
             total += static_cast<std::int64_t>(count);
 
-            bool const isLast = count == 0 && !source.failure();
-            XML_Status const status = XML_ParseBuffer(parser, static_cast<int>(count), isLast);
+            XML_Status const status = XML_ParseBuffer(parser, static_cast<int>(count), isAtEnd);
             if (thrown) std::rethrow_exception(thrown);
             if (failure) return failure;
             if (status != XML_STATUS_OK) return parserFailure();
             if (source.failure()) return sourceFailure(*source.failure());
-            if (isLast) return std::nullopt;
+            if (isAtEnd) return std::nullopt;
 
             // A tag is read anew with each block until it is whole: blocks that grow with it keep
             // the time linear.
@@ -204,12 +204,12 @@ private:
             else if (handler.wantsText(element))
                 startContent();
         });
-        contentEnd = byteOffset() + byteCount();
+        if (content) contentEnd = byteOffset() + byteCount();
     }
 
     void end() {
         if (content && !failure && !thrown) guarded([&] { endInContent(); });
-        contentEnd = byteOffset() + byteCount();
+        if (content) contentEnd = byteOffset() + byteCount();
         --depth;
     }
 
@@ -340,7 +340,7 @@ private:
     std::set<std::string> knownEntities;
     Namespaces namespaces;
     std::optional<TextValues> content; // of the element whose text is wanted
-    std::uint64_t contentEnd = 0;      // of the tag or the text before
+    std::uint64_t contentEnd = 0;      // of the tag or the text before, in such an element
     bool hasAllContent = true;         // false when an entity left something out of it
     std::optional<XmlFailure> failure;
     std::exception_ptr thrown;
@@ -383,6 +383,8 @@ struct XmlReader::State {
 
     ParserPointer parser;              // null when a new one is to be made
     std::array<char, blockSize> start; // of the file
+    // Against documents whose names share their hashes. For each document without one the parser asks the system.
+    unsigned long salt = std::random_device()() | 1U;
 
     std::optional<XmlFailure> read(PeekedSource& source, XmlHandler& handler) {
         // What a large document, or a hostile one, made the parser take is not kept.
@@ -391,6 +393,7 @@ struct XmlReader::State {
         bool const isKept = own && XML_ParserReset(own.get(), nullptr);
         if (!isKept) own.reset(XML_ParserCreateNS(nullptr, separator));
         if (!own) throw std::bad_alloc();
+        XML_SetHashSalt(own.get(), salt);
         Reader reader(own.get(), handler);
         std::optional<XmlFailure> failure = reader.read(source);
         if (!failure && reader.size() <= longestKept) parser = std::move(own);

@@ -71,6 +71,10 @@ bool readTransformList(std::u16string_view text);
 bool readViewBox(std::u16string_view text);
 bool readSvgList(std::u16string_view text, SvgListRule const& rule);
 
+// Whether path data is legal and written so that the value type reads what it means, which is then known without
+// reading it: the fast path for most of it. False says nothing; compare() tells.
+bool isPlainPathData(std::u16string_view text);
+
 // Whether a text is legal and means what a value type holds that read it into a fresh attribute. One pass, which
 // allocates nothing but the words about a difference.
 SvgReading compare(std::u16string_view text, Core::Vector<PathDataCommand> const& held);

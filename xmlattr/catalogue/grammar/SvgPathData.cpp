@@ -21,7 +21,7 @@ struct PathVisitor {
 struct PathList {
     using Visitor = PathVisitor;
 
-    template <class PathVisitor> bool read(SvgScanner& scanner, PathVisitor& visitor) const {
+    template <class Scanner, class PathVisitor> bool read(Scanner& scanner, PathVisitor& visitor) const {
         scanner.skipSpace();
         char16_t const* const start = scanner.at;
         while (!scanner.atEnd()) {
@@ -87,8 +87,8 @@ private:
         return {};
     }
 
-    template <class PathVisitor>
-    static bool readArguments(SvgScanner& scanner, PathVisitor& visitor, PathCommandKind kind) {
+    template <class Scanner, class PathVisitor>
+    static bool readArguments(Scanner& scanner, PathVisitor& visitor, PathCommandKind kind) {
         std::span<Field const> const fields = fieldsOf(kind);
         for (std::size_t i = 0; i < fields.size(); ++i) {
             if (i > 0) scanner.skipSeparator();
@@ -101,7 +101,7 @@ private:
     }
 
     // Between the radii of an arc and its end. A negative radius is legal: section F.6.6 drops its sign.
-    template <class PathVisitor> static bool readTurn(SvgScanner& scanner, PathVisitor& visitor) {
+    template <class Scanner, class PathVisitor> static bool readTurn(Scanner& scanner, PathVisitor& visitor) {
         SvgNumber rotation;
         if (!scanner.takeNumber(rotation)) return false;
         visitor.rotation(rotation);
@@ -117,6 +117,38 @@ private:
         if (!scanner.isAt(u'0') && !scanner.isAt(u'1')) return scanner.fail("a flag of an arc is 0 or 1");
         visitor.flag(scanner.at++, field);
         return true;
+    }
+};
+
+// Stops at a number that the value type may read otherwise. One of so few digits, and of an exponent that makes it no
+// larger, has the same value for whoever reads it, and it ends where the value type ends it: the grammar has nothing
+// after it that could belong to a number but a point, and after an exponent a sign.
+class PlainScanner : public SvgScanner {
+public:
+    using SvgScanner::SvgScanner;
+
+    bool takeNumber(SvgNumber& /*number*/) {
+        if (!take(u'-')) take(u'+');
+        std::size_t digits = skipDigits();
+        if (take(u'.')) {
+            std::size_t const decimals = skipDigits();
+            if (decimals == 0) return false;
+            digits += decimals;
+        }
+        if (take(u'e') && (!take(u'-') || skipDigits() == 0 || isAt(u'-') || isAt(u'+'))) return false;
+        return digits - 1 < Core::exactDigits && !isAt(u'.');
+    }
+
+private:
+    bool take(char16_t unit) {
+        bool const isThere = isAt(unit);
+        at += isThere;
+        return isThere;
+    }
+    std::size_t skipDigits() {
+        char16_t const* const start = at;
+        while (!atEnd() && Core::isDigit(*at)) ++at;
+        return static_cast<std::size_t>(at - start);
     }
 };
 
@@ -179,6 +211,12 @@ private:
 
 bool readPathData(std::u16string_view text) {
     return isLegalList(PathList(), text);
+}
+
+bool isPlainPathData(std::u16string_view text) {
+    PlainScanner scanner(text);
+    PathVisitor nothing;
+    return PathList().read(scanner, nothing);
 }
 
 SvgReading compare(std::u16string_view text, Core::Vector<Command> const& held) {

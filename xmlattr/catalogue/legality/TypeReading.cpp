@@ -90,6 +90,8 @@ concept HasAgreement = requires(Meaning const& meaning, T const& value) {
 };
 
 template <class T> TypeReading readAs(Grammar const& grammar, Dialect dialect, std::u16string_view text) {
+    if constexpr (std::is_same_v<T, PathData>)
+        if (isPlainPathData(text)) return {.isAccepted = true, .reading = {}};
     TypeReading result;
     T value{};
     result.isAccepted = AttributeTraits<T>::parse(value, text);
