@@ -95,6 +95,13 @@ std::string Finding::listOfParts() const {
     return list;
 }
 
+// What becomes of a value of a newer recommendation.
+std::string Finding::rejection() const {
+    bool const isTyped = entry && (entry->type() || !entry->longhands.empty());
+    if (isTyped) return ", which the formatter does not read";
+    return entry ? std::string(" and not ").append(Xml::Catalogue::recommendation(entry->vocabulary)) : "";
+}
+
 std::string Finding::message() const {
     std::string const where = " on " + printable(element);
     switch (fault) {
@@ -127,17 +134,20 @@ std::string Finding::message() const {
     if (!part.empty() && part != text) line += ": " + listOfParts();
     bool const needsExpected =
         problem.empty() && (fault == Fault::BadValue || fault == Fault::BadWord || fault == Fault::Lenient);
+    bool const isPredicate = problem.starts_with("is ") || problem.starts_with("has ");
     if (fault == Fault::NewerValue)
-        line += " is " + newer + (isTaken ? "" : ", which the formatter does not read");
+        line += " is " + newer + (isTaken ? "" : rejection());
     else if (!problem.empty())
-        line += (problem.starts_with("is ") || problem.starts_with("has ") ? " " : ": ") + problem;
+        line += (isPredicate ? " " : ": ") + problem;
     else if (fault == Fault::Negative)
         line += " is negative";
     else if (fault != Fault::Misread && (fault != Fault::Lenient || held.empty()))
         line += otherParts.empty() ? " is not legal" : " are not legal";
-    if (!held.empty()) {
+    bool const isAsWritten = isTaken && fault != Fault::Misread && held == (part.empty() ? text : part);
+    if (!held.empty() && !isAsWritten) {
         bool const isFirst = problem.empty() && (line.ends_with('"') || line.ends_with(element));
-        line += std::string(isFirst ? " is read as " : ", and is read as ") + shown(held);
+        bool const isApart = !problem.empty() && !isPredicate;
+        line += (isFirst ? " is read as " : isApart ? "; it is read as " : ", and is read as ") + shown(held);
     } else if (fault == Fault::Misread) {
         if (problem.empty()) line += " is read otherwise";
     } else if (isTaken) {

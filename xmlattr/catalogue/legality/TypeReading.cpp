@@ -180,11 +180,21 @@ std::u16string textOf(SColor const& paint) {
     return {};
 }
 
+std::u16string textOf(STextShadow const& shadow) {
+    Parts lengths;
+    lengths.add(u"lengths") << shadow.getDx() << u" " << shadow.getDy() << u" " << shadow.getBlurRadius();
+    std::u16string text = lengths.list.front().value;
+    if (!shadow.getColor().isNull()) text.append(u" ").append(textOf(shadow.getColor()));
+    return text;
+}
+
 template <class T> std::u16string heldAs(std::u16string_view text) {
     T value{};
     if (KeywordEnumeration<T> || !AttributeTraits<T>::parse(value, text)) return {};
-    if constexpr (std::is_base_of_v<SColor, T>) {
+    if constexpr (std::is_base_of_v<SColor, T> || std::is_same_v<T, STextShadow>) {
         return textOf(value);
+    } else if constexpr (std::is_same_v<T, Url>) {
+        return std::u16string(u"\"").append(std::u16string_view(value.getUrl())).append(u"\"");
     } else if constexpr (HoldsMeasure<T>) {
         Held const held = measureOf(value);
         return std::u16string(Core::Format::toShortest(held.number)).append(held.unit);
