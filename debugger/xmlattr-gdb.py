@@ -2,6 +2,7 @@
 
   width  = BorderWidth "thick" = 5pt      an attribute: its value type and its value
   length = 12pt                           a value alone
+  side   = Break "even-page" = EvenPage   a keyword, and its enumerator
   wrap   = TextAlign AlignmentString "."  quotes are around texts of documents, other words are enumerators
 
 Only members are read and nothing is called, so that it works in core dumps too. A value that is not there, or whose
@@ -85,6 +86,15 @@ def xmlattr_printers():
                 return quoted(word["_M_str"], int(word["_M_len"]))
         return None
 
+    def keyword(value):
+        """The word that the enumerator prints, quoted, from the table in the library; None where there is no such."""
+        value_type = value.type.strip_typedefs()
+        searches = ("Indexed<(Core::Case)%d, %s>::Packed" % (rule, kind) for rule in (0, 1) for kind in ("false", "true"))
+        for rows in itertools.chain(["printRows, Core::detail::PackedWords"], map("rows, Core::detail::%s".__mod__, searches)):
+            table = gdb.lookup_static_symbol("Core::detail::Words<Xml::Keywords<%s>::%s>::packed" % (value_type.name, rows))
+            if table:
+                break
+        return None
     def border_width(value):
         word = word_of("Xml::BorderWidth", lambda row: row["unit"] == value["unit"] and row["size"] == value["size"])
         return (word + " = " if word else "") + length(value)

@@ -46,7 +46,7 @@ inline constexpr Core::WordRow<Unit> unitRows[] = {
     {u"in", {Length::In, SLength::In, {96, 1}, {1, 96}}},
     {u"em", {Length::Em, SLength::Em, {96, 1536}, {1536, 96}}}, // Intended: 1/16 and 1/8 pixel, whatever the font
     {u"ex", {Length::Ex, SLength::Ex, {96, 768}, {768, 96}}},
-    {u"pc", {Length::Pc, SLength::Pc, {12.0 * 96, 72}, {12 * 72, 96}}}, // Intended: not inverse to each other, see Length.h
+    {u"pc", {Length::Pc, SLength::Pc, {12.0 * 96, 72}, {12 * 72, 96}}}, // Intended: not inverse, see Length.h
 };
 
 using Units = Core::WordTable<unitRows>;

@@ -8,6 +8,7 @@
 #include "xmlattr/catalogue/grammar/NewerValues.h"
 #include "xmlattr/catalogue/legality/ExpressionFunctions.h"
 #include "xmlattr/catalogue/text/Words.h"
+#include "xmlattr/core/String.h"
 
 #include <algorithm>
 
@@ -62,9 +63,10 @@ Page attributesPage(Names const& names) {
     page.paragraph(
         "Which type reads which attribute, and what the recommendation says of it: the grammar of its "
         "values, in the notation that `xmlattr/catalogue/grammar/Grammar.h` describes, its initial value and "
-        "whether it is inherited. [Kinds of values](kinds-of-values.md) has what stands in angle brackets. A row that "
-        "names no element is for all that have no row of their own; [another page](elements-" +
-        std::string(names.file) + ".md) has the attributes of each element.");
+        "whether it is inherited. [Kinds of values](kinds-of-values.md) explains what stands in angle brackets. A row "
+        "without elements is for all elements that have no row of their own. The attributes of each element are on "
+        "[another page](elements-" +
+        std::string(names.file) + ".md).");
     std::vector<Row> rows;
     for (CatalogueEntry const& entry : Xml::Catalogue::entries()) {
         if (entry.vocabulary != names.vocabulary) continue;
@@ -103,8 +105,7 @@ Page elementsPage(Names const& names) {
         for (std::size_t i = 0; i < elements.size(); ++i)
             if (hasIt(elements[i])) others[i].push_back(codeOf(attribute));
     }
-    page.paragraph("Every element has " + listOf(onEvery) +
-                   ". Below stand the attributes that an element has besides.");
+    page.paragraph("Every element has " + listOf(onEvery) + ". The others of each element follow.");
     for (std::size_t i = 0; i < elements.size(); ++i) {
         page.heading(2, "`" + std::string(elements[i]) + "`");
         page.paragraph(others[i].empty() ? "None." : listOf(others[i]) + ".");
@@ -135,7 +136,7 @@ std::string resultOf(Xml::ExpressionFunction::Result result) {
 
 Page kindsPage() {
     Page page("kinds-of-values.md", "Kinds of values");
-    page.paragraph("What stands in angle brackets in the grammars of attributes.");
+    page.paragraph("The kinds of values that stand in angle brackets in the grammars of attributes.");
     page.heading(2, "Kinds that have a reader");
     std::vector<Row> rows;
     for (auto const& [name, token] : Xml::TokenTables::names)
@@ -208,10 +209,11 @@ template <class Lists> void addNewerWords(Page& page, std::string_view title, Li
 
 Page newerValuesPage() {
     Page page("newer-values.md", "Newer values");
-    page.paragraph("A text that XSL-FO 1.1 or SVG 1.1 does not allow may be a value of a newer recommendation, which "
-                   "`check` then names. It is one if its attribute of SVG is listed here with it; if it contains one of "
-                   "the words, functions or units, in any case; if it contains a colour with an alpha (`#1234`, "
-                   "`rgb(1,2,3,.5)`) or with blanks (`rgb(1 2 3)`); or if a number in a transform of SVG 1.1 has a unit.");
+    page.paragraph(
+        "A text that XSL-FO 1.1 or SVG 1.1 does not allow may be a value of a newer recommendation, which "
+        "`check` then names. It is one if its attribute of SVG is listed here with it; if it contains one of "
+        "the words, functions or units, in any case; if it contains a colour with an alpha (`#1234`, "
+        "`rgb(1,2,3,.5)`) or with blanks (`rgb(1 2 3)`); or if a number in a transform of SVG 1.1 has a unit.");
     page.heading(2, "Values of attributes of SVG");
     std::vector<Row> rows;
     for (Xml::NewerValues const& values : Xml::newerValues)

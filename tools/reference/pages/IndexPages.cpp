@@ -15,8 +15,9 @@ std::string lineOf(Oddity const& oddity) {
 
 Page oddityPage(SourceComments const& comments) {
     Page page("oddities.md", "Deliberate oddities that types share");
-    page.paragraph(
-        "What looks wrong and is relied on stands with its type. These belong to several types, or to none.");
+    page.paragraph("Behaviour that looks wrong and is relied on. What belongs to one type is on the page of that type; "
+                   "this page has "
+                   "the rest.");
     for (Oddity const& oddity : comments.oddities("")) page.item(lineOf(oddity));
     return page;
 }

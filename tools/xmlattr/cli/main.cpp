@@ -87,7 +87,9 @@ CLI::App* addCheck(CLI::App& app, CheckOptions& options, std::string& explained)
     command->add_option("FILE", options.paths, "Documents, stylesheets, directories of both, or - for standard input")
         ->type_name("");
     addFile(*command, "--files-from", options.filesFrom, "Also check the paths in this file, one a line");
-    command->add_option("--stdin-name", options.stdinName, "Call standard input by this name in findings (default: <stdin>)")
+    command
+        ->add_option("--stdin-name", options.stdinName,
+                     "Call standard input by this name in findings (default: <stdin>)")
         ->type_name("NAME");
     Choices<ReportFormat const*> formats;
     for (ReportFormat const& format : reportFormats()) formats.emplace_back(format.word, &format);
@@ -125,9 +127,7 @@ CLI::App* addCheck(CLI::App& app, CheckOptions& options, std::string& explained)
 CLI::App* addFix(CLI::App& app, FixOptions& options) {
     CLI::App* const command =
         app.add_subcommand("fix", "Rewrite documents so that their values are read as they are meant");
-    command
-        ->add_option("FILE", options.paths,
-                     "Documents, stylesheets, directories of both, or - for standard input")
+    command->add_option("FILE", options.paths, "Documents, stylesheets, directories of both, or - for standard input")
         ->type_name("");
     command->add_flag("-n,--dry-run", options.isDryRun,
                       "Write nothing; show what would change as a diff for patch -p0");
@@ -176,8 +176,9 @@ CLI::App* addProperties(CLI::App& app, PropertiesOptions& options) {
                                "List only attributes of XSL-FO or only those of SVG");
     command->add_option("--type", options.type, "List only attributes of this value type")->type_name("TYPE");
     addFormat(*command, options.format);
-    command->footer("A line has the vocabulary, the element (* for all), the attribute, its value type or what it is instead,\n"
-                    "whether it is inherited, the constant with its default, and its grammar in the recommendation.");
+    command->footer(
+        "A line has the vocabulary, the element (* for all), the attribute, its value type or what it is instead,\n"
+        "whether it is inherited, the constant with its default, and its grammar in the recommendation.");
     return command;
 }
 

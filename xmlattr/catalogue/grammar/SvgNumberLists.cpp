@@ -136,8 +136,7 @@ struct ViewBoxList {
             if (!scanner.takeNumber(number, FinalPoint::Illegal)) return false;
             if (count > 1 && number.value < 0) {
                 scanner.at = number.begin;
-                return scanner.fail(count == 2 ? "is a negative width" : "is a negative height",
-                                    number.end);
+                return scanner.fail(count == 2 ? "is a negative width" : "is a negative height", number.end);
             }
             visitor.number(number);
         }
