@@ -249,7 +249,7 @@ TEST(SvgListGrammar, Reads) {
             {u"3,4", "same"},
             {u"3 4 5", "3 4 [5]: too many numbers"},
             {u"3.5", "[3.5]: expected an integer"},
-            {u"0", "[0]: the number is too small"},
+            {u"0", "[0]: is too small"},
         });
 }
 

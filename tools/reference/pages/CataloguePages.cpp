@@ -204,7 +204,7 @@ template <class Lists> void addNewerWords(Page& page, std::string_view title, Li
     page.heading(2, title);
     std::vector<Row> rows;
     for (Xml::NewerWords const& list : lists) rows.push_back({std::string(list.recommendation), wordsOf(list.words)});
-    page.table({"recommendation", "words"}, rows);
+    page.table({"recommendation", "names"}, rows);
 }
 
 Page newerValuesPage() {

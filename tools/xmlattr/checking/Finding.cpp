@@ -134,6 +134,8 @@ std::string Finding::message() const {
     if (!part.empty() && part != text) line += ": " + listOfParts();
     bool const needsExpected =
         problem.empty() && (fault == Fault::BadValue || fault == Fault::BadWord || fault == Fault::Lenient);
+    bool const isSame = fault == Fault::Negative || (fault != Fault::Misread && held == (part.empty() ? text : part));
+    bool const showsHeld = !held.empty() && !isSame;
     bool const isPredicate = problem.starts_with("is ") || problem.starts_with("has ");
     if (fault == Fault::NewerValue)
         line += " is " + newer + (isTaken ? "" : rejection());
@@ -141,10 +143,9 @@ std::string Finding::message() const {
         line += (isPredicate ? " " : ": ") + problem;
     else if (fault == Fault::Negative)
         line += " is negative";
-    else if (fault != Fault::Misread && (fault != Fault::Lenient || held.empty()))
+    else if (fault != Fault::Misread && (fault != Fault::Lenient || !showsHeld))
         line += otherParts.empty() ? " is not legal" : " are not legal";
-    bool const isAsWritten = isTaken && fault != Fault::Misread && held == (part.empty() ? text : part);
-    if (!held.empty() && !isAsWritten) {
+    if (showsHeld) {
         bool const isFirst = problem.empty() && (line.ends_with('"') || line.ends_with(element));
         bool const isApart = !problem.empty() && !isPredicate;
         line += (isFirst ? " is read as " : isApart ? "; it is read as " : ", and is read as ") + shown(held);

@@ -14,7 +14,7 @@ constexpr std::string_view transforms[] = {"matrix", "translate", "scale", "rota
 // What a call looks like.
 std::string formOf(std::string_view call) {
     if (call == "rect") return "a shape such as rect(1pt, 9pt, 9pt, 1pt)";
-    if (call == "icc-color") return "icc-color(...) after a colour";
+    if (call == "icc-color") return "a colour with icc-color(...)";
     return std::string(call) + (call == "proportional-column-width" ? "(...)" : "()");
 }
 
