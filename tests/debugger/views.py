@@ -129,7 +129,7 @@ def check_every_type(natvis):
         shown = every[field].format_string()
         value_type = every[field]["stored"]["value"].type.strip_typedefs()
         # Where a number has no keyword, it has no enumerator either, or is Unset.
-        keyword = r'(".+" = \w+|Unset|\d+)' if value_type.code == gdb.TYPE_CODE_ENUM else "[^{]+"
+        keyword = r'(".*" = \w+|Unset|\d+)' if value_type.code == gdb.TYPE_CODE_ENUM else "[^{]+"
         if not re.match(re.escape(name) + " " + keyword + "$", shown):
             problems.append("the attribute of %s is shown as\n  %s" % (name, shown))
         if value_type.code == gdb.TYPE_CODE_STRUCT and not value_type.name.startswith("std::"):
