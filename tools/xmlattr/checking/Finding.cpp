@@ -10,18 +10,16 @@ namespace {
 
 constexpr FaultKind kinds[] = {
     {Fault::BadValue, "bad-value", Severity::Error,
-     "The text is not legal on the attribute, and the value type that reads it refuses it. It is none of what the\n"
-     "formatter works out by itself either: \"inherit\" or an expression of XSL-FO. The message tells what is legal,\n"
-     "and what to write where that can be guessed. `xmlattr show TYPE TEXT` tries a text on a value type.\n"},
+     "The text is not legal on the attribute, and the value type that reads it refuses it. Nor is it \"inherit\" or\n"
+     "an expression of XSL-FO, which the formatter works out by itself. The message tells what is legal, or what to\n"
+     "write where that can be guessed. `xmlattr show TYPE TEXT` tries a text on a value type.\n"},
     {Fault::BadWord, "bad-word", Severity::Warning,
-     "The text is not legal on the attribute by its recommendation. No value type reads the attribute, so that it\n"
-     "depends on the formatter what becomes of it.\n"},
+     "The text is not legal on the attribute by its recommendation. No value type reads the attribute: what becomes\n"
+     "of it depends on the formatter.\n"},
     {Fault::Misread, "misread", Severity::Warning,
-     "The text is legal, but the value type holds something else than it means, \"M0 0a.5.5 0 0 1 1 1\", say, where "
-     "it\n"
-     "takes \".5.5\" for one number; or it refuses the text and reads the same in another one. The message tells what "
-     "is\n"
-     "held, and a text with the same meaning that is read as it is written.\n"},
+     "The text is legal, but the value type holds something else than it means: in \"M0 0a.5.5 0 0 1 1 1\" it takes\n"
+     "\".5.5\" for one number. Or the type refuses the text, but reads another text with the same meaning. The\n"
+     "message tells what is held, and a text with the same meaning that is read as it is written.\n"},
     {Fault::Lenient, "lenient", Severity::Warning,
      "The text is not legal on the attribute, but the value type takes it nevertheless: margin=\"10\" is 1000%, say.\n"
      "The message tells what is held; other formatters may refuse the text or read it otherwise.\n"},
@@ -29,7 +27,7 @@ constexpr FaultKind kinds[] = {
      "The recommendation forbids negative values of the attribute, and the text has one that the value type takes.\n"},
     {Fault::NewerValue, "newer-value", Severity::Warning,
      "The text is a value of a recommendation that came after XSL-FO 1.1 and SVG 1.1, such as SVG 2 or CSS 3. It is\n"
-     "no typing error, but the formatter does not read it.\n"},
+     "no typing error, but the formatter may not read it.\n"},
     {Fault::UnknownAttribute, "unknown-attribute", Severity::Warning,
      "The vocabulary has no attribute, or no property, of this name, and no newer recommendation that is known has\n"
      "one. Attributes of other namespaces, data-*, aria-* and event handlers are never reported.\n"},
