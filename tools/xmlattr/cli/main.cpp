@@ -140,7 +140,7 @@ CLI::App* addFix(CLI::App& app, FixOptions& options) {
     command->add_flag("-q,--quiet", options.isQuiet, "Print no summary");
     command->footer(
         "Values with one right answer are rewritten where they stand; the new text of standard input goes to standard\n"
-        "output. The exit code is 0 when check would report nothing any more, 1 when a finding is left, and 2 when a\n"
+        "output; the exit code is 0 when check would report nothing any more, 1 when a finding is left, and 2 when a\n"
         "file could not be read or written.");
     return command;
 }
