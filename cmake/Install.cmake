@@ -6,16 +6,16 @@
 # does not link.
 set(internal_headers
   attributes/TextCursor.h
-  catalogue/FoProperties.inc
+  "catalogue/(Fo|Svg)(Elements|Properties).inc"
+  catalogue/NewerNames.inc
   catalogue/Properties.inc
-  catalogue/SvgProperties.inc
   catalogue/Scope.h
   catalogue/TypeNumber.h
   catalogue/grammar/Agrees.h
   catalogue/grammar/GrammarCompiler.h
   catalogue/grammar/GrammarText.h
   catalogue/grammar/Meaning.h
-  catalogue/grammar/NewerRecommendation.h
+  "catalogue/grammar/Newer[A-Za-z]+.h"
   "catalogue/grammar/Svg[A-Za-z]+.h"
   catalogue/grammar/TokenReader.h
   catalogue/grammar/UnitWords.h
