@@ -90,7 +90,7 @@ auto date = read<Value>(
 auto number = read<Value>(u"0.1");   // Value Number 0.1
 auto datum = read<Value>(u"\"north\"\u0001"); // Value String ""north"\u0001"
 
-// Keywords are enumerators, and a number that has none stays a number.
+// Keywords with their enumerators; a number that has none stays a number.
 auto page = read<Break>(u"even-page");         // Break "even-page" = EvenPage | EvenPage
 auto unknown = TXmlAttribute<Break>(Break(2)); // Break 2
 auto strength = read<Keep>(u"7");              // Keep 7
