@@ -6,16 +6,16 @@
 # does not link.
 set(internal_headers
   attributes/TextCursor.h
-  catalogue/FoProperties.inc
+  "catalogue/(Fo|Svg)(Elements|Properties).inc"
+  catalogue/NewerNames.inc
   catalogue/Properties.inc
-  catalogue/SvgProperties.inc
   catalogue/Scope.h
   catalogue/TypeNumber.h
   catalogue/grammar/Agrees.h
   catalogue/grammar/GrammarCompiler.h
   catalogue/grammar/GrammarText.h
   catalogue/grammar/Meaning.h
-  catalogue/grammar/NewerRecommendation.h
+  "catalogue/grammar/Newer[A-Za-z]+.h"
   "catalogue/grammar/Svg[A-Za-z]+.h"
   catalogue/grammar/TokenReader.h
   catalogue/grammar/UnitWords.h
@@ -46,8 +46,7 @@ install(FILES ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md
   DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development
   FILES_MATCHING PATTERN "*.md")
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development
-  FILES_MATCHING PATTERN "*.cpp" PATTERN "*.h" PATTERN "*.fo")
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
 
 include(CMakePackageConfigHelpers)
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/xmlattr)

@@ -2,6 +2,7 @@
 
   width  = BorderWidth "thick" = 5pt      an attribute: its value type and its value
   length = 12pt                           a value alone
+  side   = Break "even-page" = EvenPage   a keyword, and its enumerator
   wrap   = TextAlign AlignmentString "."  quotes are around texts of documents, other words are enumerators
 
 Only members are read and nothing is called, so that it works in core dumps too. A value that is not there, or whose
@@ -84,6 +85,28 @@ def xmlattr_printers():
                 word = rows[row]["word"]
                 return quoted(word["_M_str"], int(word["_M_len"]))
         return None
+
+    # The tables of words, packed: what an enumeration prints if it prints other words than it reads, and what it reads.
+    KEYWORD_TABLES = ["Core::detail::Words<Xml::Keywords<%s>::printRows, Core::detail::PackedWords>::packed"] + [
+        "Core::detail::Words<Xml::Keywords<%%s>::rows, Core::detail::Indexed<(Core::Case)%d, %s>::Packed>::packed" % kind
+        for kind in ((0, "false"), (0, "true"), (1, "false"))]
+
+    def keyword(value):
+        """The first word of the enumerator, quoted; None also where the library does not describe its tables."""
+        for name in KEYWORD_TABLES:
+            table = gdb.lookup_global_symbol(name % value.type.strip_typedefs().name)
+            if not table:
+                continue
+            packed = table.value()
+            for row in range(packed["values"].type.range()[1] + 1):
+                if int(packed["values"][row]) == int(value):
+                    word = packed["words"][row]
+                    return quoted(packed["letters"][int(word["start"])].address, int(word["lengthAndNext"]) & 0xFFFF)
+        return None
+
+    def named_enumerator(value):
+        word = keyword(value)
+        return (word + " = " if word else "") + enumerator(value)
 
     def border_width(value):
         word = word_of("Xml::BorderWidth", lambda row: row["unit"] == value["unit"] and row["size"] == value["size"])
@@ -362,7 +385,8 @@ def xmlattr_printers():
         value_type, stored = value.type.template_argument(0), value["stored"]["value"]
         if is_vector(value_type.strip_typedefs()):
             return "%s of %d" % (name_of(value_type), size(stored))
-        return "%s %s" % (name_of(value_type), show(stored))
+        text = named_enumerator if stored.type.strip_typedefs().code == gdb.TYPE_CODE_ENUM else show
+        return "%s %s" % (name_of(value_type), text(stored))
 
     class Printers:
         name = "xmlattr"

@@ -163,6 +163,9 @@ TEST(Shorthand, LetsTheTypesOfItsPartsRead) {
              Row{Vocabulary::Fo, "font", u"12pt/high serif", Refused, "high"},
              Row{Vocabulary::Fo, "font", u"12pt", Refused, "has no font family"},
              Row{Vocabulary::Fo, "font", u"bold", Refused, "has no font size"},
+             Row{Vocabulary::Fo, "font", u"bold serif", Refused, "has no font size"},
+             Row{Vocabulary::Fo, "font", u"bold 1..5pt", Refused, "1..5pt"},
+             Row{Vocabulary::Fo, "clip", u"rect(1pt, 2pt", Refused, "has no closing parenthesis"},
              Row{Vocabulary::Svg, "font", u"12/14 serif", Read},
              Row{Vocabulary::Svg, "marker", u"url(#a)", Read},
          }) {

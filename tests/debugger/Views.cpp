@@ -90,12 +90,13 @@ auto date = read<Value>(
 auto number = read<Value>(u"0.1");   // Value Number 0.1
 auto datum = read<Value>(u"\"north\"\u0001"); // Value String ""north"\u0001"
 
-// Keywords are enumerators, and a number that has none stays a number.
-auto page = read<Break>(u"even-page");                           // Break EvenPage
-auto unknown = TXmlAttribute<Break>(Break(2));                   // Break 2
-auto strength = read<Keep>(u"7");                                // Keep 7
-auto printed = read<BarcodeValueType>(u"HEX");                   // BarcodeValueType Hex
-auto variant = read<Core::Variant::VariantType>(u"STRINGVALUE"); // Core::Variant::VariantType StringValue
+// Keywords with their enumerators; a number that has none stays a number.
+auto page = read<Break>(u"even-page");         // Break "even-page" = EvenPage | EvenPage
+auto unknown = TXmlAttribute<Break>(Break(2)); // Break 2
+auto strength = read<Keep>(u"7");              // Keep 7
+auto printed = read<BarcodeValueType>(u"HEX"); // BarcodeValueType "HEX" = Hex | Hex
+auto variant = read<Core::Variant::VariantType>(
+    u"STRINGVALUE"); // Core::Variant::VariantType "StringValue" = StringValue | StringValue
 
 // Lists.
 auto dashes = read<Core::Vector<SLength>>(u"1,2 3pt"); // Core::Vector<SLength> of 3 = {1, 2, 3pt}

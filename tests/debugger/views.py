@@ -127,9 +127,11 @@ def check_every_type(natvis):
     expect("the list of types", sorted(field.name for field in every.type.fields()), sorted(listed))
     for field, name in listed.items():
         shown = every[field].format_string()
-        if not re.match(re.escape(name) + r" [^{]+$", shown):
-            problems.append("the attribute of %s is shown as\n  %s" % (name, shown))
         value_type = every[field]["stored"]["value"].type.strip_typedefs()
+        # Where a number has no keyword, it has no enumerator either, or is Unset.
+        keyword = r'(".*" = \w+|Unset|\d+)' if value_type.code == gdb.TYPE_CODE_ENUM else "[^{]+"
+        if not re.match(re.escape(name) + " " + keyword + "$", shown):
+            problems.append("the attribute of %s is shown as\n  %s" % (name, shown))
         if value_type.code == gdb.TYPE_CODE_STRUCT and not value_type.name.startswith("std::"):
             if not natvis.find(value_type):
                 problems.append("xmlattr.natvis has no view of " + name)

@@ -78,13 +78,14 @@ TEST(Checker, JudgesTheValuesOfAnimations) {
     for (Row const& row :
          {Row{"animate attributeName='r' from='1pt' to=' 2 ' by='-3' values='1;2; 3;'", ""},
           Row{"animate attributeName='r' values='1;-3; 4 ;x'",
-              "79 values=\"-3\" on animate is negative, and is read as -3\n"
-              "86 values=\"x\" on animate is not legal; expected a number, also with px, pt, pc, cm, mm, in, em or ex "
-              "or "
-              "a percentage\n"},
+              "79 values=\"-3\" on animate is negative, but the formatter takes it\n"
+              "86 values=\"x\" on animate is not legal; expected a number with or without a unit (px, pt, pc, cm, mm, "
+              "in, "
+              "em, ex) or a percentage\n"},
           Row{"animate attributeName='r' additive='sum' from='-3' to='x'",
-              "98 to=\"x\" on animate is not legal; expected a number, also with px, pt, pc, cm, mm, in, em or ex or a "
-              "percentage\n"},
+              "98 to=\"x\" on animate is not legal; expected a number with or without a unit (px, pt, pc, cm, mm, in, "
+              "em, "
+              "ex) or a percentage\n"},
           Row{"animate attributeName='d' to='M0 0L.5.5'",
               "73 to=\"M0 0L.5.5\" on animate: \".5\" is read as 0; write \"M0 0L.5 .5\"\n"},
           Row{"animate attributeName='x' from='1 2' to='1,5'", ""}, // on a text

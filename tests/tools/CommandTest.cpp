@@ -38,21 +38,22 @@ TEST(Command, FindsEachPlantedFault) {
     EXPECT_EQ(placesIn(result.output, "faults.fo"),
               "9:17 10:17 11:17 13:17 14:17 15:17 16:40 19:11 20:17 21:17 22:17 23:17 24:17 26:27 "
               "27:17 28:17 29:17 30:17 31:27 32:17 33:7 34:17 37:15 38:36 35:42 ");
-    for (std::string const& message :
-         {"space-before=\"12 q\" on fo:block is not legal; expected a number with px, pt, pc, cm, mm, in, em or ex ["s,
-          "error: rule-thickness=\"1PT\" on fo:block is not legal; write \"1pt\" [bad-value]"s,
-          "font-weight=\"bald\" on fo:block is not legal; write \"bold\" [bad-value]"s,
-          "warning: border=\"1q solid red\" on fo:block: \"1q\" is CSS 3, which the formatter does not read ["s,
-          "padding=\"1pt 2pt 3pt 4pt 5pt\" on fo:block has more than 4 parts [bad-value]"s,
-          "warning: hyphenate=\"treu\" on fo:block is not legal, but the formatter takes it; write \"true\" [lenient]"s,
-          "warning: margin-left=\"10\" on fo:block is read as 1000%; write \"10pt\" [lenient]"s,
-          "warning: fo:blok is not an element of XSL-FO 1.1; did you mean \"fo:block\"? [unknown-element]"s,
-          "warning: widht on fo:block is no known attribute; did you mean \"width\"? [unknown-attribute]"s,
-          "warning: writing-mode=\"lr_tb\" on fo:block-container is not legal; expected lr-tb, "s,
-          "warning: font-size=\"-3pt\" on fo:block is negative, and is read as -3pt"s,
-          "d=\"M1 1l.5.5\" on path: \".5\" is read as 0; write \"M1 1l.5 .5\" [misread]"s,
-          "ref-id on fo:page-number-citation refers to \"nowhere\", which no element has as its id ["s,
-          "stroke-width=\"broad\" on svg is not legal; expected "s})
+    for (
+        std::string const& message :
+        {"space-before=\"12 q\" on fo:block is not legal; expected a number with a unit (px, pt, pc, cm, mm, in, em, ex) ["s,
+         "error: rule-thickness=\"1PT\" on fo:block is not legal; write \"1pt\" [bad-value]"s,
+         "font-weight=\"bald\" on fo:block is not legal; write \"bold\" [bad-value]"s,
+         "warning: border=\"1q solid red\" on fo:block: \"1q\" is CSS 3, which the formatter does not read ["s,
+         "padding=\"1pt 2pt 3pt 4pt 5pt\" on fo:block has more than 4 parts [bad-value]"s,
+         "warning: hyphenate=\"treu\" on fo:block is not legal, but the formatter takes it; write \"true\" [lenient]"s,
+         "warning: margin-left=\"10\" on fo:block is read as 1000%; write \"10pt\" [lenient]"s,
+         "warning: fo:blok is not an element of XSL-FO 1.1; did you mean \"fo:block\"? [unknown-element]"s,
+         "warning: widht on fo:block is no known attribute; did you mean \"width\"? [unknown-attribute]"s,
+         "warning: writing-mode=\"lr_tb\" on fo:block-container is not legal; expected lr-tb, "s,
+         "warning: font-size=\"-3pt\" on fo:block is negative, but the formatter takes it"s,
+         "d=\"M1 1l.5.5\" on path: \".5\" is read as 0; write \"M1 1l.5 .5\" [misread]"s,
+         "ref-id on fo:page-number-citation refers to \"nowhere\", which no element has as its id ["s,
+         "stroke-width=\"broad\" on svg is not legal; expected "s})
         EXPECT_NE(result.output.find(message), std::string::npos) << message;
     EXPECT_NE(result.errors.find(" refused, "), std::string::npos) << result.errors;
     EXPECT_EQ(run("check -q --max-findings 2 " XMLATTR_SAMPLES "/faults.fo | wc -l").output, "2\n");

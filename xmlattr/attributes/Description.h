@@ -23,7 +23,7 @@ struct Description {
     bool listsWords = true;
     // A value holds as many items as the text gives, and takes many times the text's memory.
     bool readsList = false;
-    // Nearly every text is taken, so that reading one says little about what it was meant to be.
+    // Nearly every text is taken, so that being accepted says little about a text.
     bool readsAnyText = false;
 };
 

@@ -13,7 +13,7 @@ public:
     // Reads the whole text into the value. False when the type refuses the text; then the value is
     // as it was, unless the value type says otherwise.
     virtual bool parseValue(Core::String const& text) = 0;
-    // Takes the other attribute's value. The caller sees to it that both hold the same type.
+    // Takes the other attribute's value. Both must hold the same type, which is not checked.
     virtual void copyFrom(XmlAttribute const& other) = 0;
     // The canonical text of the value; empty for the value types that have no printer.
     virtual Core::String getValueAsString() const = 0;

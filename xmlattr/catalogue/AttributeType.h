@@ -29,14 +29,14 @@ public:
 
     // As ValueTypes.inc writes it: "Length", "Core::Vector<Point>".
     std::string_view name() const noexcept { return typeName; }
-    // Whether programs may name TXmlAttribute of this type with the shared library; every type may be
-    // used through this class.
+    // Whether the shared library exports TXmlAttribute of this type. Through AnyAttribute, programs may
+    // use every type.
     bool isPublic() const noexcept { return isExported; }
-    // Whether the type has nothing but keywords, of which a few read numbers too.
+    // Whether the value is one of a list of keywords. A few such types read numbers too.
     bool isEnumeration() const noexcept;
     // Whether a value holds as many items as the text gives, and takes many times the text's memory.
     bool readsList() const noexcept;
-    // Whether nearly every text is taken, so that reading one says little about what it was meant to be.
+    // Whether the type takes nearly every text, so that being accepted says little about a text.
     bool readsAnyText() const noexcept;
 
     // What the type reads, in a line for the authors of documents: "thin, medium, thick or a length".
@@ -65,7 +65,7 @@ private:
 };
 
 // Owns an attribute whose type is known at run time only. Copies by value; one that was moved from may
-// only be assigned to or destroyed. What threads may do is what they may do with an attribute.
+// only be assigned to or destroyed. Several threads may read one; changing it needs exclusive access.
 class XMLATTR_API AnyAttribute {
 public:
     // With the value that a fresh attribute of the type has.
@@ -80,13 +80,13 @@ public:
     AnyAttribute& operator=(AnyAttribute&& other) noexcept;
     ~AnyAttribute();
 
-    // The type of the value, which changes with an assignment alone.
+    // The type of the value; only an assignment changes it.
     AttributeType const& type() const noexcept { return *attributeType; }
     // The attribute itself.
     XmlAttribute& operator*() noexcept;
     XmlAttribute const& operator*() const noexcept;
 
-    // As those of XmlAttribute.
+    // These do what the functions of XmlAttribute do.
     bool parseValue(Core::String const& text) { return (**this).parseValue(text); }
     Core::String getValueAsString() const { return (**this).getValueAsString(); }
     bool isEqual(Core::String const& text) const { return (**this).isEqual(text); }

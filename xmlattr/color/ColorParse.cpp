@@ -56,7 +56,7 @@ std::u16string_view takeArgument(TextCursor& cursor) {
     return cursor.atEnd() ? std::u16string_view() : Core::trim(argument);
 }
 
-// Intended: unlike in rgb(...), percentages are of 255 in integers, and not held in range either.
+// Intended: unlike in rgb(...), a percentage is an integer and taken of 255, and may go beyond that range too.
 bool readFallBack(std::u16string_view text, unsigned char& value) {
     int number = 0;
     if (!Core::Format::parseInt(text, number)) return false;

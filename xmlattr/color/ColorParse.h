@@ -20,9 +20,9 @@ using Core::SmartPtr;
 // "transparent" or "none", which are null. What stands between the beginning and the "(" and what
 // follows the ")" is ignored.
 //
-// A text that is refused leaves the value as it was. Two refusals are logged as a warning: an
-// rgb-icc without its "(", its fallback, its profile or any component, and (though accepted, as
-// black) a spot colour without an alternate that the Drawing::SpotColorMapper does not know.
+// A text that is refused leaves the value as it was. Two kinds of text are logged as a warning: an
+// rgb-icc without its "(", its fallback, its profile or any component, which is refused; and a spot
+// colour that has no alternate and is unknown to Drawing::SpotColorMapper, which is accepted as black.
 //
 // Prints the function of the colour's class, never a name.
 // Intended: comparing takes the object, not the colour. Since every parse makes a new object, only

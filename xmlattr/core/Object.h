@@ -10,7 +10,7 @@
 namespace Core {
 
 // Starts with no reference and deletes itself when the last one is released. The count is atomic,
-// so that threads may share an object; everything else in it is the derived class's matter.
+// so that threads may share an object; everything else is up to the derived class.
 class XMLATTR_API Object {
 public:
     Object() noexcept = default;

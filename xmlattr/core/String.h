@@ -38,7 +38,7 @@ public:
     // The code unit at an index inside the text; throws std::out_of_range elsewhere.
     char16_t operator[](int index) const { return units.at(static_cast<std::size_t>(index)); }
 
-    // Below, at or above zero as this text sorts before, with or after the other, by code units.
+    // Negative, zero or positive as this text sorts before, equal to or after the other, by code units.
     int compare(std::u16string_view other) const noexcept;
     // The same with ASCII letters folded to lower case.
     int compareNoCase(std::u16string_view other) const noexcept;

@@ -13,8 +13,8 @@
 
 namespace Core {
 
-// The version of the library that is linked or loaded, as in "2.0.0": not older than that of the
-// headers when the program was built in order.
+// The version of the library that is linked or loaded: "2.0.0". A program needs one that is not older than the
+// headers it was built with.
 XMLATTR_API char const* version() noexcept;
 
 } // namespace Core

@@ -50,7 +50,10 @@ private:
 template <> struct XMLATTR_API AttributeTraits<Language> {
     static bool parse(Language& value, std::u16string_view text);
     static constexpr bool printsEmpty = true;
-    static constexpr Description describe{{u"a two-letter code of ISO 639-1, in any case"}, {u"en-GB", u"de"}};
+    static constexpr Description describe{
+        {u"a two-letter code of ISO 639-1", u"cze, dan, eng, en-us, en-gb or en-au, in any case"},
+        {u"en-GB", u"de"},
+        false};
     static void words(Words& out);
     static void parts(Language const& value, Parts& out);
 };

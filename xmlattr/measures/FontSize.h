@@ -17,13 +17,13 @@ template <> struct Keywords<RelativeFontSize> {
     static constexpr bool unknownThrows = true;
 };
 
-// The words for absolute sizes, in points. Intended: no step of 14.
+// The words for absolute sizes, in points. Intended: 16 comes after 12; no word gives 14.
 inline constexpr Core::WordRow<float> absoluteFontSizes[] = {
     {u"xx-small", 6}, {u"x-small", 8},  {u"small", 10},    {u"medium", 12},
     {u"large", 16},   {u"x-large", 18}, {u"xx-large", 20},
 };
 
-// What each accessor gives counts only where the type is its own.
+// getRelativeSize() counts only where isRelativeSize(), getAbsoluteSize() only where isAbsoluteSize().
 template <class Measure> class FontSizeOf : public FontMeasure<RelativeFontSize, 1, Measure, 2> {
 public:
     constexpr bool isRelativeSize() const { return this->type == this->Relative; }

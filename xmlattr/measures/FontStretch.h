@@ -55,7 +55,7 @@ public:
         return *this;
     }
 
-    // What each accessor gives counts only where the type is its own.
+    // getRelativeStretch() counts only where isRelativeStretch(), getAbsoluteStretch() only where isAbsoluteStretch().
     constexpr bool isRelativeStretch() const { return type == Relative; }
     constexpr bool isAbsoluteStretch() const { return type == Absolute; }
     constexpr RelativeFontStretch getRelativeStretch() const { return relative; }

@@ -12,7 +12,7 @@ namespace Xml {
 // One em is 1/16 and one ex 1/8 pixel: callers that need font-relative sizes resolve them first.
 class XMLATTR_API Length {
 public:
-    // The units in which texts may be; the numbers are shared with the formatter.
+    // The units of a length; the numbers are shared with the formatter.
     enum Unit : std::int32_t { Px = 0, Pt = 1, Pc = 2, Cm = 3, Mm = 4, In = 5, Em = 6, Ex = 7 };
 
     constexpr Length() = default;

@@ -39,14 +39,14 @@ struct Unit {
 // The units of all lengths, exact in case.
 inline constexpr Core::WordRow<Unit> unitRows[] = {
     {u"pt", {Length::Pt, SLength::Pt, {96, 72}, {72, 96}}},
-    {u"px", {Length::Px, SLength::UserUnit, {1, 1}, {1, 1}}}, // Intended: SVG lengths forget that it stood there
+    {u"px", {Length::Px, SLength::UserUnit, {1, 1}, {1, 1}}}, // Intended: SVG lengths hold user units
     {u"cm",
      {Length::Cm, SLength::Cm, {96, 2.54f}, {2.54f, 96}}}, // Intended: 2.54 and 25.4 in single precision, widened
     {u"mm", {Length::Mm, SLength::Mm, {96, 25.4f}, {25.4f, 96}}},
     {u"in", {Length::In, SLength::In, {96, 1}, {1, 96}}},
     {u"em", {Length::Em, SLength::Em, {96, 1536}, {1536, 96}}}, // Intended: 1/16 and 1/8 pixel, whatever the font
     {u"ex", {Length::Ex, SLength::Ex, {96, 768}, {768, 96}}},
-    {u"pc", {Length::Pc, SLength::Pc, {12.0 * 96, 72}, {12 * 72, 96}}}, // Intended: no inverse, see Length.h
+    {u"pc", {Length::Pc, SLength::Pc, {12.0 * 96, 72}, {12 * 72, 96}}}, // Intended: not inverse, see Length.h
 };
 
 using Units = Core::WordTable<unitRows>;

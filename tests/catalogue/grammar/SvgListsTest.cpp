@@ -211,9 +211,11 @@ TEST(SvgTransformsGrammar, TellsWhatIsIllegal) {
         {u"scale(2),", "scale(2),[]: expected matrix, translate, scale, rotate, skewX or skewY"},
         {u"scale 2", "scale [2]: expected \"(\""},
         {u"scale()", "scale([)]: expected a number"},
-        {u"scale(1", "scale(1[]: expected a number"},
+        {u"scale(1", "scale(1[]: expected \")\""},
+        {u"scale(1,", "scale(1,[]: expected a number"},
+        {u"scale(1 2,)", "scale(1 2,[)]: a comma too many"},
         {u"scale(1,)", "scale(1,[)]: expected a number"},
-        {u"scale(1 2 3)", "scale(1 2 [3]: expected \")\""},
+        {u"scale(1 2 3)", "scale(1 2 [3]: a number too many"},
         {u"rotate(45deg)", "rotate(45[deg]: expected a number"},
         {u"rotate3d(1,1,1,4)", "[rotate3d]: expected matrix, translate, scale, rotate, skewX or skewY"},
         {u"rotate(45 1)", "rotate(45 1[)]: expected a number"},
@@ -233,7 +235,7 @@ TEST(SvgViewBoxGrammar, Reads) {
         {u"0 0 100", "0 0 100[]: a view box is four numbers"},
         {u"0 0 100 100 100", "0 0 100 100 [100]: a view box is four numbers"},
         {u"0 0 100px 100", "0 0 100[px]: a view box is four numbers"},
-        {u"0 0 -100 100", "0 0 [-100]: a negative width is an error"},
+        {u"0 0 -100 100", "0 0 [-100]: is a negative width"},
         {u"0 0 5. 100", "0 0 [5.]: expected a digit after the decimal point"},
         {u"0,,0 1 1", "0,[,]: a view box is four numbers"},
     });
@@ -266,7 +268,7 @@ TEST(SvgListGrammar, Reads) {
         .expect({
             {u" none ", "refused -> #"},
             {u"none", "same"},
-            {u"5 -1", "5 [-1]: a negative number is an error"},
+            {u"5 -1", "5 [-1]: is negative"},
             {u"5,none", "5,[none]: expected a number"},
         });
     listOf({.whole = true, .minimum = 0, .aboveMinimum = true, .most = 2})
@@ -275,7 +277,7 @@ TEST(SvgListGrammar, Reads) {
             {u"3,4", "same"},
             {u"3 4 5", "3 4 [5]: too many numbers"},
             {u"3.5", "[3.5]: expected an integer"},
-            {u"0", "[0]: the number is too small"},
+            {u"0", "[0]: is too small"},
         });
 }
 

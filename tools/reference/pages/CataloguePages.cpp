@@ -1,10 +1,14 @@
-// The pages of the catalogue: attributes, elements, kinds of values, functions and newer names.
+// The pages of the catalogue: attributes, elements, kinds of values, functions, newer names and newer values.
 #include "tools/reference/pages/Pages.h"
 
 #include "xmlattr/catalogue/Catalogue.h"
 #include "xmlattr/catalogue/Elements.h"
+#include "xmlattr/catalogue/Names.h"
 #include "xmlattr/catalogue/grammar/GrammarText.h"
+#include "xmlattr/catalogue/grammar/NewerValues.h"
 #include "xmlattr/catalogue/legality/ExpressionFunctions.h"
+#include "xmlattr/catalogue/text/Words.h"
+#include "xmlattr/core/String.h"
 
 #include <algorithm>
 
@@ -59,9 +63,10 @@ Page attributesPage(Names const& names) {
     page.paragraph(
         "Which type reads which attribute, and what the recommendation says of it: the grammar of its "
         "values, in the notation that `xmlattr/catalogue/grammar/Grammar.h` describes, its initial value and "
-        "whether it is inherited. [Kinds of values](kinds-of-values.md) has what stands in angle brackets. A row that "
-        "names no element is for all that have no row of their own; [another page](elements-" +
-        std::string(names.file) + ".md) has the attributes of each element.");
+        "whether it is inherited. [Kinds of values](kinds-of-values.md) explains what stands in angle brackets. A row "
+        "without elements is for all elements that have no row of their own. The attributes of each element are on "
+        "[another page](elements-" +
+        std::string(names.file) + ".md).");
     std::vector<Row> rows;
     for (CatalogueEntry const& entry : Xml::Catalogue::entries()) {
         if (entry.vocabulary != names.vocabulary) continue;
@@ -100,8 +105,7 @@ Page elementsPage(Names const& names) {
         for (std::size_t i = 0; i < elements.size(); ++i)
             if (hasIt(elements[i])) others[i].push_back(codeOf(attribute));
     }
-    page.paragraph("Every element has " + listOf(onEvery) +
-                   ". Below stand the attributes that an element has besides.");
+    page.paragraph("Every element has " + listOf(onEvery) + ". The others of each element follow.");
     for (std::size_t i = 0; i < elements.size(); ++i) {
         page.heading(2, "`" + std::string(elements[i]) + "`");
         page.paragraph(others[i].empty() ? "None." : listOf(others[i]) + ".");
@@ -132,7 +136,7 @@ std::string resultOf(Xml::ExpressionFunction::Result result) {
 
 Page kindsPage() {
     Page page("kinds-of-values.md", "Kinds of values");
-    page.paragraph("What stands in angle brackets in the grammars of attributes.");
+    page.paragraph("The kinds of values that stand in angle brackets in the grammars of attributes.");
     page.heading(2, "Kinds that have a reader");
     std::vector<Row> rows;
     for (auto const& [name, token] : Xml::TokenTables::names)
@@ -156,6 +160,26 @@ Page kindsPage() {
     return page;
 }
 
+// The attributes of SVG 1.1 that SVG 2 gives to more elements.
+void addNewerPlaces(Page& page) {
+    page.heading(2, "On more elements");
+    auto const elements = Xml::Elements::names(Vocabulary::Svg);
+    std::vector<std::string> onEvery;
+    std::vector<Row> rows;
+    for (std::string_view const attribute : Xml::Elements::attributes(Vocabulary::Svg)) {
+        std::vector<std::string> others;
+        for (std::string_view const element : elements)
+            if (Xml::Names::isNewerOn(element, attribute)) others.push_back(codeOf(element));
+        if (others.size() == elements.size())
+            onEvery.push_back(codeOf(attribute));
+        else if (!others.empty())
+            rows.push_back({codeOf(attribute), listOf(others)});
+    }
+    page.paragraph("SVG 2 gives attributes of SVG 1.1 to elements that do not have them there: to every element " +
+                   listOf(onEvery) + ", and to some elements these:");
+    page.table({"attribute", "elements"}, rows);
+}
+
 Page newerNamesPage() {
     Page page("newer-names.md", "Newer names");
     page.paragraph("Names that SVG 1.1 does not have and a newer recommendation has.");
@@ -165,6 +189,42 @@ Page newerNamesPage() {
 #undef XMLATTR_NEWER
     for (Row& row : rows) row[1] = row[1] == "Element" ? "element" : row[1] == "Attribute" ? "attribute" : "property";
     page.table({"name", "what", "where"}, rows);
+    addNewerPlaces(page);
+    return page;
+}
+
+// The words of a list, which stand between blanks.
+std::string wordsOf(std::u16string_view list) {
+    std::vector<std::string> codes;
+    for (std::u16string_view const word : Xml::splitValues(list)) codes.push_back(codeOf(word));
+    return listOf(codes);
+}
+
+template <class Lists> void addNewerWords(Page& page, std::string_view title, Lists const& lists) {
+    page.heading(2, title);
+    std::vector<Row> rows;
+    for (Xml::NewerWords const& list : lists) rows.push_back({std::string(list.recommendation), wordsOf(list.words)});
+    page.table({"recommendation", "names"}, rows);
+}
+
+Page newerValuesPage() {
+    Page page("newer-values.md", "Newer values");
+    page.paragraph(
+        "A text that XSL-FO 1.1 or SVG 1.1 does not allow may be a value of a newer recommendation, which "
+        "`check` then names. It is one if its attribute of SVG is listed here with it; if it contains one of "
+        "the words, functions or units, in any case; if it contains a colour with an alpha (`#1234`, "
+        "`rgb(1,2,3,.5)`) or with blanks (`rgb(1 2 3)`); or if a number in a transform of SVG 1.1 has a unit.");
+    page.heading(2, "Values of attributes of SVG");
+    std::vector<Row> rows;
+    for (Xml::NewerValues const& values : Xml::newerValues)
+        rows.push_back({wordsOf(Core::String::fromUtf8(values.words)), codeOf(values.grammar.text()),
+                        std::string(values.recommendation)});
+    page.table({"attributes", "grammar", "recommendation"}, rows);
+    addNewerWords(page, "Words", Xml::newerWords);
+    addNewerWords(page, "Functions", Xml::newerFunctions);
+    addNewerWords(page, "Functions that XSL-FO has too", Xml::newerSvgFunctions);
+    addNewerWords(page, "Transforms whose numbers have no unit in SVG 1.1", Xml::olderTransforms);
+    addNewerWords(page, "Units", Xml::newerUnits);
     return page;
 }
 
@@ -176,6 +236,7 @@ std::vector<Page> cataloguePages() {
     for (Names const& names : vocabularies) pages.push_back(elementsPage(names));
     pages.push_back(kindsPage());
     pages.push_back(newerNamesPage());
+    pages.push_back(newerValuesPage());
     return pages;
 }
 

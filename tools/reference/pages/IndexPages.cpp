@@ -15,8 +15,9 @@ std::string lineOf(Oddity const& oddity) {
 
 Page oddityPage(SourceComments const& comments) {
     Page page("oddities.md", "Deliberate oddities that types share");
-    page.paragraph(
-        "What looks wrong and is relied on stands with its type. These belong to several types, or to none.");
+    page.paragraph("Behaviour that looks wrong and is relied on. What belongs to one type is on the page of that type; "
+                   "this page has "
+                   "the rest.");
     for (Oddity const& oddity : comments.oddities("")) page.item(lineOf(oddity));
     return page;
 }
@@ -24,9 +25,11 @@ Page oddityPage(SourceComments const& comments) {
 Page indexPage(SourceComments const& comments, std::vector<Page> const& others) {
     Page page("README.md", "Reference");
     page.paragraph(
-        "What the library reads and prints, written by a program from its tables and comments: every text on "
-        "these pages was read by the type whose page it is, and every print was printed. Sizes are those of "
-        "64-bit Linux. `./dev docs` writes the pages anew; a test compares them with the library.");
+        "What the library reads and prints, written by a program from its tables and comments. Every text on these "
+        "pages "
+        "was read by the type whose page it is, and every print was printed. Sizes are those of 64-bit Linux; a "
+        "keyword "
+        "takes 4 bytes, its attribute 16. `./dev docs` writes the pages anew; a test compares them with the library.");
     page.heading(2, "Pages");
     for (Page const& other : others) page.item("[" + other.title() + "](" + other.file() + ")");
     page.heading(2, "Value types");

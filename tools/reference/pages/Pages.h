@@ -18,7 +18,7 @@ std::string fileOf(Family const& family);
 
 // Constants, colours, languages and units.
 std::vector<Page> tablePages();
-// The attributes, elements, kinds of values and newer names of the vocabularies.
+// The attributes, elements, kinds of values, newer names and newer values of the vocabularies.
 std::vector<Page> cataloguePages();
 // What looks wrong and is relied on in more than one type.
 Page oddityPage(SourceComments const& comments);

@@ -3,6 +3,7 @@
 #include "tools/reference/pages/Trials.h"
 
 #include "xmlattr/catalogue/DefaultConstant.h"
+#include "xmlattr/catalogue/grammar/UnitWords.h"
 #include "xmlattr/color/ColorNames.h"
 #include "xmlattr/core/Format.h"
 #include "xmlattr/core/SystemColors.h"
@@ -76,10 +77,41 @@ std::string numberOf(float number) {
     return Core::Format::toShortest(number).toUtf8();
 }
 
+std::string kindOf(Xml::ItemKind unit) {
+    switch (unit) {
+    case Xml::ItemKind::Length: return "length";
+    case Xml::ItemKind::Percentage: return "percentage";
+    case Xml::ItemKind::Angle: return "angle";
+    case Xml::ItemKind::Time: return "time";
+    case Xml::ItemKind::Frequency: return "frequency";
+    case Xml::ItemKind::Word:
+    case Xml::ItemKind::Number:
+    case Xml::ItemKind::Color:
+    case Xml::ItemKind::Uri:
+    case Xml::ItemKind::Text: break;
+    }
+    return "";
+}
+
+void addGrammarUnits(Page& page) {
+    page.heading(2, "Units of the recommendations");
+    page.paragraph("The [kinds of values](kinds-of-values.md) have these units, exact in case except in a `style` "
+                   "attribute.");
+    std::vector<Row> rows;
+    for (auto const& unit : Xml::unitWords) rows.push_back({codeOf(unit.word), kindOf(unit.value)});
+    page.table({"unit", "of a"}, rows);
+    page.heading(2, "Names for units");
+    page.paragraph("Where a text has such a name, in any case, `check` suggests the unit.");
+    rows.clear();
+    for (auto const& name : Xml::unitNames) rows.push_back({codeOf(name.word), codeOf(name.value)});
+    page.table({"name", "unit"}, rows);
+}
+
 Page unitsPage() {
-    Page page("units.md", "Units of length");
-    page.paragraph("What one of each unit is in pixels, at 96 pixels to the inch, and how many of them 96 pixels are. "
-                   "The two types of lengths number their units in ways of their own.");
+    Page page("units.md", "Units");
+    page.paragraph("How many pixels one of each unit is, and how many of the unit 96 pixels are, which is one inch. "
+                   "`em` and `ex` are fixed fractions of a pixel, whatever the font; `pc` has different factors in the "
+                   "two directions. `Length` and `SLength` give the units different numbers.");
     std::vector<Row> rows;
     for (auto const& unit : Xml::unitRows) {
         auto const [inLength, inSLength] = std::pair(unit.value.length, unit.value.sLength);
@@ -94,6 +126,7 @@ Page unitsPage() {
     page.table({"unit", "pixels of one", "of 96 pixels", "number in `Length`", "pixels of one `SLength`",
                 "number in `SLength`"},
                rows);
+    addGrammarUnits(page);
     return page;
 }
 

@@ -153,7 +153,7 @@ void addType(Page& page, Xml::AttributeType const& type, Family const& family, S
     if (!type.isEnumeration())
         page.item("A value takes " + std::to_string(facts.size) + " bytes, an attribute " +
                   std::to_string(facts.attributeSize) + ".");
-    if (!type.isPublic()) page.item("The shared library keeps the type to itself.");
+    if (!type.isPublic()) page.item("The shared library does not export attributes of this type.");
     for (Oddity const& oddity : comments.oddities(type.name())) page.item("Intended: " + lineOf(oddity));
 }
 

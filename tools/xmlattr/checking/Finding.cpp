@@ -10,18 +10,16 @@ namespace {
 
 constexpr FaultKind kinds[] = {
     {Fault::BadValue, "bad-value", Severity::Error,
-     "The text is not legal on the attribute, and the value type that reads it refuses it. It is none of what the\n"
-     "formatter works out by itself either: \"inherit\" or an expression of XSL-FO. The message tells what is legal,\n"
-     "and what to write where that can be guessed. `xmlattr show TYPE TEXT` tries a text on a value type.\n"},
+     "The text is not legal on the attribute, and the value type that reads it refuses it. Nor is it \"inherit\" or\n"
+     "an expression of XSL-FO, which the formatter works out by itself. The message tells what is legal, or what to\n"
+     "write where that can be guessed. `xmlattr show TYPE TEXT` tries a text on a value type.\n"},
     {Fault::BadWord, "bad-word", Severity::Warning,
-     "The text is not legal on the attribute by its recommendation. No value type reads the attribute, so that it\n"
-     "depends on the formatter what becomes of it.\n"},
+     "The text is not legal on the attribute by its recommendation. No value type reads the attribute: what becomes\n"
+     "of it depends on the formatter.\n"},
     {Fault::Misread, "misread", Severity::Warning,
-     "The text is legal, but the value type holds something else than it means, \"M0 0a.5.5 0 0 1 1 1\", say, where "
-     "it\n"
-     "takes \".5.5\" for one number; or it refuses the text and reads the same in another one. The message tells what "
-     "is\n"
-     "held, and a text with the same meaning that is read as it is written.\n"},
+     "The text is legal, but the value type holds something else than it means: in \"M0 0a.5.5 0 0 1 1 1\" it takes\n"
+     "\".5.5\" for one number. Or the type refuses the text, but reads another text with the same meaning. The\n"
+     "message tells what is held, and a text with the same meaning that is read as it is written.\n"},
     {Fault::Lenient, "lenient", Severity::Warning,
      "The text is not legal on the attribute, but the value type takes it nevertheless: margin=\"10\" is 1000%, say.\n"
      "The message tells what is held; other formatters may refuse the text or read it otherwise.\n"},
@@ -29,7 +27,7 @@ constexpr FaultKind kinds[] = {
      "The recommendation forbids negative values of the attribute, and the text has one that the value type takes.\n"},
     {Fault::NewerValue, "newer-value", Severity::Warning,
      "The text is a value of a recommendation that came after XSL-FO 1.1 and SVG 1.1, such as SVG 2 or CSS 3. It is\n"
-     "no typing error, but the formatter does not read it.\n"},
+     "no typing error, but the formatter may not read it.\n"},
     {Fault::UnknownAttribute, "unknown-attribute", Severity::Warning,
      "The vocabulary has no attribute, or no property, of this name, and no newer recommendation that is known has\n"
      "one. Attributes of other namespaces, data-*, aria-* and event handlers are never reported.\n"},
@@ -95,6 +93,13 @@ std::string Finding::listOfParts() const {
     return list;
 }
 
+// What becomes of a value of a newer recommendation.
+std::string Finding::rejection() const {
+    bool const isTyped = entry && (entry->type() || !entry->longhands.empty());
+    if (isTyped) return ", which the formatter does not read";
+    return entry ? std::string(" and not ").append(Xml::Catalogue::recommendation(entry->vocabulary)) : "";
+}
+
 std::string Finding::message() const {
     std::string const where = " on " + printable(element);
     switch (fault) {
@@ -127,17 +132,21 @@ std::string Finding::message() const {
     if (!part.empty() && part != text) line += ": " + listOfParts();
     bool const needsExpected =
         problem.empty() && (fault == Fault::BadValue || fault == Fault::BadWord || fault == Fault::Lenient);
+    bool const isSame = fault == Fault::Negative || (fault != Fault::Misread && held == (part.empty() ? text : part));
+    bool const showsHeld = !held.empty() && !isSame;
+    bool const isPredicate = problem.starts_with("is ") || problem.starts_with("has ");
     if (fault == Fault::NewerValue)
-        line += " is " + newer + (isTaken ? "" : ", which the formatter does not read");
+        line += " is " + newer + (isTaken ? "" : rejection());
     else if (!problem.empty())
-        line += (problem.starts_with("is ") || problem.starts_with("has ") ? " " : ": ") + problem;
+        line += (isPredicate ? " " : ": ") + problem;
     else if (fault == Fault::Negative)
         line += " is negative";
-    else if (fault != Fault::Misread && (fault != Fault::Lenient || held.empty()))
+    else if (fault != Fault::Misread && (fault != Fault::Lenient || !showsHeld))
         line += otherParts.empty() ? " is not legal" : " are not legal";
-    if (!held.empty()) {
+    if (showsHeld) {
         bool const isFirst = problem.empty() && (line.ends_with('"') || line.ends_with(element));
-        line += std::string(isFirst ? " is read as " : ", and is read as ") + shown(held);
+        bool const isApart = !problem.empty() && !isPredicate;
+        line += (isFirst ? " is read as " : isApart ? "; it is read as " : ", and is read as ") + shown(held);
     } else if (fault == Fault::Misread) {
         if (problem.empty()) line += " is read otherwise";
     } else if (isTaken) {

@@ -84,6 +84,7 @@ struct Finding {
 
 private:
     std::string listOfParts() const;
+    std::string rejection() const;
 };
 
 } // namespace Command

@@ -14,8 +14,8 @@ struct Explanation {
 
 // Of what keeps a file from being read to its end, or written.
 constexpr Explanation explanations[] = {
-    {"malformed", "The file is no well-formed XML at the place that the message names. What stands before it\n"
-                  "was checked; nothing after it was.\n"},
+    {"malformed", "The file is no well-formed XML at the place that the message names. What precedes it was\n"
+                  "checked; what follows it was not.\n"},
     {"encoding", "The file declares an encoding that is not read, or is not in the one that it declares. UTF-8,\n"
                  "UTF-16, ISO-8859-1, US-ASCII and windows-1252 are always read, others where the iconv of the\n"
                  "machine knows them.\n"},

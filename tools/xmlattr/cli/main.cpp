@@ -86,35 +86,37 @@ CLI::App* addCheck(CLI::App& app, CheckOptions& options, std::string& explained)
     CLI::App* const command = app.add_subcommand("check", "Report each attribute that is not read as it is written");
     command->add_option("FILE", options.paths, "Documents, stylesheets, directories of both, or - for standard input")
         ->type_name("");
-    addFile(*command, "--files-from", options.filesFrom, "Check also what this file names, one path a line");
-    command->add_option("--stdin-name", options.stdinName, "Call standard input so in findings (default: <stdin>)")
+    addFile(*command, "--files-from", options.filesFrom, "Also check the paths in this file, one a line");
+    command
+        ->add_option("--stdin-name", options.stdinName,
+                     "Call standard input by this name in findings (default: <stdin>)")
         ->type_name("NAME");
     Choices<ReportFormat const*> formats;
     for (ReportFormat const& format : reportFormats()) formats.emplace_back(format.word, &format);
     addChoice(*command, "--format", options.run.format, formats,
               "Print text, json (one object a line), sarif, annotations of github or a page of html (default: text)");
-    addFile(*command, "--output", options.output, "Write the report to this file, which appears when it is whole");
+    addFile(*command, "--output", options.output, "Write the report to this file, which appears when it is complete");
     addColor(*command, options.run.color);
     addFlag(*command, "-q,--quiet", options.run.isQuiet, "Print no summary and no progress");
     command->add_flag("--strict", options.isStrict,
-                      "Report attributes on elements that do not have them too, and fail for warnings too");
+                      "Fail for warnings too, and also report attributes on elements that do not have them");
     command->add_option("--max-findings", options.run.maxFindings, "Print no more findings than this (default: all)")
         ->check(checkCount)
         ->type_name("N");
     addNames(*command, "--ignore", options.ignored, "Leave out findings with this id, attribute:NAME or element:NAME");
     addNames(*command, "--only", options.only, "Report only findings with this id, attribute:NAME or element:NAME");
-    addNames(*command, "--show", options.shown, "Report also what is only counted")
+    addNames(*command, "--show", options.shown, "Also report what is otherwise only counted")
         ->type_name("passed-over|not-covered|unknown");
     addFlag(*command, "--group", options.run.isGrouped,
             "Print equal findings once, with their number, the most frequent first");
     addFile(*command, "--baseline", options.run.baseline, "Leave out the findings that are recorded in this file");
     addFile(*command, "--write-baseline", options.newBaseline,
-            "Record the findings in this file; they are no faults then");
+            "Record the findings in this file; then they do not count for the exit code");
     addFile(*command, "--config", options.configuration,
             "Take options from this file (default: the nearest xmlattr.toml of each document)");
     command
         ->add_option("-j,--jobs", options.run.jobs,
-                     "Check so many files at a time (default: as many as there are cores)")
+                     "Check this many files at a time (default: as many as there are cores)")
         ->check(checkCount)
         ->type_name("N");
     addExplain(*command, explained);
@@ -125,9 +127,7 @@ CLI::App* addCheck(CLI::App& app, CheckOptions& options, std::string& explained)
 CLI::App* addFix(CLI::App& app, FixOptions& options) {
     CLI::App* const command =
         app.add_subcommand("fix", "Rewrite documents so that their values are read as they are meant");
-    command
-        ->add_option("FILE", options.paths,
-                     "Documents; directories, for their documents and stylesheets; - for standard input")
+    command->add_option("FILE", options.paths, "Documents, stylesheets, directories of both, or - for standard input")
         ->type_name("");
     command->add_flag("-n,--dry-run", options.isDryRun,
                       "Write nothing; show what would change as a diff for patch -p0");
@@ -135,7 +135,7 @@ CLI::App* addFix(CLI::App& app, FixOptions& options) {
         ->check(checkNotEmpty)
         ->type_name("DIR");
     command->add_flag("--suggestions", options.takesSuggestions,
-                      "Also write what is but likely to be meant: a unit, the nearest word");
+                      "Also write what is only likely to be meant: a missing unit, the nearest word");
     addColor(*command, options.color);
     command->add_flag("-q,--quiet", options.isQuiet, "Print no summary");
     command->footer(
@@ -150,7 +150,7 @@ CLI::App* addShow(CLI::App& app, ShowOptions& options) {
     command->add_option("TYPE", options.type, "A value type, as the command types lists them")
         ->required()
         ->type_name("");
-    command->add_option("TEXT", options.text, "The text, after -- where it begins like an option")->type_name("");
+    command->add_option("TEXT", options.text, "The text; after -- if it looks like an option")->type_name("");
     command->allow_extras(); // a text may begin like an option: -.5pt
     command->add_option("--equal", options.other, "Compare the value with this text too")->type_name("TEXT");
     addFormat(*command, options.format);
@@ -176,9 +176,9 @@ CLI::App* addProperties(CLI::App& app, PropertiesOptions& options) {
                                "List only attributes of XSL-FO or only those of SVG");
     command->add_option("--type", options.type, "List only attributes of this value type")->type_name("TYPE");
     addFormat(*command, options.format);
-    command->footer("A line has the vocabulary, the element or *, the attribute, its value type or what it is instead, "
-                    "whether it is\n"
-                    "inherited, the constant with its default, and the grammar that the recommendation has for it.");
+    command->footer(
+        "A line has the vocabulary, the element (* for all), the attribute, its value type or what it is instead,\n"
+        "whether it is inherited, the constant with its default, and its grammar in the recommendation.");
     return command;
 }
 

@@ -11,6 +11,13 @@ namespace {
 
 constexpr std::string_view transforms[] = {"matrix", "translate", "scale", "rotate", "skewX", "skewY"};
 
+// What a call looks like.
+std::string formOf(std::string_view call) {
+    if (call == "rect") return "a shape such as rect(1pt, 9pt, 9pt, 1pt)";
+    if (call == "icc-color") return "a colour with icc-color(...)";
+    return std::string(call) + (call == "proportional-column-width" ? "(...)" : "()");
+}
+
 template <class Values> void addOnce(Values& values, typename Values::value_type const& value) {
     if (std::ranges::find(values, value) == values.end()) values.push_back(value);
 }
@@ -20,14 +27,14 @@ std::string_view nounOf(Token token, bool isFo) {
     case Token::Number: return "a number";
     case Token::Integer: return "an integer";
     case Token::Length:
-        return isFo ? "a number with px, pt, pc, cm, mm, in, em or ex"
-                    : "a number, also with px, pt, pc, cm, mm, in, em or ex";
+        return isFo ? "a number with a unit (px, pt, pc, cm, mm, in, em, ex)"
+                    : "a number with or without a unit (px, pt, pc, cm, mm, in, em, ex)";
     case Token::Percentage: return "a percentage";
-    case Token::Angle: return isFo ? "a number with deg, grad or rad" : "a number, also with deg, grad or rad";
+    case Token::Angle: return isFo ? "a number with deg, grad or rad" : "a number with or without deg, grad or rad";
     case Token::Time: return "a number with s or ms";
     case Token::Frequency: return "a number with Hz or kHz";
     case Token::ClockValue: return "a time such as 1.5s, 200ms or 02:30";
-    case Token::Color: return "a color";
+    case Token::Color: return "a colour";
     case Token::Uri: return "url(...)";
     case Token::Reference: return "a reference without blanks";
     case Token::Iri: return "a reference";
@@ -82,7 +89,7 @@ std::string describeGrammar(Grammar const& grammar, Dialect dialect) {
     int depth = 0; // of calls, whose arguments are not told
     for (GrammarStep const& step : grammar.steps()) {
         if (step.kind == GrammarStep::Mark && step.word == ")") ++depth;
-        if (step.kind == GrammarStep::Call && --depth == 0) addOnce(parts, std::string(step.word) + "(...)");
+        if (step.kind == GrammarStep::Call && --depth == 0) addOnce(parts, formOf(step.word));
         if (depth > 0) continue;
         if (step.kind == GrammarStep::Word) addOnce(parts, std::string(step.word));
         if (step.kind == GrammarStep::Value)

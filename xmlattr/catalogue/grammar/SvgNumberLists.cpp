@@ -58,7 +58,7 @@ private:
             return scanner.fail(problem, number.end);
         };
         if (number.value < rule.minimum || (rule.aboveMinimum && number.value == rule.minimum))
-            return failNumber(number.value < 0 ? "a negative number is an error" : "the number is too small");
+            return failNumber(number.value < 0 ? "is negative" : "is too small");
         if (rule.whole && number.value != std::floor(number.value)) return failNumber("expected an integer");
         auto unit = SLength::UserUnit;
         if (!readUnit(scanner, unit)) return false;
@@ -136,8 +136,7 @@ struct ViewBoxList {
             if (!scanner.takeNumber(number, FinalPoint::Illegal)) return false;
             if (count > 1 && number.value < 0) {
                 scanner.at = number.begin;
-                return scanner.fail(count == 2 ? "a negative width is an error" : "a negative height is an error",
-                                    number.end);
+                return scanner.fail(count == 2 ? "is a negative width" : "is a negative height", number.end);
             }
             visitor.number(number);
         }

@@ -60,8 +60,12 @@ private:
             if (!scanner.takeNumber(number)) return false;
             visitor.number(number);
             bool const comma = scanner.skipSeparator();
-            if (!comma && scanner.isAt(u')') && (count == form.most || count == form.least)) break;
-            if (count == form.most) return scanner.fail(comma ? "a comma too many" : "expected \")\"");
+            bool const mayEnd = !comma && (count == form.most || count == form.least);
+            if (mayEnd && scanner.isAt(u')')) break;
+            if (mayEnd && scanner.atEnd()) return scanner.fail("expected \")\"");
+            if (count < form.most) continue;
+            if (scanner.isAtNumber()) return scanner.fail("a number too many");
+            return scanner.fail(comma ? "a comma too many" : "expected \")\"");
         }
         visitor.close(scanner.at++);
         return true;

@@ -15,4 +15,11 @@ inline constexpr Core::WordRow<ItemKind> unitWords[] = {
     {u"kHz", ItemKind::Frequency},
 };
 
+// What authors write for a unit, in lower case.
+inline constexpr Core::WordRow<std::u16string_view> unitNames[] = {
+    {u"inch", u"in"},    {u"inches", u"in"},   {u"\"", u"in"},     {u"point", u"pt"},  {u"points", u"pt"},
+    {u"pts", u"pt"},     {u"pixel", u"px"},    {u"pixels", u"px"}, {u"pica", u"pc"},   {u"picas", u"pc"},
+    {u"degree", u"deg"}, {u"degrees", u"deg"}, {u"°", u"deg"},     {u"percent", u"%"}, {u"pct", u"%"},
+};
+
 } // namespace Xml

@@ -3,6 +3,7 @@
 #include "xmlattr/catalogue/AttributeType.h"
 #include "xmlattr/catalogue/grammar/GrammarText.h"
 #include "xmlattr/catalogue/grammar/TokenReader.h"
+#include "xmlattr/catalogue/grammar/UnitWords.h"
 #include "xmlattr/catalogue/legality/NewerColor.h"
 #include "xmlattr/catalogue/legality/TypeReading.h"
 #include "xmlattr/catalogue/legality/ValueOfRow.h"
@@ -52,13 +53,6 @@ std::size_t sharedEnds(std::u16string_view a, std::u16string_view b) {
     auto const end = std::mismatch(restA.rbegin(), restA.rend(), restB.rbegin(), restB.rend(), isAlike).first;
     return static_cast<std::size_t>((start - a.begin()) + (end - restA.rbegin()));
 }
-
-// What authors write for a unit, in lower case.
-constexpr Core::WordRow<std::u16string_view> unitNames[] = {
-    {u"inch", u"in"},    {u"inches", u"in"},   {u"\"", u"in"},     {u"point", u"pt"},  {u"points", u"pt"},
-    {u"pts", u"pt"},     {u"pixel", u"px"},    {u"pixels", u"px"}, {u"pica", u"pc"},   {u"picas", u"pc"},
-    {u"degree", u"deg"}, {u"degrees", u"deg"}, {u"°", u"deg"},     {u"percent", u"%"}, {u"pct", u"%"},
-};
 
 // The text with an exponent of the number at its beginning written out, and without a point that no decimals follow.
 std::u16string withPlainNumber(std::u16string_view text) {
@@ -161,7 +155,8 @@ public:
     // Blanks around the text stay where they do no harm.
     Advice advise() {
         Dialect const dialect = dialectOf(entry, notation);
-        advice.expected = describeGrammar(entry.grammar, dialect);
+        advice.expected =
+            entry.isFont ? "a font such as bold 12pt/15pt serif" : describeGrammar(entry.grammar, dialect);
         if (judgement.verdict != Verdict::Refused) setHeld();
         if (judgement.verdict == Verdict::Misread && entry.type()) {
             if (auto rewritten = rewriteTyped(entry, dialect, text)) {
@@ -188,7 +183,9 @@ private:
         AnyAttribute attribute(*type);
         if (!attribute.parseValue(part)) return;
         advice.held = attribute.getValueAsString();
-        if (advice.held.empty()) advice.held = heldWithoutPrinter(*type, part);
+        // Where both look alike, the parts of the value differ.
+        bool const saysNothing = advice.held.empty() || (judgement.verdict == Verdict::Misread && advice.held == part);
+        if (saysNothing) advice.held = heldWithoutPrinter(*type, part);
     }
 
     void guess() {
@@ -336,6 +333,7 @@ std::vector<std::u16string> variantsOf(std::u16string_view text) {
     variants.push_back(unquoted(text));
     addColors(variants, text);
     addJoined(variants, text);
+    if (hasOpenParenthesis(text)) variants.push_back(std::u16string(text) + u')');
     return variants;
 }
 

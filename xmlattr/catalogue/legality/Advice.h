@@ -33,17 +33,18 @@ struct Advice {
     std::size_t unchangedEnd = 0; // how much of the text after the range stays
 };
 
-// Of a text and what judge() says of it when it is a fault. Linear in the text for misread lists; of longer texts than
-// a word or two nothing is guessed.
+// What to say of a text in which judge() found a fault. Takes time linear in the text; what the author may have wanted is
+// guessed for short texts only.
 [[nodiscard]] XMLATTR_API Advice advise(CatalogueEntry const& entry, std::u16string_view text, Notation notation,
                                         Judgement const& judgement);
 
 // Texts that differ from this one in what authors overlook: blanks around it, case, quotation marks, the decimal point,
-// the unit of a number or how it is written, blanks inside a word. Whether they are legal anywhere is not asked.
+// the unit of a number or how it is written, blanks inside a word, a closing parenthesis. They need not be legal.
 XMLATTR_API std::vector<std::u16string> variantsOf(std::u16string_view text);
 
-// The word of a list that was meant: one or two letters away, by its length. Of words as near, the one that begins and
-// ends more like the text: "gren" is green, not grey. Empty when there is none.
+// The word of a list that was probably meant: it differs by one letter, or by two if it has five letters or more. Of
+// equally near words, the one whose beginning and end are more like the text: "gren" is green, not grey. Empty when no
+// word is near.
 XMLATTR_API std::u16string_view nearestWord(std::u16string_view text, std::span<std::u16string_view const> words);
 
 } // namespace Xml

@@ -1,5 +1,5 @@
-// What animations of SVG give to attributes: the values of from, to, by and values, which the row of the attribute judges
-// that the animation names.
+// The values that animations of SVG give to attributes: from, to, by and values. The row of the animated attribute
+// judges them.
 #pragma once
 
 #include "xmlattr/catalogue/legality/Judge.h"
@@ -20,17 +20,17 @@ struct AnimatedValue {
     // The value is legal if one of these rows has it so, since the element that is animated may be any.
     std::span<CatalogueEntry const> rows;
     Notation notation = Notation::Attribute;
-    // What is wrong with any other text, where the grammar says too little: "expected one number or two".
+    // What to say of a text that is not legal; empty where the grammar says enough: "expected one number or two".
     std::string_view problem{};
-    // Whether it is added to another value, so that it may be in no range of numbers.
+    // Whether it is added to another value, so that its numbers may be out of range.
     bool isAdded = false;
 };
 
-// By the local name of an attribute. Nothing where the animation names no attribute that is known, or the attribute is
-// none of the four. "values" is a list with semicolons between such values.
+// The attribute is one of the animation itself, by its local name. Nothing unless it is one of the four and it is known
+// what is animated. "values" is a list of such values, separated by semicolons.
 XMLATTR_API std::optional<AnimatedValue> findAnimated(Animation const& animation, std::string_view attribute);
 
-// As judge(), of a single value; a fault is that of the first row.
+// Judges a single value as judge() does. Where no row finds it legal, the answer is that of the first row.
 [[nodiscard]] XMLATTR_API Judgement judge(AnimatedValue const& animated, std::u16string_view text);
 
 } // namespace Xml

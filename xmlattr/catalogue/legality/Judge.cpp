@@ -47,6 +47,7 @@ Judgement judge(CatalogueEntry const& entry, std::u16string_view text, Notation 
     judgement.isNegative = judgement.isOutOfRange &&
                            std::ranges::any_of(meaning.values(), [](Item const& item) { return item.number < 0; });
     if (!judgement.isNegative) judgement.newer = newerRecommendation(dialect, entry.attribute, trimXmlSpace(text));
+    if (judgement.problem.empty() && hasOpenParenthesis(text)) judgement.problem = "has no closing parenthesis";
     return judgement;
 }
 

@@ -31,35 +31,37 @@ constexpr bool isFault(Verdict verdict) {
 // A verdict and its reason.
 struct Judgement {
     Verdict verdict = Verdict::NotCovered;
-    // Of a fault: the part of a shorthand or a list that is wrong or read otherwise, a slice of the judged text. Where
-    // something is missing it has no length. A null one is the whole.
+    // Of a fault: what is wrong or held otherwise, a slice of the judged text. Null when that is the whole text, empty
+    // where something is missing.
     std::u16string_view part{};
-    // Of a refused shorthand: the parts after it that are wrong too.
+    // Of a refused shorthand: later parts that are wrong too.
     std::vector<std::u16string_view> otherParts{};
-    // Of a fault: the value types that were asked for the part or the whole; of a misread or lenient one, the type
-    // that reads it.
+    // Of a refused text, or its part: the value types that refused it. Of a misread or lenient one: the type that
+    // holds it.
     std::vector<AttributeType const*> tried{};
-    // Of a fault that is not just another value: what is wrong, "is empty" or "expected a number".
+    // Of a fault: what is wrong, where more can be said than that the value is not legal: "is empty", "expected a
+    // number". Else empty.
     std::string problem{};
-    // Of a list that is not read as written: what is held for the part, or of an illegal one what is held at all.
+    // Of a misread list: what is held for the part. Of a list that is not legal: how much of it is held, "2 points".
     std::string held{};
     // Of a lenient or refused text: the newer recommendation that has it, "SVG 2" or "CSS 3"; empty when none has.
     std::string_view newer{};
-    // Of a lenient or refused text: legal but for the range of a number; and that number is negative.
+    // Of a lenient or refused text: whether only the range of a number makes it illegal, and whether that number is
+    // negative.
     bool isOutOfRange = false, isNegative = false;
 };
 
 // What the text is the value of: an attribute, or a property in a style attribute, where words have any case.
 enum class Notation : std::uint8_t { Attribute, Declaration };
 
-// White space of XML around the text is no fault where the value type refuses it and reads the rest.
-// Colours of which the value type warns go to Core::Log. Takes time linear in the text; allocates for lists, shorthands
-// and faults only; throws nothing but bad_alloc.
+// White space around the text is no fault, even where the value type takes the text only without it. A value type may
+// warn of a colour through Core::Log. Takes time linear in the text; allocates for lists, shorthands and faults only;
+// throws nothing but bad_alloc.
 [[nodiscard]] XMLATTR_API Judgement judge(CatalogueEntry const& entry, std::u16string_view text,
                                           Notation notation = Notation::Attribute);
 
-// The same by local names, of which Catalogue.h tells more. NotCovered when the vocabulary has no such attribute, or
-// when the attribute is no property and so may not be declared.
+// The same by local names, as Catalogue::find takes them. NotCovered when the vocabulary has no such attribute, or when
+// a declaration is asked for and the attribute is no property.
 [[nodiscard]] XMLATTR_API Judgement judge(Vocabulary vocabulary, std::string_view element, std::string_view attribute,
                                           std::u16string_view text, Notation notation = Notation::Attribute);
 

@@ -49,7 +49,10 @@ public:
         std::size_t i = 0;
         while (i < parts.size() && mayBeStyle(parts[i]) && isOneOf(styles, parts[i])) ++i;
         if (i == parts.size()) return refusal("has no font size");
-        if (!isOneOf(size, parts[i])) return refusal(parts[i]);
+        if (!isOneOf(size, parts[i])) {
+            bool const isFamily = i + 1 == parts.size() && !Core::isDigit(parts[i][0]) && !isInherit(parts[i]);
+            return isFamily ? refusal("has no font size") : refusal(parts[i]);
+        }
         if (++i + 1 < parts.size() && parts[i] == u"/") {
             if (!height.empty() && !isOneOf(height, parts[i + 1])) return refusal(parts[i + 1]);
             i += 2;

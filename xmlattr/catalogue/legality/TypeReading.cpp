@@ -182,14 +182,26 @@ std::u16string textOf(SColor const& paint) {
     return {};
 }
 
+template <HoldsMeasure T> std::u16string textOf(T const& value) {
+    Held const held = measureOf(value);
+    return std::u16string(Core::Format::toShortest(held.number)).append(held.unit);
+}
+
+std::u16string textOf(STextShadow const& shadow) {
+    std::u16string text;
+    for (SLength const& length : {shadow.getDx(), shadow.getDy(), shadow.getBlurRadius()})
+        text.append(text.empty() ? u"" : u" ").append(textOf(length));
+    if (!shadow.getColor().isNull()) text.append(u" ").append(textOf(shadow.getColor()));
+    return text;
+}
+
 template <class T> std::u16string heldAs(std::u16string_view text) {
     T value{};
     if (KeywordEnumeration<T> || !AttributeTraits<T>::parse(value, text)) return {};
-    if constexpr (std::is_base_of_v<SColor, T>) {
+    if constexpr (std::is_base_of_v<SColor, T> || std::is_same_v<T, STextShadow> || HoldsMeasure<T>) {
         return textOf(value);
-    } else if constexpr (HoldsMeasure<T>) {
-        Held const held = measureOf(value);
-        return std::u16string(Core::Format::toShortest(held.number)).append(held.unit);
+    } else if constexpr (std::is_same_v<T, Url>) {
+        return std::u16string(u"\"").append(std::u16string_view(value.getUrl())).append(u"\"");
     } else if constexpr (HasParts<T>) {
         Parts parts;
         AttributeTraits<T>::parts(value, parts);

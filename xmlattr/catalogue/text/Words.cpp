@@ -60,6 +60,23 @@ bool equalsWord(std::u16string_view text, std::string_view word, bool ignoreCase
     });
 }
 
+bool hasOpenParenthesis(std::u16string_view text) {
+    int depth = 0;
+    char16_t quote = 0;
+    for (char16_t const unit : text) {
+        if (quote != 0) {
+            if (unit == quote) quote = 0;
+        } else if (unit == u'"' || unit == u'\'') {
+            quote = unit;
+        } else if (unit == u'(') {
+            ++depth;
+        } else if (unit == u')') {
+            --depth;
+        }
+    }
+    return depth > 0;
+}
+
 std::vector<std::u16string_view> splitValues(std::u16string_view text, std::u16string_view separators,
                                              std::u16string_view marks) {
     std::vector<std::u16string_view> values;
