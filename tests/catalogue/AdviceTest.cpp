@@ -1,6 +1,8 @@
 #include "xmlattr/catalogue/legality/Advice.h"
 #include "Support.h"
 
+#include <algorithm>
+
 namespace Xml {
 namespace {
 
@@ -115,21 +117,41 @@ TEST(Advice, GuessesOnlyWhatIsLegalAndRead) {
     });
 }
 
+TEST(Advice, GuessesNothingOfLongTexts) {
+    CatalogueEntry const& entry = *Catalogue::find(Svg, "rect", "width");
+    for (std::size_t const size : {64u, 65u}) {
+        std::u16string const text = std::u16string(size - 3, u'0') + u" cm";
+        Advice const advice = advise(entry, text, Notation::Attribute, judge(entry, text));
+        EXPECT_EQ(advice.replacement, size == 64 ? std::u16string(61, u'0') + u"cm" : u"") << size;
+    }
+}
+
 TEST(Advice, WritesNewerColorsAsTheyAreRead) {
     struct Case {
         char16_t const* text;
         char const* replacement;
         bool isExact;
     };
-    for (Case const& row :
-         {Case{u"#abc8", "#aabbcc", false}, Case{u"#aabbccFF", "#aabbcc", true}, Case{u"#aabbcc0", "", false},
-          Case{u"rgb(10% 20% 30%)", "#1a334d", true}, Case{u"rgb(0 127.6 255 / 1)", "#0080ff", true},
-          Case{u"rgba(1,2,3,100%)", "#010203", true}, Case{u"RGBA(1, 2, 3, .5)", "#010203", false},
-          Case{u"rgb(1.5,2,3)", "#020203", true}, Case{u"hsl(120deg 100% 25%)", "#008000", true},
-          Case{u"hsla(-240,100%,25%,50%)", "#008000", false}, Case{u"hsl(.5turn 50% 50% / 100%)", "#40bfbf", true},
-          Case{u"hwb(90 50% 100%)", "#555555", true}, Case{u"hwb(0 20% 40%)", "#993333", true},
-          Case{u"rebeccapurple", "#663399", true}, Case{u"rgb(1 2 3 4)", "", false}, Case{u"rgb(1 2% 3)", "", false},
-          Case{u"hsl(1px 2% 3%)", "", false}, Case{u"hsl(1 2 3)", "", false}, Case{u"lab(1 2 3)", "", false}}) {
+    for (Case const& row : {Case{u"#abc8", "#aabbcc", false},
+                            Case{u"#aabbccFF", "#aabbcc", true},
+                            Case{u"#aabbcc0", "", false},
+                            Case{u"rgb(10% 20% 30%)", "#1a334d", true},
+                            Case{u"rgb(0 127.6 255 / 1)", "#0080ff", true},
+                            Case{u"rgba(1,2,3,100%)", "#010203", true},
+                            Case{u"RGBA(1, 2, 3, .5)", "#010203", false},
+                            Case{u"rgba(1,2,3,1.5)", "#010203", false},
+                            Case{u"rgb(1.5,2,3)", "#020203", true},
+                            Case{u"hsl(120deg 100% 25%)", "#008000", true},
+                            Case{u"hsla(-240,100%,25%,50%)", "#008000", false},
+                            Case{u"hsl(.5turn 50% 50% / 100%)", "#40bfbf", true},
+                            Case{u"hwb(90 50% 100%)", "#555555", true},
+                            Case{u"hwb(0 20% 40%)", "#993333", true},
+                            Case{u"rebeccapurple", "#663399", true},
+                            Case{u"rgb(1 2 3 4)", "", false},
+                            Case{u"rgb(1 2% 3)", "", false},
+                            Case{u"hsl(1px 2% 3%)", "", false},
+                            Case{u"hsl(1 2 3)", "", false},
+                            Case{u"lab(1 2 3)", "", false}}) {
         CatalogueEntry const& entry = *Catalogue::find(Svg, "path", "stroke");
         Advice const advice = advise(entry, row.text, Notation::Attribute, judge(entry, row.text));
         EXPECT_EQ(Core::String(advice.replacement).toUtf8(), row.replacement) << narrow(row.text);
@@ -158,6 +180,16 @@ TEST(Judge, TellsNegativeAndNewerValues) {
         EXPECT_EQ(judgement.isNegative, row.isNegative) << row.attribute << narrow(row.text);
         EXPECT_EQ(judgement.newer, row.newer) << row.attribute << narrow(row.text);
     }
+}
+
+TEST(Variants, DifferInWhatAuthorsOverlook) {
+    struct Case {
+        char16_t const *text, *variant;
+    };
+    for (Case const& row :
+         {Case{u" Auto ", u"auto"}, Case{u"'serif'", u"serif"}, Case{u"1,5 CM", u"1.5cm"}, Case{u"12", u"12pt"},
+          Case{u"no wrap", u"nowrap"}, Case{u"abc", u"#abc"}, Case{u"90 degrees", u"90deg"}, Case{u"1e1pt", u"10pt"}})
+        EXPECT_TRUE(std::ranges::count(variantsOf(row.text), row.variant) > 0) << narrow(row.text);
 }
 
 TEST(NearestWord, IsOneOrTwoLettersAway) {

@@ -6,6 +6,9 @@
 #include "xmlattr/measures/Length.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <optional>
 #include <stdexcept>
 #include <utility>
 
@@ -173,6 +176,50 @@ TEST(AnyAttribute, TakesValuesApart) {
         for (auto const& [name, value] : attribute.parts().list)
             parts += (parts.empty() ? "" : "|") + narrow(name) + " " + narrow(value);
         EXPECT_EQ(parts, row.parts) << row.type << ": " << narrow(row.text);
+    }
+}
+
+TEST(AnyAttribute, HasTheColourThatAScreenShows) {
+    AnyAttribute color(typeNamed("SmartPtr<Drawing::Color>"));
+    for (auto const& [text, rgb] :
+         {std::pair{u"#010203", 0x010203u}, {u"cmyk(0,1,1,0)", 0xFF0000u}, {u"cmyk(1,0,1,0)", 0x00FF00u}}) {
+        EXPECT_TRUE(color.parseValue(text)) << narrow(text);
+        EXPECT_EQ(color.parts().rgb, rgb) << narrow(text);
+    }
+    EXPECT_TRUE(color.parseValue(u"none"));
+    EXPECT_EQ(color.parts().rgb, std::nullopt);
+}
+
+// Of texts that are those of the type, or differ from one in a digit.
+TEST(AnyAttribute, EqualsNoneThatPrintsOrHoldsAnotherValue) {
+    // Their headers tell what their comparisons pass over.
+    constexpr std::string_view comparedOtherwise[] = {"BackgroundSize",          "ContentLength",
+                                                      "Core::Vector<Transform>", "DisplayCondition",
+                                                      "InitialPageNumber",       "Language"};
+    for (AttributeType const& type : AttributeType::all()) {
+        if (std::ranges::count(comparedOtherwise, type.name()) > 0) continue;
+        auto const examples = type.examples();
+        auto const words = type.words();
+        std::vector<std::u16string> texts(examples.begin(), examples.end());
+        texts.insert(texts.end(), words.begin(), words.end());
+        for (std::u16string_view const example : examples)
+            for (std::size_t i = 0; i < example.size(); ++i)
+                if (Core::String::isDigit(example[i]))
+                    texts.emplace_back(example).at(i) =
+                        example[i] == u'9' ? u'8' : static_cast<char16_t>(example[i] + 1);
+        std::vector<std::pair<AnyAttribute, Core::String>> values; // and what each holds
+        for (std::u16string const& text : texts) {
+            AnyAttribute value(type);
+            if (!value.parseValue(text)) continue;
+            Core::String holds = value.getValueAsString();
+            for (auto const& [name, part] : value.parts().list) ((holds += u"|") += name) += part;
+            values.emplace_back(value, holds);
+        }
+        for (auto const& [one, held] : values)
+            for (auto const& [other, heldByOther] : values) {
+                if (held == heldByOther) continue;
+                EXPECT_FALSE(one == other) << type.name() << ": " << narrow(held) << " and " << narrow(heldByOther);
+            }
     }
 }
 

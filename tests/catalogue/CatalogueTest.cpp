@@ -48,6 +48,33 @@ TEST(Catalogue, AnElementsOwnRowGoesFirst) {
     EXPECT_EQ(Catalogue::find(Vocabulary::Fo, "block", ""), nullptr);
 }
 
+TEST(Catalogue, NamesVocabulariesAndKinds) {
+    for (Vocabulary const vocabulary : {Vocabulary::Fo, Vocabulary::Svg}) {
+        bool const isFo = vocabulary == Vocabulary::Fo;
+        EXPECT_EQ(Catalogue::vocabularyOf(Catalogue::namespaceOf(vocabulary)), vocabulary);
+        EXPECT_EQ(Catalogue::recommendation(vocabulary), isFo ? "XSL-FO 1.1" : "SVG 1.1");
+        EXPECT_EQ(Catalogue::name(vocabulary), isFo ? "fo" : "svg");
+    }
+    EXPECT_EQ(Catalogue::vocabularyOf("http://www.w3.org/1999/xhtml"), std::nullopt);
+    std::string kinds;
+    for (char const* const attribute : {"color", "border", "id", "role", "writing-mode"})
+        kinds += std::string(Catalogue::name(Catalogue::find(Vocabulary::Fo, "*", attribute)->kind)) + " ";
+    EXPECT_EQ(kinds, "typed shorthand identifier text none ");
+}
+
+TEST(Catalogue, GivesEveryRowOfAnAttribute) {
+    for (CatalogueEntry const& entry : Catalogue::entries()) {
+        std::span<CatalogueEntry const> const rows = Catalogue::rowsOf(entry.vocabulary, entry.attribute);
+        EXPECT_TRUE(&entry >= rows.data() && &entry < rows.data() + rows.size()) << entry.attribute;
+        for (CatalogueEntry const& row : rows) {
+            EXPECT_TRUE(row.attribute == entry.attribute && row.vocabulary == entry.vocabulary) << entry.attribute;
+            EXPECT_TRUE(&row == rows.data() || !row.isForEveryElement()) << entry.attribute << ": it is the first";
+        }
+    }
+    EXPECT_EQ(Catalogue::rowsOf(Vocabulary::Svg, "fill").size(), 2u);
+    EXPECT_TRUE(Catalogue::rowsOf(Vocabulary::Fo, "fill").empty());
+}
+
 TEST(Catalogue, KnowsPropertiesAndLists) {
     struct Row {
         Vocabulary vocabulary;

@@ -1,4 +1,5 @@
 #include "Support.h"
+#include "xmlattr/catalogue/legality/Animation.h"
 #include "xmlattr/catalogue/legality/Expression.h"
 #include "xmlattr/catalogue/legality/Judge.h"
 #include "xmlattr/catalogue/legality/Shorthand.h"
@@ -68,7 +69,7 @@ TEST(Expression, IsMoreThanAValueAndWellFormed) {
           u"1pt + 2", u"3pt mod 2", u"max(1pt, 2)", u"10pt + indent", u"2 * red", u"-#fff * 2", u"rgb(1,2,3) + 1",
           u"round(1.5pt)", u"abs(auto)", u"proportional-column-width(1pt)",
           // units that there are not
-          u"12q + 1pt", u"1pt + 2ptx", u"1PT + 1PT"})
+          u"12q + 1pt", u"12q + 1", u"1pt + 2ptx", u"1PT + 1PT"})
         EXPECT_FALSE(readExpression(text)) << narrow(text);
     EXPECT_FALSE(readExpression(std::u16string(1'000'000, u'('))) << "nesting has a limit";
 }
@@ -203,6 +204,9 @@ TEST(Judge, TellsWhatIsLegalByNames) {
              Row{Vocabulary::Fo, "table", "width", u"auto", PassedOver},
              Row{Vocabulary::Fo, "block", "id", u"a1", FreeText},
              Row{Vocabulary::Fo, "block", "id", u"", Refused},
+             Row{Vocabulary::Fo, "block", "id", u"\u00C0_.-\u00B7\u00C09", FreeText},
+             Row{Vocabulary::Fo, "block", "id", u"\u00BF", Refused},
+             Row{Vocabulary::Fo, "block", "id", u"\u00B7a", Refused},
              Row{Vocabulary::Fo, "block", "writing-mode", u"lr-tb", PassedOver},
              Row{Vocabulary::Fo, "block", "writing-mode", u"lr", PassedOver},
              Row{Vocabulary::Fo, "block", "writing-mode", u"rl-lr", Refused},
@@ -250,9 +254,42 @@ TEST(Judge, GivesTheReason) {
     EXPECT_EQ(judge(Vocabulary::Svg, "g", "font", u"BALD 1px A", Notation::Declaration).part, u"BALD");
 }
 
+TEST(Animation, FindsTheRowsOfWhatItGives) {
+    struct Row {
+        Animation animation;
+        char const* attribute;
+        char16_t const* text;
+        Verdict verdict; // NotCovered where there is nothing to judge by
+    };
+    using enum Verdict;
+    for (Row const& row :
+         {Row{{"animate", "r"}, "to", u"1px", Read}, Row{{"animate", "r"}, "to", u"-1px", Lenient},
+          Row{{"animate", "r"}, "by", u"-1px", PassedOver}, Row{{"animate", "r"}, "dur", u"1s", NotCovered},
+          Row{{"animate", "r", "", "", "sum"}, "from", u"-1px", PassedOver},
+          Row{{"animate", "r", "", "", "replace"}, "from", u"-1px", Lenient}, Row{{"set", "fill"}, "to", u"RED", Read},
+          Row{{"set", "fill"}, "to", u"None", Read}, Row{{"set", "fill", "XML"}, "to", u"None", Lenient},
+          Row{{"set"}, "to", u"1", NotCovered}, Row{{"animateTransform"}, "to", u"1 2", PassedOver},
+          Row{{"animateTransform", "", "", "skewX"}, "to", u"1 2", Refused},
+          Row{{"animateMotion"}, "to", u"1 2", PassedOver}, Row{{"g", "r"}, "to", u"1", NotCovered}}) {
+        auto const animated = findAnimated(row.animation, row.attribute);
+        EXPECT_EQ(animated ? judge(*animated, row.text).verdict : NotCovered, row.verdict)
+            << row.animation.element << " " << row.attribute << " " << narrow(row.text);
+    }
+    AnimatedValue const translation = *findAnimated({"animateTransform"}, "to");
+    EXPECT_EQ(judge(translation, u"1deg").problem, "expected one number or two");
+    EXPECT_EQ(judge(translation, u"var(--x)").problem, "") << "that is newer";
+}
+
+TEST(StyleAttribute, FindsPropertiesAlone) {
+    EXPECT_EQ(findProperty(Vocabulary::Svg, "g", "Fill"), Catalogue::find(Vocabulary::Svg, "g", "fill"));
+    EXPECT_EQ(findProperty(Vocabulary::Svg, "g", "width"), nullptr);
+    EXPECT_EQ(findProperty(Vocabulary::Fo, "block", "color"), nullptr);
+}
+
 TEST(StyleAttribute, SplitsDeclarations) {
     std::string text = "fill : red;;/* a; */stroke:url(a;b) ! important; font:'x;/*y' 3px;junk;;x:;"
-                       "Y:url( 'a)/*;' ) /* ) */ !Important; : b ;{z:url(//a/*b);--z:url(//a/*b);f=url(c:d);w:1/**/2/*";
+                       "Y:url( 'a)/*;' ) /* ) */ !Important; : b ;{z:url(//a/*b);--z:url(//a/*b);f=url(c:d);v:'!' "
+                       "!important;w:1/**/2/*";
     blankComments(text);
     auto const declarations = splitStyle(text);
     struct Row {
@@ -268,6 +305,7 @@ TEST(StyleAttribute, SplitsDeclarations) {
                         {"{z:url(//a/*b)", "", "", "no name stands before its colon"},
                         {"--z:url(//a/*b)", "--z", "url(//a/*b)"},
                         {"f=url(c:d)", "", "", "it has no colon"},
+                        {"v:'!' !important", "v", "'!'"},
                         {"w:1    2", "w", "1    2"}};
     ASSERT_EQ(declarations.size(), std::size(rows));
     for (std::size_t i = 0; i < std::size(rows); ++i) {

@@ -45,8 +45,8 @@ TEST(Names, OfAttributesStandAsTheVocabularyHasThem) {
           Row{Svg, "paint-order", {Newer, "SVG 2"}}, Row{Svg, "vector-effect", {Newer, "SVG 2"}},
           Row{Svg, "focusable", {Newer, "SVG Tiny 1.2"}}, Row{Fo, "xml:id", {Newer, "the recommendation xml:id"}},
           Row{Fo, "transform-origin", {Unknown, ""}}, Row{Svg, "data-name", {Open, ""}},
-          Row{Fo, "aria-label", {Open, ""}}, Row{Svg, "onpointerdown", {Open, ""}}, Row{Svg, "role", {Open, ""}},
-          Row{Fo, "xlink:href", {Open, ""}}, Row{Fo, "onclick", {Unknown, ""}}})
+          Row{Svg, "dataset", {Unknown, ""}}, Row{Fo, "aria-label", {Open, ""}}, Row{Svg, "onpointerdown", {Open, ""}},
+          Row{Svg, "role", {Open, ""}}, Row{Fo, "xlink:href", {Open, ""}}, Row{Fo, "onclick", {Unknown, ""}}})
         EXPECT_EQ(Names::ofAttribute(row.vocabulary, row.name), row.fact) << row.name;
     for (Vocabulary const vocabulary : {Fo, Svg})
         for (std::string_view const name : Elements::attributes(vocabulary))

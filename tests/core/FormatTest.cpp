@@ -176,8 +176,8 @@ TEST(Format, ReadsTheLongestNumberAtTheStart) {
     };
     for (Row const& row :
          {Row{u"45deg", 45, 45}, Row{u"abc", 0, 0}, Row{u"", 0, 0}, Row{u"  -1.5e1x", -15, -1}, Row{u"1e", 1, 1},
-          Row{u"1e+q", 1, 1}, Row{u"-", 0, 0}, Row{u"1e99", FLT_MAX, 1}, Row{u"-99999999999999999999", -1e20f, INT_MIN},
-          Row{u"2147483648", 2147483648.0f, INT_MAX}}) {
+          Row{u"1e+q", 1, 1}, Row{u"-", 0, 0}, Row{u"1e99", FLT_MAX, 1}, Row{u"-1e99", -FLT_MAX, -1},
+          Row{u"-99999999999999999999", -1e20f, INT_MIN}, Row{u"2147483648", 2147483648.0f, INT_MAX}}) {
         EXPECT_EQ(Format::parseFloat(row.text), row.number) << String(row.text).toUtf8();
         EXPECT_EQ(Format::parseInt(row.text), row.integer) << String(row.text).toUtf8();
     }

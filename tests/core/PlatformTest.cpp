@@ -35,6 +35,7 @@ TEST(SmartPtr, HoldsOneReferenceEach) {
 }
 
 TEST(Application, KeepsTextsByKey) {
+    Application::setConfigValue(u"size", u"9");
     Application::setConfigValue(u"size", u" 12 ");
     Application::setConfigValue(u"family", u"Times");
     EXPECT_EQ(Application::getIntConfigValue(u"size", 1), 12);
@@ -61,6 +62,7 @@ TEST(UnreacheableCodeException, NamesItsSource) {
     UnreacheableCodeException const exception("LengthAttribute", 7);
     EXPECT_STREQ(exception.what(), "unreachable code: LengthAttribute, line 7");
     EXPECT_STREQ(exception.getSourceName(), "LengthAttribute");
+    EXPECT_EQ(exception.getLine(), 7);
 }
 
 } // namespace

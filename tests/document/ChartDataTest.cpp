@@ -40,6 +40,7 @@ TEST(AxisUnits, ReadsKeywordsAndNumbersButZero) {
     EXPECT_EQ(parsed<AxisUnits>(u"-2"), AxisUnits(-2.0f));
     for (char16_t const* text : {u"0", u"0.0", u"-0", u"", u"day", u" days", u"1e-60"})
         EXPECT_FALSE(parsed<AxisUnits>(text)) << narrow(text);
+    EXPECT_TRUE(AxisUnits().getType() == AxisUnits::Auto && AxisUnits(2.0f).getType() == AxisUnits::Numeric);
     AxisUnits const nan(std::numeric_limits<float>::quiet_NaN());
     EXPECT_TRUE(nan != nan);
 }
@@ -56,6 +57,8 @@ TEST(MaxDataPoints, ReadsAllAndIntegers) {
     EXPECT_FALSE(points.isEqual(u"all"));
     EXPECT_TRUE(points.isEqual(u"0") && points.parseValue(u"all") && points.isEqual(u"All"));
     EXPECT_EQ(points->getValue(), 0);
+    EXPECT_TRUE(MaxDataPoints(0).getType() == MaxDataPointsType::Count && MaxDataPoints(0) != MaxDataPoints());
+    EXPECT_TRUE(MaxDataPoints().getType() == MaxDataPointsType::All && MaxDataPoints().getValue() == 0);
     points = MaxDataPoints(static_cast<MaxDataPointsType>(7));
     EXPECT_EQ(points.getValueAsString(), u"");
 }
@@ -91,6 +94,7 @@ TEST(Value, ComparesUnevenly) {
     EXPECT_TRUE(none != none && none.getValue().empty());
     EXPECT_TRUE(Value(0.0f) == zz && zz != Value(0.0f)) << "the left operand's type decides";
     EXPECT_FALSE(none < none || none > none);
+    EXPECT_TRUE(day.getDateValue() < nextDay.getDateValue());
     EXPECT_TRUE(two < three && three > two && day < nextDay && nextDay > day && day != nextDay);
     EXPECT_TRUE(zz < aaa && aaa > zz && zz != aaa);
     EXPECT_FALSE(Value(Core::String(u"bb")) < zz || zz < Value(Core::String(u"bb")));

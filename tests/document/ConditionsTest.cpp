@@ -28,6 +28,14 @@ TEST(DisplayCondition, AppendsUpToTheFirstBadCondition) {
     }
 }
 
+TEST(DisplayCondition, HoldsTheOperatorThatItNames) {
+    using enum DisplayCondition::Operator;
+    auto const value = parsed<DisplayCondition>(u"is-after(x) and is-before(x) and match(x)");
+    ASSERT_TRUE(value && value->getConditions().size() == 3);
+    for (auto const op : {IsAfter, IsBefore, Match})
+        EXPECT_EQ(value->getConditions()[static_cast<std::size_t>(op)].op, op);
+}
+
 TEST(DisplayCondition, EqualsEveryListThatContainsIt) {
     TXmlAttribute<DisplayCondition> x, both;
     ASSERT_TRUE(x.parseValue(u"match(x)") && both.parseValue(u"is-after(y) and match(x)"));

@@ -44,6 +44,10 @@ TEST(InitialSheetNumber, AcceptsEveryText) {
     EXPECT_EQ(parsed<InitialSheetNumber>(u"4"), InitialSheetNumber(4));
     EXPECT_EQ(parsed<InitialSheetNumber>(u"multiple-of(2)"), InitialSheetNumber(1));
     EXPECT_NE(InitialSheetNumber(1), InitialSheetNumber());
+    EXPECT_EQ(InitialSheetNumber().getType(), InitialSheetNumberType::Auto);
+    EXPECT_EQ(InitialSheetNumber().getNumber(), -1);
+    EXPECT_EQ(InitialSheetNumber(4).getType(), InitialSheetNumberType::Number);
+    EXPECT_EQ(InitialSheetNumber(4).getNumber(), 4);
 }
 
 TEST(ForcePageCount, ReadsKeywordsAndMultiples) {

@@ -12,6 +12,10 @@ TEST(TabStop, StandsInTheOrderOfPixels) {
     EXPECT_FALSE(inch < points || points < inch);
     EXPECT_TRUE(pixels < inch && pixels < points && !(inch < pixels));
     EXPECT_EQ(inch.getPattern(), TabPattern::Dot);
+    TabStop const plain;
+    EXPECT_TRUE(plain.getPosition() == Length());
+    EXPECT_TRUE(plain.getType() == TabStopType::Left && plain.getPattern() == TabPattern::None);
+    EXPECT_EQ(pixels.getType(), TabStopType::Center);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "Support.h"
 #include "xmlattr/core/OSInfo.h"
 #include "xmlattr/drawing/ColorText.h"
+#include "xmlattr/drawing/ImageFilter.h"
 #include "xmlattr/drawing/SpotColor.h"
 
 #include <thread>
@@ -63,6 +64,15 @@ TEST(Color, ClonesAreNewObjectsOfTheSameContents) {
     EXPECT_TRUE(spotClone->getFunction() == spot->getFunction());
 }
 
+TEST(ImageFilter, IsReadInAnyCase) {
+    ImageFilter filter;
+    EXPECT_EQ(filter.getType(), ImageFilter::Auto);
+    EXPECT_TRUE(ImageFilter::parseFilter(filter, u"BiLinear"));
+    EXPECT_FALSE(ImageFilter::parseFilter(filter, u"linear"));
+    EXPECT_TRUE(filter == ImageFilter(ImageFilter::Bilinear) && filter.toString() == u"bilinear");
+    EXPECT_EQ(ImageFilter(static_cast<ImageFilter::Type>(4)).toString(), u"");
+}
+
 TEST(SpotColorFunction, GoesFromNoInkToTheAlternate) {
     auto const held = SpotColorFunction::parseColorFunctionString(u"rgb(50%,2,300)x");
     auto const& rgb = dynamic_cast<ExponentialSpotColorFunction&>(*held);
@@ -92,9 +102,10 @@ TEST(SpotColorMapper, KnowsWhatIsRegisteredWhileOthersAsk) {
     asking.join();
     EXPECT_TRUE(SpotColorMapper::getFunction(u"Gold") == second);
     EXPECT_FALSE(SpotColorMapper::getFunction(u"gold"));
+    SpotColorMapper::setFunction(u"Silver", first);
     SpotColorMapper::setFunction(u"Gold", nullptr);
     EXPECT_FALSE(SpotColorMapper::getFunction(u"Gold"));
-    SpotColorMapper::setFunction(u"Silver", first);
+    EXPECT_TRUE(SpotColorMapper::getFunction(u"Silver") == first);
     SpotColorMapper::clear();
     EXPECT_FALSE(SpotColorMapper::getFunction(u"Silver"));
 }

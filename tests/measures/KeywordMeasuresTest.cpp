@@ -170,6 +170,32 @@ TEST(FontStretch, PrintsOneWordThatItDoesNotRead) {
     EXPECT_EQ(static_cast<int>(FontSize(seven).getType()), 2);
 }
 
+// What programs ask of a value, with a word and with a measure.
+TEST(KeywordMeasures, TellWhichOfTheTwoTheyHold) {
+    AlignmentAdjust const top = *parsed<AlignmentAdjust>(u"top"), adjust(seven);
+    EXPECT_TRUE(top.isKeyword() && top.getKeyword() == AlignmentBaseline::Top);
+    EXPECT_TRUE(!adjust.isKeyword() && adjust.getLengthOrPercent() == seven);
+    EXPECT_EQ(parsed<BaselineShift>(u"sub")->getMode(), BaselineShiftMode::Sub);
+    EXPECT_EQ(BaselineShift(seven).getMode(), BaselineShiftMode::LengthOrPercent);
+    EXPECT_TRUE(SBaselineShift(seventh).getLengthOrPercent() == seventh);
+    EXPECT_TRUE(LetterSpacing().isNormal() && LetterSpacing().getKind() == SpacingNormal);
+    EXPECT_TRUE(!SSpacing(SLength()).isNormal() && SSpacing(SLength()).getKind() == SpacingLength);
+    EXPECT_EQ(parsed<PageDimension>(u"indefinite")->getType(), PageDimensionType::Indefinite);
+    EXPECT_EQ(parsed<PageDimension>(u"1pt")->getType(), PageDimensionType::Length);
+    EXPECT_EQ(parsed<TextAlign>(u"Outside")->getText(), u"Outside");
+
+    SFontSize size = RelativeFontSize::Larger;
+    EXPECT_TRUE(size.isRelativeSize() && !size.isAbsoluteSize());
+    size = seventh;
+    EXPECT_TRUE(!size.isRelativeSize() && size.isAbsoluteSize() && size.getAbsoluteSize() == seventh);
+    EXPECT_TRUE(!SFontSize().isRelativeSize() && !SFontSize().isAbsoluteSize());
+    FontStretch stretch = RelativeFontStretch::Wider;
+    EXPECT_TRUE(stretch.isRelativeStretch() && !stretch.isAbsoluteStretch());
+    stretch = seven;
+    EXPECT_TRUE(!stretch.isRelativeStretch() && stretch.isAbsoluteStretch() && stretch.getAbsoluteStretch() == seven);
+    EXPECT_EQ(stretch.getRelativeStretch(), RelativeFontStretch::Wider) << "stays";
+}
+
 TEST(BackgroundPosition, KeepsThePercentageAlone) {
     expectPrints<BackgroundPosition>(seven, {{u"left", "left"},
                                              {u"top", "left"},

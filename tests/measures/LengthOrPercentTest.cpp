@@ -34,9 +34,9 @@ TEST(LengthOrPercent, ReadsPercentageBareNumberAndLength) {
                   {u"", "refused"},     {u"%", "refused"},     {u".", "refused"},      {u"+.", "refused"},
                   {u"+%", "refused"},   {u"auto", "refused"},  {u"Normal", "refused"}, {u" 1pt", "refused"},
                   {u"1e39", "refused"}, {u"12pt ", "refused"}, {u"1 2pt", "refused"}});
-    auto const measure = parsed<LengthOrPercent>(u"7%");
-    EXPECT_EQ(measure->getPercent(), 7 * 0.01f) << "a product of floats";
-    EXPECT_EQ(parsed<FloatOrPercent>(u"7%")->getValue(), static_cast<float>(7 / 100.0));
+    auto const measure = parsed<LengthOrPercent>(u"5%");
+    EXPECT_EQ(measure->getPercent(), 5 * 0.01f) << "a product of floats";
+    EXPECT_EQ(parsed<FloatOrPercent>(u"5%")->getValue(), 0.05f);
 }
 
 TEST(LengthOrPercent, BareNumbersFollowTheConfiguration) {
@@ -127,6 +127,10 @@ TEST(AutoOrMeasure, EachTypeHasItsOwnWayToBeAutomatic) {
     EXPECT_EQ(size.getLengthOrPercent().getPercent(), 0.5f) << "the measure stays";
     EXPECT_TRUE(size == LengthOrPercentAuto()) << "whatever the measure";
     EXPECT_FALSE(Margin() == Margin(LengthOrPercent()));
+    size.setAuto(false);
+    EXPECT_TRUE(size == LengthOrPercentAuto(LengthOrPercent(0.5f)));
+    EXPECT_EQ(LengthOrPercent(0.5f).getKind(), LengthOrPercent::KindPercent);
+    EXPECT_EQ(LengthOrPercent().getKind(), LengthOrPercent::KindLength);
 
     TXmlAttribute<LeaderPatternWidth> width;
     EXPECT_TRUE(width.isEqual(u"use-font-metrics"));
@@ -186,8 +190,11 @@ TEST(ContentLength, ComparesOneWay) {
     EXPECT_EQ(TXmlAttribute<ContentLength>(static_cast<ContentScaleMode>(5)).getValueAsString(), u"");
     EXPECT_EQ(ContentLength(ContentScaleMode::ScaleToFit).pxSize(10), 0);
     EXPECT_EQ(parsed<ContentLength>(u"50%")->pxSize(10), 5);
-    EXPECT_TRUE(parsed<ContentLength>(u"auto")->isNull());
-    EXPECT_FALSE(parsed<ContentLength>(u"1px")->isNull());
+    ContentLength length = *parsed<ContentLength>(u"1px");
+    EXPECT_TRUE(length.isLengthOrPercent() && !length.isNull());
+    length.setNull(true);
+    EXPECT_TRUE(length.isLengthOrPercent() && length.isNull());
+    EXPECT_TRUE(!ContentLength().isLengthOrPercent() && ContentLength().isNull());
 }
 
 } // namespace

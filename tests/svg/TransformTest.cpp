@@ -1,6 +1,7 @@
 #include "xmlattr/svg/Transform.h"
 
 #include "Support.h"
+#include "xmlattr/core/Text.h"
 
 namespace Xml {
 namespace {
@@ -57,6 +58,17 @@ TEST(TransformList, Appends) {
     TXmlAttribute<List> list;
     EXPECT_TRUE(!list.isEqual(u"") && list.parseValue(u"scale(2)") && list.parseValue(u"scale(3) x"));
     EXPECT_TRUE(list == List({{2, 2}, {3, 3}}) && list != List({{2, 2}}) && list.getValueAsString().empty());
+}
+
+TEST(Transform, ComparesEachArgument) {
+    for (std::u16string const text : {u"matrix(1 2 3 4 5 6)", u"translate(1 2)", u"scale(1 2)", u"rotate(1 2 3)"})
+        for (std::size_t i = 0; i < text.size(); ++i) {
+            if (!Core::isDigit(text[i])) continue;
+            std::u16string other = text;
+            other[i] = u'7';
+            EXPECT_FALSE(Transform::readTransform(text) == Transform::readTransform(other)) << narrow(other);
+            EXPECT_TRUE(Transform::readTransform(other) == Transform::readTransform(other)) << narrow(other);
+        }
 }
 
 TEST(Transform, ComparesWhatItsTypeMeans) {

@@ -1,4 +1,5 @@
 #include "CheckDocument.h"
+#include "checking/VerdictCache.h"
 
 #include <gtest/gtest.h>
 
@@ -45,6 +46,27 @@ TEST(Checker, CountsEachAttributeInOneClass) {
         EXPECT_EQ(classesOf(outcome.counts), row.classes) << row.document;
         EXPECT_EQ(outcome.attributes, row.refused) << row.document;
     }
+}
+
+TEST(VerdictCache, AsksOnceForEachShortText) {
+    using namespace Xml;
+    VerdictCache cache;
+    int asked = 0;
+    auto const asks = [&](CatalogueEntry const& entry, Notation notation, std::string const& text, Verdict verdict) {
+        int const before = asked;
+        EXPECT_EQ(cache.find(entry, notation, text, [&] { return ++asked, verdict; }), verdict) << text;
+        return asked > before;
+    };
+    for (std::size_t length = 0; length <= 26; ++length)
+        for (char const last : {'a', 'b'})
+            for (char const* const attribute : {"fill", "stroke"})
+                for (Notation const notation : {Notation::Attribute, Notation::Declaration}) {
+                    CatalogueEntry const& entry = *Catalogue::find(Vocabulary::Svg, "g", attribute);
+                    std::string const text = std::string(length, 'x') + last;
+                    EXPECT_TRUE(asks(entry, notation, text, Verdict::Refused)) << text;
+                    EXPECT_TRUE(asks(entry, notation, text, Verdict::Read)) << "again after a fault: " << text;
+                    EXPECT_EQ(asks(entry, notation, text, Verdict::Read), text.size() > 24) << text;
+                }
 }
 
 TEST(Checker, ReadsStyleAsCss) {
@@ -202,6 +224,10 @@ TEST(Checker, RefusesNoTextOfWhichAPartIsNotRead) {
           Row{"<!DOCTYPE svg PUBLIC 'p' 'x.dtd'>" + svg + "style='fill:&w;;stroke:q'/>", 2, ""},
           Row{"<!DOCTYPE svg [<!ENTITY % p ''>%p;]>" + svg + "width='q&w;' height='&lt;'/>", 1, "height "},
           Row{dtd + svg + "width='&q;' height='&i;' x='&q;&w;' y='1&w;'/>", 2, "width "},
+          Row{"<!DOCTYPE x:t SYSTEM 'x.dtd'><x:t xmlns:x='http://www.w3.org/1999/XSL/Transform' "
+              "xmlns:f='http://www.w3.org/1999/XSL/Format'><f:block><x:attribute name='span'>al&w;</x:attribute>"
+              "</f:block></x:t>",
+              0, ""},
           Row{dtd + svg + "width='q' stroke='&lt;' fill=''/>", 0, "width stroke fill "},
           Row{"<!DOCTYPE svg SYSTEM 'x.dtd' [<!ENTITY e '<g fill=\"&w;\"/>'>]>" + svg + ">&e;</svg>", 1, ""}}) {
         Outcome const outcome = checkDocument(row.document);

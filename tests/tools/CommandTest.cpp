@@ -139,11 +139,19 @@ TEST(Command, GathersFiles) {
     std::filesystem::remove_all(scratch);
     std::filesystem::create_directories(scratch + "/tree/below");
     std::string const fault = "<block xmlns='http://www.w3.org/1999/XSL/Format' span='al'/>";
-    for (char const* const name : {"tree/b.fo", "tree/a.SVG", "tree/below/c.xml", "tree/d.txt"}) write(name, fault);
+    for (char const* const name : {"a.SVG", "b.fo", "below/c.xml", "d.txt", "e.xsl", "f.Xslt", "g.svgz"})
+        write("tree/"s + name, fault);
     Result const result = run("check -q " + scratch + "/tree");
-    EXPECT_EQ(placesIn(result.output, ""s + "/tree/a.SVG") + placesIn(result.output, "/b.fo") +
-                  placesIn(result.output, "/c.xml") + placesIn(result.output, "/d.txt"),
-              "1:50 1:50 1:50 ");
+    std::string const name = scratch + "/tree/", place = ":1:50: ";
+    std::string rest = result.output;
+    for (char const* const file : {"a.SVG", "b.fo", "below/c.xml", "e.xsl", "f.Xslt", "g.svgz"}) {
+        EXPECT_EQ(rest.find(name + file + place), 0u) << file << " before " << rest;
+        rest.erase(0, rest.find('\n') + 1);
+    }
+    EXPECT_EQ(rest, "");
+    EXPECT_EQ(run("check -q " + scratch + "/tree/b.fo " XMLATTR_SAMPLES "/letter.fo").code, 1) << "of a file before";
+    std::string const spellings = " " + scratch + "/tree/./b.fo " + scratch + "/tree/below/../b.fo";
+    EXPECT_NE(run("check " + scratch + "/tree/b.fo" + spellings).errors.find("1 file: "), std::string::npos);
     EXPECT_EQ(run("check - --stdin-name in.fo <" + scratch + "/tree/b.fo").output.find("in.fo:1:50: "), 0u);
     std::string const list = write("list", scratch + "/tree/b.fo\r\n\n");
     EXPECT_NE(run("check --files-from " + list).errors.find("1 file: 1 attribute;"), std::string::npos);
@@ -171,7 +179,8 @@ TEST(Command, ShowsListsAndExplains) {
           Row{"show Length 12", "near        \"12pt\" is accepted\n", 1},
           Row{"show Lenght 1pt", "", 2},
           Row{"show Length", "", 2},
-          Row{"show --format json Break page", "\"accepted\":true,\"held\":\"page\"", 0},
+          Row{"show --format json Break page --equal page",
+              "\"held\":\"page\",\"parts\":[{\"name\":\"number\",\"value\":\"3\"}],\"equal\":true}", 0},
           Row{"show --format json Brake page", "{\"severity\":\"fatal\",\"id\":\"unknown-type\",\"message\":\"no value",
               2},
           Row{"types --format json nonsense", "{\"severity\":\"fatal\",\"id\":\"no-match\",", 2},
@@ -187,6 +196,9 @@ TEST(Command, ShowsListsAndExplains) {
           Row{"properties --type color COLOR", "fo   *       background-color ", 0},
           Row{"properties --vocabulary svg --type Core::String", "svg  *       font-family ", 0},
           Row{"properties margin-top --format json", "\"alsoLegal\":[\"auto\"],\"initial\":\"0pt\"", 0},
+          Row{"properties --format json border-top --vocabulary fo",
+              "\"longhands\":[\"border-top-width\",\"border-top-style\",\"border-top-color\"]}\n", 0},
+          Row{"properties --format json flood-color --vocabulary svg", "\"presentation\":true,\"grammar\":\"", 0},
           Row{"properties nonsense", "", 2},
           Row{"--explain bad-value", "bad-value\n\n", 0},
           Row{"--explain dangling-reference", "dangling-reference\n\n", 0},
@@ -404,6 +416,11 @@ TEST(Command, ShowsWhatItWouldFixAsPatchTakesIt) {
         inFolder(XMLATTR_COMMAND " fix -q -o out "s + quoted);
         EXPECT_EQ(contentOf(scratch + "/" + name), content);
         EXPECT_EQ(inFolder(XMLATTR_COMMAND " fix -q -n "s + quoted + " >diff"), 0);
+        EXPECT_EQ(inFolder("diff -a -U3 " + quoted + " out/" + quoted +
+                           " | grep -a '^@@' >hunks; "
+                           "grep -a '^@@' diff | cmp -s - hunks"),
+                  0)
+            << contentOf(scratch + "/diff");
         EXPECT_EQ(inFolder("patch -s -p0 <diff"), 0) << contentOf(scratch + "/diff");
         EXPECT_EQ(contentOf(scratch + "/" + name), contentOf(scratch + "/out/" + name)) << contentOf(scratch + "/diff");
         EXPECT_NE(contentOf(scratch + "/" + name), content);

@@ -113,6 +113,8 @@ TEST(Fix, WritesEachValueOfAnAnimation) {
     Outcome const outcome =
         fixDocument("<svg><animate attributeName='d' values='M0&#32;0l.5.5;M0 0; M1-1l.1.1 ;q'/></svg>");
     EXPECT_EQ(outcome.document, "<svg><animate attributeName='d' values='M0&#32;0l.5 .5;M0 0; M1-1l.1 .1 ;q'/></svg>");
+    std::string const comma = "<svg><animate attributeName='r' values='1,5px'/></svg>";
+    EXPECT_EQ(fixDocument(comma).document, comma) << "it may be meant for a semicolon";
 }
 
 TEST(Fix, TellsWhatItLeaves) {

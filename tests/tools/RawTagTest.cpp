@@ -67,7 +67,10 @@ TEST(RawTag, DecodesEachEncoding) {
     EXPECT_EQ(decode("\0<\xD8\x3D\xDE\0"sv, ByteEncoding::Utf16Big), U"<\U0001F600");
     EXPECT_EQ(decode("<\0\x3D\xD8\0\xDE"sv, ByteEncoding::Utf16Little), U"<\U0001F600");
     EXPECT_EQ(decode("<\xE9\x80", ByteEncoding::Latin1), U"<é\u0080");
-    EXPECT_EQ(decode("<\xE9\x80\x9F", ByteEncoding::Windows1252), U"<é€Ÿ");
+    EXPECT_EQ(decode("\x80\x82\x83\x84\x85\x86\x87\x88\x89\x8A\x8B\x8C\x8E\x91\x92\x93\x94\x95\x96\x97\x98\x99\x9A"
+                     "\x9B\x9C\x9E\x9F\xE9",
+                     ByteEncoding::Windows1252),
+              U"€‚ƒ„…†‡ˆ‰Š‹ŒŽ‘’“”•–—˜™š›œžŸé");
     int open = 0;
     for (int byte = 0; byte < 256; ++byte) open += windows1252(static_cast<unsigned char>(byte)) < 0;
     EXPECT_EQ(open, 5);

@@ -46,29 +46,36 @@ Finding findingOf(std::string const& text) {
     return finding;
 }
 
-// All the texts as findings, and as failures, in a report.
-std::string reportOf(std::string_view format) {
+// A report of so many findings, which `tell` tells.
+template <class Tell> std::string reportOf(std::string_view format, std::uint64_t findings, Tell tell) {
     std::filesystem::create_directories(folder);
     std::string const path = (folder / "report").string();
     ReportFile out(path);
-    auto const row = std::ranges::find(reportFormats(), format, &ReportFormat::word);
-    auto const reporter = row->make(out, {.isQuiet = true});
+    auto const reporter = std::ranges::find(reportFormats(), format, &ReportFormat::word)->make(out, {.isQuiet = true});
+    tell(*reporter);
     Counts counts;
-    for (std::string const& text : texts) {
-        reporter->finding(file, findingOf(text));
-        reporter->failure(file, {"malformed", text, Place{1, 2}});
-    }
-    reporter->group({findingOf(texts[0]), 3, {{file, {1, 1}}, {file, {2, 1}}}});
-    counts.warnings = std::size(texts) + 3;
-    reporter->finish(counts, counts.warnings);
+    counts.warnings = findings;
+    reporter->finish(counts, findings);
     out.complete();
-    std::string const report = contentOf(path);
+    std::string report = contentOf(path);
     std::filesystem::remove_all(folder);
     return report;
 }
 
+// All the texts as findings, and as failures.
+std::string reportOf(std::string_view format) {
+    return reportOf(format, std::size(texts) + 3, [](Reporter& reporter) {
+        for (std::string const& text : texts) {
+            reporter.finding(file, findingOf(text));
+            reporter.failure(file, {"malformed", text, Place{1, 2}});
+        }
+        reporter.group({findingOf(texts[0]), 3, {{file, {1, 1}}, {file, {2, 1}}}});
+    });
+}
+
 TEST(Report, ControlsHaveNumbers) {
     EXPECT_EQ(printable("\x1F \x7F\xC2\x80\xC2\x9F\xC2\xA0"), "\\u{1f} \\u{7f}\\u{80}\\u{9f}\xC2\xA0");
+    EXPECT_EQ(printable(std::string_view("\xC2\x80", 1)), "\xC2") << "nothing after the end is looked at";
     std::string const eighty = std::string(79, 'x') + "\u00E9";
     EXPECT_EQ(printable(eighty), eighty);
     EXPECT_EQ(printable(eighty + "\u00E9"), eighty + "...");
@@ -112,6 +119,45 @@ TEST(Report, JsonKeepsEveryText) {
     EXPECT_EQ(count, 2 * std::size(texts) + 1);
 }
 
+TEST(Report, JsonNamesEachFieldOfAFinding) {
+    std::pair<char const*, std::string Finding::*> const fields[] = {
+        {"element", &Finding::element},   {"attribute", &Finding::attribute}, {"text", &Finding::text},
+        {"part", &Finding::part},         {"problem", &Finding::problem},     {"held", &Finding::held},
+        {"expected", &Finding::expected}, {"newer", &Finding::newer},         {"replacement", &Finding::replacement}};
+    Finding finding;
+    finding.place = {7, 8};
+    for (auto const& [name, field] : fields) finding.*field = name;
+    Json object = Json::parse(reportOf("json", 1, [&](Reporter& reporter) { reporter.finding("file", finding); }));
+    Json expected = {{"file", "file"},      {"line", 7},         {"column", 8},
+                     {"severity", "error"}, {"id", "bad-value"}, {"message", finding.message()},
+                     {"exact", false}};
+    for (auto const& [name, field] : fields) expected[name] = name;
+    EXPECT_EQ(object.size(), expected.size());
+    for (auto const& [name, value] : expected.items()) EXPECT_EQ(object[name], value) << name;
+}
+
+TEST(Report, EachFormatTellsHowGraveAFindingIs) {
+    for (FaultKind const& kind : faultKinds()) {
+        bool const isError = kind.id == "bad-value", isNote = kind.id == "passed-over" || kind.id == "not-covered";
+        std::string const word = isError ? "error" : isNote ? "note" : "warning";
+        Finding finding = findingOf("q");
+        finding.fault = kind.fault;
+        auto const report = [&](std::string_view format) {
+            return reportOf(format, 1, [&](Reporter& reporter) { reporter.finding("a", finding); });
+        };
+        EXPECT_EQ(report("text").find("a:1:1: " + word + ": "), 0u) << report("text");
+        std::string const color = isError ? "1;31" : isNote ? "1;36" : "1;35";
+        EXPECT_EQ(findingLine("a", finding, true).find("\x1b[1ma:1:1:\x1b[0m \x1b[" + color + "m" + word), 0u);
+        EXPECT_EQ(report("github").find("::" + (isNote ? "notice" : word) + " file=a,"), 0u) << report("github");
+        EXPECT_EQ(Json::parse(report("json"))["severity"], word);
+        Json const sarif = Json::parse(report("sarif"))["runs"][0];
+        EXPECT_EQ(sarif["results"][0]["level"], word);
+        std::size_t const rule = sarif["results"][0]["ruleIndex"];
+        EXPECT_EQ(sarif["tool"]["driver"]["rules"][rule]["id"], kind.id);
+        EXPECT_NE(report("html").find("<article id='f0' data-severity='" + word + "'"), std::string::npos) << kind.id;
+    }
+}
+
 TEST(Report, SarifKeepsEveryText) {
     Json const run = Json::parse(reportOf("sarif"))["runs"][0];
     Json const& results = run["results"];
@@ -119,30 +165,30 @@ TEST(Report, SarifKeepsEveryText) {
     for (std::size_t i = 0; i < std::size(texts); ++i) {
         Json const& place = results[i]["locations"][0]["physicalLocation"];
         EXPECT_EQ(place["artifactLocation"]["uri"], "./a%FF%FE%3Cb%3E:,%25%0A%22.svg");
-        EXPECT_EQ(place["region"]["snippet"]["text"], texts[i]);
-        EXPECT_EQ(run["invocations"][0]["toolExecutionNotifications"][i]["message"]["text"], texts[i]);
+        Json expected = {{"startLine", 1}, {"startColumn", 1}, {"endLine", 1}, {"endColumn", 2}};
+        expected["snippet"]["text"] = texts[i];
+        EXPECT_EQ(place["region"], expected);
+        Json const& notification = run["invocations"][0]["toolExecutionNotifications"][i];
+        EXPECT_EQ(notification["message"]["text"], texts[i]);
+        EXPECT_EQ(notification["level"], "error");
     }
     EXPECT_EQ(results.back()["occurrenceCount"], 3);
     EXPECT_FALSE(results.back().contains("baselineState"));
 }
 
 TEST(Report, SarifTellsFindingsApart) {
-    std::filesystem::create_directories(folder);
-    ReportFile out((folder / "report").string());
-    auto const reporter =
-        std::ranges::find(reportFormats(), "sarif", &ReportFormat::word)->make(out, {.isQuiet = true});
     Finding moved = findingOf("a");
     moved.place = moved.source.begin = {7, 1};
-    for (auto const& [name, finding] :
-         {std::pair{"x.svg", findingOf("a")}, {"x.svg", findingOf("b")}, {"x.svg", findingOf("a")}, {"y.svg", moved}})
-        reporter->finding(name, finding);
-    reporter->finish({}, 4);
-    out.complete();
+    Json const report = Json::parse(reportOf("sarif", 4, [&](Reporter& reporter) {
+        for (auto const& [name, finding] : {std::pair{"x.svg", findingOf("a")},
+                                            {"x.svg", findingOf("b")},
+                                            {"x.svg", findingOf("a")},
+                                            {"y.svg", moved}})
+            reporter.finding(name, finding);
+    }));
     std::vector<std::string> prints;
-    Json const report = Json::parse(contentOf(folder / "report"));
     for (Json const& result : report["runs"][0]["results"])
         prints.push_back(result["partialFingerprints"]["findingHash/v1"].get<std::string>());
-    std::filesystem::remove_all(folder);
     ASSERT_EQ(prints.size(), 4);
     EXPECT_EQ(prints[0], prints[3]) << "elsewhere";
     EXPECT_EQ(std::set(prints.begin(), prints.end()).size(), 3) << "twice in a file";
@@ -174,6 +220,7 @@ TEST(Report, HtmlHasNoMarkupFromDocuments) {
         EXPECT_EQ(count(text), 0) << text;
     EXPECT_TRUE(std::ranges::none_of(page, [](char c) { return c >= 0 && c < ' ' && c != '\n' && c != '\t'; }));
     EXPECT_GT(count("\\u{202e}"), 0);
+    EXPECT_EQ(count("<p>Shown: ") + count(" came after the first "), 0) << "all are told";
     EXPECT_EQ(count(" and 3 more</summary>"), 1) << "one finding, and three in a group";
 }
 

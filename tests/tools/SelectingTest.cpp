@@ -84,8 +84,8 @@ TEST(Baseline, KnowsFindingsAsOftenAsItHasThem) {
     EXPECT_TRUE(known.take(document, twice));
     EXPECT_TRUE(known.take(scratch + "/base/./docs/../docs/a.svg", twice));
     EXPECT_FALSE(known.take(document, twice)) << "the third time";
-    EXPECT_TRUE(known.take(document, once));
     EXPECT_FALSE(known.take(document, alike));
+    EXPECT_TRUE(known.take(document, once));
     EXPECT_FALSE(known.take(scratch + "/base/c.svg", twice));
     EXPECT_EQ(known.gone(), std::vector({"b.svg: d=\"M0\" on path [misread]"s})) << "whose file is not there";
     known.finish(document);
@@ -134,6 +134,8 @@ TEST(Groups, PutEqualFindingsTogether) {
         << result.output;
     EXPECT_NE(result.errors.find("\n2 distinct findings; the most frequent 4 times: width=\"broad\""),
               std::string::npos);
+    std::string const other = write("group/c.svg", svg + "<rect width='broad' height='broad'/></svg>");
+    EXPECT_EQ(std::ranges::count(run("check --group " + other).output, '\n'), 2) << "of two attributes";
     EXPECT_NE(run("check --group --format json " + first).output.find("\"count\":2,\"places\":[{\"file\":\""),
               std::string::npos);
 }
@@ -202,15 +204,53 @@ TEST(Configuration, HoldsForTheDocumentsBelow) {
         EXPECT_EQ(std::ranges::count(result.output, '\n'), row.findings) << row.document << " " << row.options;
         EXPECT_EQ(result.code, row.code) << row.document << " " << row.options;
     }
-    write("run/xmlattr.toml", "quiet = true\nmax-findings = 1\njobs = 2\nformat = 'json'\nbaseline = 'known.json'\n");
-    std::string const document = write("run/a.svg", fault);
-    EXPECT_EQ(run("check --write-baseline " + scratch + "/run/known.json " + document).code, 0)
+    // Nor do the documents of one run take each other's.
+    std::string together, apart;
+    for (char const* const document : {"tree/own/deep/a.svg", "tree/a.svg", "tree/old/deep/a.svg", "tree/own/a.svg"}) {
+        together += " " + scratch + "/" + document;
+        apart += run("check " + scratch + "/" + document).output;
+    }
+    EXPECT_EQ(run("check" + together).output, apart);
+    write("new/xmlattr.toml", "baseline = 'known.json'\n");
+    EXPECT_EQ(run("check --write-baseline " + scratch + "/new/known.json " + write("new/a.svg", fault)).code, 0)
         << "it is not there yet";
-    write("run/known.json", "{\"baseline\":1,\"documents\":{}}");
-    Result const result = run("check " + document);
-    EXPECT_EQ(result.output.find("{\"file\":"), 0u);
-    EXPECT_EQ(std::ranges::count(result.output, '\n'), 1);
-    EXPECT_EQ(result.errors, "");
+}
+
+TEST(Configuration, SaysWhatOptionsSayUnlessTheyDo) {
+    std::string const document =
+        write("keys/a.svg", svg + "<g nope='' fill='inherit' x='1' paint-order='fill'/>"
+                                  "<rect width='broad'/><rect width='broad'/><path d='M1 1l.5.5'/></svg>");
+    std::string const known = scratch + "/keys/known.json", empty = write("keys/empty.json", "");
+    run("check --write-baseline " + empty + " " + write("keys/sound.svg", svg + "</svg>"));
+    run("check --only misread --write-baseline " + known + " " + document);
+    auto const told = [&](std::string const& options, std::string const& configuration) {
+        write("keys/xmlattr.toml", configuration);
+        Result const result = run("check " + options + " " + document);
+        return result.output + result.errors + std::to_string(result.code);
+    };
+    struct Row {
+        char const* key;
+        std::string option, otherOption = "";
+    };
+    for (Row const& row :
+         {Row{"strict = true", "--strict"}, Row{"strict = false", "", "--strict"},
+          Row{"ignore = ['misread', 'attribute:width']", "--ignore misread,attribute:width"},
+          Row{"only = ['misread', 'element:rect']", "--only misread --only element:rect"},
+          Row{"show = 'passed-over'", "--show passed-over"},
+          Row{"show = ['not-covered', 'passed-over']", "--show passed-over,not-covered"},
+          Row{"show = 'unknown'", "--show unknown"}, Row{"format = 'json'", "--format json", "--format github"},
+          Row{"color = 'always'", "--color always", "--color never"},
+          Row{"baseline = 'known.json'", "--baseline " + known, "--baseline " + empty}, Row{"group = true", "--group"},
+          Row{"quiet = true", "-q"}, Row{"max-findings = 1", "--max-findings 1", "--max-findings 2"}}) {
+        EXPECT_EQ(told("", row.key), told(row.option, "")) << row.key;
+        if (!row.option.empty()) {
+            EXPECT_NE(told("", row.key), told("", "")) << row.key;
+        }
+        if (!row.otherOption.empty()) {
+            EXPECT_EQ(told(row.otherOption, row.key), told(row.otherOption, "")) << row.key;
+        }
+    }
+    EXPECT_EQ(told("--show passed-over", "show = 'unknown'"), told("--show passed-over,unknown", "")) << "both";
 }
 
 } // namespace

@@ -27,6 +27,7 @@ TEST(NewerRecommendation, NamesIt) {
              Row{u"1.5rem", "CSS 3", "CSS 3"},
              Row{u"10px 50vw", "CSS 3", "CSS 3"},
              Row{u"4Q", "CSS 3", "CSS 3"},
+             Row{u"'' 4Q", "CSS 3", "CSS 3"},
              Row{u".25turn", "CSS 3", "CSS 3"},
              Row{u"calc(100% - 2px)", "CSS 3", "CSS 3"},
              Row{u"var(--accent, red)", "CSS 3", "CSS 3"},

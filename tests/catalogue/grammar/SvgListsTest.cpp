@@ -156,6 +156,29 @@ TEST(SvgPathDataGrammar, KnowsPlainTexts) {
     EXPECT_GT(plain, 1000);
 }
 
+// Against values of other texts.
+TEST(SvgPathDataGrammar, TellsWhatIsHeldOtherwise) {
+    struct Row {
+        char16_t const *text, *held;
+        char const* says;
+    };
+    for (Row const& row : {Row{u"M1 1L2 2", u"M1 1l2 2", "M1 1[L]2 2: l"}, Row{u"M1 1h2", u"M1 1v2", "M1 1[h]2: v"},
+                           Row{u"M1 1h2", u"M1 1", "M1 1[h]2: nothing"}, Row{u"M1 1", u"M1 1h2", "M1 1[]: h"},
+                           Row{u"M1 1q1 2 3 4", u"M1 1q1 5 3 4", "M1 1q1 [2] 3 4: 5"},
+                           Row{u"M1 1a1 2 3 0 1 4 5", u"M1 1a1 2 6 0 1 4 5", "M1 1a1 2 [3] 0 1 4 5: 6"},
+                           Row{u"M1 1a1 2 3 0 1 4 5", u"M1 1a1 2 3 1 1 4 5", "M1 1a1 2 3 [0] 1 4 5: 1"},
+                           Row{u"M1 1a1 2 3 0 1 4 5", u"M1 1a1 2 3 0 0 4 5", "M1 1a1 2 3 0 [1] 4 5: 0"}}) {
+        Path held;
+        AttributeTraits<Path>::parse(held, row.held);
+        std::u16string_view const text = row.text;
+        SvgReading const reading = compare(text, held);
+        std::string const says = narrow(text.substr(0, reading.offset)) + '[' +
+                                 narrow(text.substr(reading.offset, reading.length)) + ']' +
+                                 narrow(text.substr(reading.offset + reading.length)) + ": " + reading.held;
+        EXPECT_EQ(says, row.says) << narrow(row.held);
+    }
+}
+
 TEST(SvgPointsGrammar, TellsWhatTheValueTypeReadsOtherwise) {
     points.expect({
         {u"", "same"},
