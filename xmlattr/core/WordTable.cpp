@@ -18,11 +18,16 @@ template <Case rule, class Unit>
 template <Case rule, class Unit>
 std::size_t search(PackedWord const* words, Unit const* letters, std::uint16_t const* firstRows,
                    std::basic_string_view<Unit> text, std::uint64_t factor) {
-    std::size_t const row = firstRows[detail::slotOf(detail::markOf<rule>(text), factor)];
+    detail::Groups const groups(text.data(), text.size());
+    std::size_t const row = firstRows[detail::slotOf(detail::markOf<rule>(groups), factor)];
     PackedWord const word = words[row];
     if (word.lengthAndNext != text.size())
         return word.next() == 0 ? noWord : searchFrom<rule>(row, words, letters, text);
-    return detail::isWord<rule>(letters + word.start, text.size(), text) ? row : noWord;
+    Unit const* const listed = letters + word.start;
+    if (detail::Groups(listed, text.size()) == groups &&
+        (text.size() <= detail::Groups::mostLetters || std::equal(text.begin(), text.end(), listed)))
+        return row; // first, since most are written as they are listed
+    return rule == Case::Any && detail::isWord<rule>(listed, text.size(), text) ? row : noWord;
 }
 
 } // namespace

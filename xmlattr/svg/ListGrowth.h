@@ -20,7 +20,7 @@ void growList(Core::Vector<T>& list, std::ptrdiff_t taken, std::ptrdiff_t total)
         list.reserve(static_cast<std::size_t>(std::min<std::ptrdiff_t>(total / usual + 1, 16)));
         return;
     }
-    std::size_t const least = size + size / 4 + 1, most = 4 * size;
+    std::size_t const least = size + size / 4 + 1, most = 8 * size;
     double const suggested =
         static_cast<double>(size) * static_cast<double>(total) / static_cast<double>(taken + usual);
     list.reserve(suggested < static_cast<double>(most) ? (std::max)(least, static_cast<std::size_t>(suggested * 1.0625))
