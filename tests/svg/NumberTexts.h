@@ -28,10 +28,27 @@ public:
 
     // A number, which one of the separators precedes unless there are none, or a "-" separates too.
     void addNumber(std::initializer_list<std::u16string_view> separators, bool minusSeparates = false) {
-        static constexpr std::u16string_view numbers[] = {
-            u"0",   u"7",      u"42",      u"-3",       u"-0",      u"1.5",       u"-12.25",          u".5",
-            u"-.75", u"0.1",    u"00099.5", u"16777217", u"9.99999", u"-1234.5678", u"123456789012345", u"3.0000001",
-            u"+8",  u"1000000", u"0.000001", u"1234567890123456", u"1.000000059604644775390625"};
+        static constexpr std::u16string_view numbers[] = {u"0",
+                                                          u"7",
+                                                          u"42",
+                                                          u"-3",
+                                                          u"-0",
+                                                          u"1.5",
+                                                          u"-12.25",
+                                                          u".5",
+                                                          u"-.75",
+                                                          u"0.1",
+                                                          u"00099.5",
+                                                          u"16777217",
+                                                          u"9.99999",
+                                                          u"-1234.5678",
+                                                          u"123456789012345",
+                                                          u"3.0000001",
+                                                          u"+8",
+                                                          u"1000000",
+                                                          u"0.000001",
+                                                          u"1234567890123456",
+                                                          u"1.000000059604644775390625"};
         std::u16string_view number = numbers[below(std::size(numbers))];
         if (separators.size() > 0) {
             bool const needsNone = minusSeparates && number[0] == u'-' && below(2) == 0;

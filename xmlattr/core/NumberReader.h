@@ -80,7 +80,8 @@ template <class End> inline char16_t const* scanPlain(char16_t const* unit, End 
     }
     if (digits - 1 >= exactDigits) return nullptr; // none, or too many
     // The quotient of two exact doubles: rounded once, and far within the range of a float.
-    double const scaled = static_cast<double>(static_cast<std::int64_t>(mantissa)) / signedPowersOfTen[negative][decimals];
+    double const scaled =
+        static_cast<double>(static_cast<std::int64_t>(mantissa)) / signedPowersOfTen[negative][decimals];
     if (isHalfwayBetweenFloats(scaled)) return nullptr;
     value = static_cast<float>(scaled);
     return unit;

@@ -106,7 +106,8 @@ constexpr bool isWord(Unit const* word, std::size_t length, std::basic_string_vi
 // of a letter matter, so that the groups hardly overlap.
 template <Case rule> constexpr std::uint64_t markOf(Groups const& groups) {
     constexpr std::uint64_t lowerCase = rule == Case::Any ? fourUnits(u"    ") : 0;
-    return (groups.start | lowerCase) ^ std::rotl(groups.middle | lowerCase, 21) ^ std::rotl(groups.end | lowerCase, 42);
+    return (groups.start | lowerCase) ^ std::rotl(groups.middle | lowerCase, 21) ^
+           std::rotl(groups.end | lowerCase, 42);
 }
 
 // The slot of a mark. The low six bits of the factor say how far its product is shifted.
@@ -154,8 +155,8 @@ struct WordIndex : PackedWords<Value, Unit, count, letterCount> {
     template <class Rows> consteval explicit WordIndex(Rows const& rows) : WordIndex::PackedWords(rows) {
         std::uint64_t marks[count]{};
         for (std::size_t i = 0; i < count; ++i)
-            marks[i] = areNumbers ? numberOf(rows[i].word)
-                                  : markOf<rule>(Groups(rows[i].word.data(), rows[i].word.size()));
+            marks[i] =
+                areNumbers ? numberOf(rows[i].word) : markOf<rule>(Groups(rows[i].word.data(), rows[i].word.size()));
         std::uint64_t random = 0;
         std::size_t fewest = count;
         for (int i = 0; i < mostTries && fewest > 0; ++i) {

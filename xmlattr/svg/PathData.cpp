@@ -18,7 +18,7 @@ namespace {
 enum class Role : std::uint8_t {
     Other, // belongs to the number
     Digit,
-    Exponent,  // "e": belongs to it too
+    Exponent, // "e": belongs to it too
     // From here on, what ends a plain number.
     Sign,      // ends it, unless it is its sign or that of its exponent
     Ends,      // a separator or a command
@@ -74,9 +74,8 @@ struct Targets {
 constexpr auto targetsOf = [] {
     using C = PathDataCommand;
     std::array<Targets, PathCommandKind::ArcTo + 1> all{};
-    for (PathCommandKind const kind :
-         {PathCommandKind::MoveTo, PathCommandKind::LineTo, PathCommandKind::SmoothQuadraticCurveTo,
-          PathCommandKind::ArcTo})
+    for (PathCommandKind const kind : {PathCommandKind::MoveTo, PathCommandKind::LineTo,
+                                       PathCommandKind::SmoothQuadraticCurveTo, PathCommandKind::ArcTo})
         all[kind] = {2, {&C::x, &C::y}};
     all[PathCommandKind::HorizontalLineTo] = {1, {&C::x}};
     all[PathCommandKind::VerticalLineTo] = {1, {&C::y}};
@@ -116,7 +115,7 @@ public:
             added.relative = command.relative;
             if (command.kind == PathCommandKind::ArcTo) at = readArc(at, added);
             Targets const& numbers = targetsOf[command.kind];
-            for (Target const* target = numbers.targets.data(), *const last = target + numbers.count; target != last;
+            for (Target const *target = numbers.targets.data(), *const last = target + numbers.count; target != last;
                  ++target)
                 at = readLength(at, added.*(*target));
         }

@@ -98,7 +98,8 @@ char16_t const* readPlain(Transform& transform, char16_t const* at) {
     for (bool isLast = false; !isLast; ++count) {
         ++at;
         while (Core::isSpace(*at)) ++at;
-        if (count == form.most || !(at = Core::scanPlain(at, std::unreachable_sentinel, numbers[count]))) return nullptr;
+        if (count == form.most || !(at = Core::scanPlain(at, std::unreachable_sentinel, numbers[count])))
+            return nullptr;
         isLast = *at == u')';
         if (!isLast && !ends(*at)) return nullptr;
     }
