@@ -59,10 +59,18 @@ TEST(WordTable, EveryTableFindsWhatLookingAtEveryRowFinds) {
     checkTable<languageTags, Case::Any>("languageTags");
 }
 
-// Words that agree in all that their marks look at, and one that is the start of another.
-constexpr WordRow<int> twins[] = {
-    {u"aXbbbbbbbbbbbbbbbb", 1}, {u"aXbbXbbbbbbbbbbbbb", 2}, {u"aXbbbXbbbbbbbbbbbb", 3}, {u"aX", 4}, {u"", 5},
-    {u"aXbbbbbbbbbXbbbbbb", 6}, {u"AxBBBBBBBBBBBBBBBB", 7}};
+// Words that agree in all that their marks look at, in all groups that are compared, and one that is the start of
+// another.
+constexpr WordRow<int> twins[] = {{u"aXbbbbbbbbbbbbbbbb", 1},
+                                  {u"aXbbXbbbbbbbbbbbbb", 2},
+                                  {u"aXbbbXbbbbbbbbbbbb", 3},
+                                  {u"aX", 4},
+                                  {u"", 5},
+                                  {u"aXbbbbbbbbbXbbbbbb", 6},
+                                  {u"AxBBBBBBBBBBBBBBBB", 7},
+                                  {u"aXbbbbbbbbbbbbbbbbbbbbbbbb", 8},
+                                  {u"aXbbXbbbbbbbbbbbbbbbbbbbbb", 9},
+                                  {u"aXbbbbbbbXbbbbbbbbbbbbbbbb", 10}};
 constexpr WordRow<int, char> shortWords[] = {{"q", 1}, {"em", 2}, {"rem", 3}, {"Q", 4}};
 
 TEST(WordTable, TellsWordsApartThatLookAlike) {
@@ -73,7 +81,7 @@ TEST(WordTable, TellsWordsApartThatLookAlike) {
     EXPECT_EQ(WordTable<twins>::findStart(u"aXc"), 4);
     EXPECT_FALSE((WordTable<shortWords>::findStart("r")));
     EXPECT_EQ(WordTable<twins>::word(WordTable<twins>::findValue(6)), u"aXbbbbbbbbbXbbbbbb");
-    EXPECT_EQ(WordTable<twins>::findValue(8), noWord);
+    EXPECT_EQ(WordTable<twins>::findValue(11), noWord);
 }
 
 } // namespace

@@ -15,6 +15,16 @@ template <Case rule, class Unit>
     return row;
 }
 
+// Compares two more groups of four letters, between those of detail::Groups. Together they are all of a word of up to
+// twenty letters, so that its length, which cannot be predicted, needs no branch.
+constexpr std::size_t mostInGroups = 20;
+template <class Unit> bool hasSameQuarters(Unit const* word, Unit const* text, std::size_t size) {
+    if (size <= detail::longestNumber) return true;
+    std::size_t const quarter = (size - 4) / 4;
+    auto const differences = [&](std::size_t at) { return fourUnits(word + at) ^ fourUnits(text + at); };
+    return (differences(quarter) | differences(size - 4 - quarter)) == 0;
+}
+
 template <Case rule, class Unit>
 std::size_t search(PackedWord const* words, Unit const* letters, std::uint16_t const* firstRows,
                    std::basic_string_view<Unit> text, std::uint64_t factor) {
@@ -24,8 +34,8 @@ std::size_t search(PackedWord const* words, Unit const* letters, std::uint16_t c
     if (word.lengthAndNext != text.size())
         return word.next() == 0 ? noWord : searchFrom<rule>(row, words, letters, text);
     Unit const* const listed = letters + word.start;
-    if (detail::Groups(listed, text.size()) == groups &&
-        (text.size() <= detail::Groups::mostLetters || std::equal(text.begin(), text.end(), listed)))
+    if (detail::Groups(listed, text.size()) == groups && hasSameQuarters(listed, text.data(), text.size()) &&
+        (text.size() <= mostInGroups || std::equal(text.begin(), text.end(), listed)))
         return row; // first, since most are written as they are listed
     return rule == Case::Any && detail::isWord<rule>(listed, text.size(), text) ? row : noWord;
 }

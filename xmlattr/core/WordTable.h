@@ -72,11 +72,8 @@ template <class Unit> constexpr std::uint64_t numberOf(std::basic_string_view<Un
     return number;
 }
 
-// Groups of four letters from the start, the middle and the end of a word, which are all of it when it has no more
-// than twelve. A word of fewer than four is the first group.
+// Groups of four letters from the start, the middle and the end of a word. A word of fewer than four is the first.
 struct Groups {
-    static constexpr std::size_t mostLetters = 12;
-
     std::uint64_t start, middle = 0, end = 0;
 
     template <class Unit> constexpr Groups(Unit const* letters, std::size_t size) {
