@@ -59,7 +59,8 @@ TEST(TransformList, PlainNumbersAreReadLikeAllOthers) {
         Testing::NumberTexts texts(seed);
         for (std::size_t transforms = 1 + texts.below(3); transforms > 0; --transforms) {
             texts.add(transformWords[texts.below(std::size(transformWords))].word);
-            texts.add(u"(");
+            texts.plain += u'(';
+            texts.roundabout += u" (";
             std::size_t const most = texts.below(8);
             for (std::size_t i = 0; i < most; ++i)
                 i == 0 ? texts.addNumber({}) : texts.addNumber({u" ", u",", u", ", u"\n"});

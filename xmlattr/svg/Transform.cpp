@@ -86,10 +86,20 @@ template <class End> std::size_t takeName(char16_t const*& at, End end) {
     return Words::indexOf({name, static_cast<std::size_t>(at - name)});
 }
 
-// The same for a transform of a list whose arguments are all plain numbers, as they nearly always are, each followed by
-// one delimiter and white space. Null where the reference has to tell; then nothing has changed. No look at the end of
-// the text is needed, since its last unit is the ")" of this transform or of a later one.
-char16_t const* readPlain(Transform& transform, char16_t const* at) {
+// A number that is the whole argument at `at`, of which no look at the end of the text is needed. One that ends with a
+// digit is the same whatever reads it. Gives the place after it; null for every other argument.
+char16_t const* readNumber(char16_t const* at, float& number) {
+    char16_t const* after = Core::scanPlain(at, std::unreachable_sentinel, number);
+    if (after && ends(*after)) return after;
+    after = std::ranges::find_if(at, std::unreachable_sentinel, ends);
+    std::u16string_view const token(at, static_cast<std::size_t>(after - at));
+    return Core::isDigit(after[-1]) && Core::Format::parseFloat(token, number) ? after : nullptr;
+}
+
+// Reads a transform of a list whose arguments are all such numbers, as they nearly always are, into an identity, and
+// gives the place of its ")". Null where the reference has to tell; then nothing has changed. The last unit of the text
+// is the ")" of this transform or of a later one.
+char16_t const* readNumbers(Transform& transform, char16_t const* at) {
     std::size_t const row = takeName(at, std::unreachable_sentinel);
     if (row == Core::noWord || *at != u'(') return nullptr;
     TransformArguments const form = Words::value(row);
@@ -98,10 +108,8 @@ char16_t const* readPlain(Transform& transform, char16_t const* at) {
     for (bool isLast = false; !isLast; ++count) {
         ++at;
         while (Core::isSpace(*at)) ++at;
-        if (count == form.most || !(at = Core::scanPlain(at, std::unreachable_sentinel, numbers[count])))
-            return nullptr;
+        if (count == form.most || !(at = readNumber(at, numbers[count]))) return nullptr;
         isLast = *at == u')';
-        if (!isLast && !ends(*at)) return nullptr;
     }
     if (count < form.least) return nullptr;
 
@@ -205,7 +213,7 @@ bool AttributeTraits<Core::Vector<Transform>>::parse(Core::Vector<Transform>& va
         if (at == end) return true;
         if (value.size() == value.capacity()) growList<24>(value, at - begin, end - begin);
         Transform& transform = value.emplace_back(SLength(), SLength());
-        if (char16_t const* const after = readPlain(transform, at)) {
+        if (char16_t const* const after = readNumbers(transform, at)) {
             at = after;
         } else if (!read(transform, at, end, true)) {
             transform = Transform();
