@@ -72,16 +72,15 @@ struct Targets {
 };
 
 constexpr auto targetsOf = [] {
+    using namespace PathCommandKinds;
     using C = PathDataCommand;
-    std::array<Targets, PathCommandKind::ArcTo + 1> all{};
-    for (PathCommandKind const kind : {PathCommandKind::MoveTo, PathCommandKind::LineTo,
-                                       PathCommandKind::SmoothQuadraticCurveTo, PathCommandKind::ArcTo})
-        all[kind] = {2, {&C::x, &C::y}};
-    all[PathCommandKind::HorizontalLineTo] = {1, {&C::x}};
-    all[PathCommandKind::VerticalLineTo] = {1, {&C::y}};
-    all[PathCommandKind::CurveTo] = {6, {&C::x1, &C::y1, &C::x2, &C::y2, &C::x, &C::y}};
-    all[PathCommandKind::SmoothCurveTo] = {4, {&C::x2, &C::y2, &C::x, &C::y}};
-    all[PathCommandKind::QuadraticCurveTo] = {4, {&C::x1, &C::y1, &C::x, &C::y}};
+    std::array<Targets, ArcTo + 1> all{};
+    all[MoveTo] = all[LineTo] = all[SmoothQuadraticCurveTo] = all[ArcTo] = {2, {&C::x, &C::y}};
+    all[HorizontalLineTo] = {1, {&C::x}};
+    all[VerticalLineTo] = {1, {&C::y}};
+    all[CurveTo] = {6, {&C::x1, &C::y1, &C::x2, &C::y2, &C::x, &C::y}};
+    all[SmoothCurveTo] = {4, {&C::x2, &C::y2, &C::x, &C::y}};
+    all[QuadraticCurveTo] = {4, {&C::x1, &C::y1, &C::x, &C::y}};
     return all;
 }();
 

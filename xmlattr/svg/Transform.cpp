@@ -91,7 +91,7 @@ template <class End> std::size_t takeName(char16_t const*& at, End end) {
 char16_t const* readNumber(char16_t const* at, float& number) {
     char16_t const* after = Core::scanPlain(at, std::unreachable_sentinel, number);
     if (after && ends(*after)) return after;
-    after = std::ranges::find_if(at, std::unreachable_sentinel, ends);
+    for (after = at; !ends(*after);) ++after;
     std::u16string_view const token(at, static_cast<std::size_t>(after - at));
     return Core::isDigit(after[-1]) && Core::Format::parseFloat(token, number) ? after : nullptr;
 }
