@@ -20,9 +20,9 @@ template <Case rule, class Unit>
 constexpr std::size_t mostInGroups = 20;
 template <class Unit> bool hasSameQuarters(Unit const* word, Unit const* text, std::size_t size) {
     if (size <= detail::longestNumber) return true;
-    std::size_t const quarter = (size - 4) / 4;
+    std::size_t const middle = size / 2 - 2, end = size - 4; // where the groups stand that are the same already
     auto const differences = [&](std::size_t at) { return fourUnits(word + at) ^ fourUnits(text + at); };
-    return (differences(quarter) | differences(size - 4 - quarter)) == 0;
+    return (differences(middle / 2) | differences((middle + end) / 2)) == 0;
 }
 
 template <Case rule, class Unit>
