@@ -99,8 +99,8 @@ constexpr bool isWord(Unit const* word, std::size_t length, std::basic_string_vi
            std::equal(text.begin(), text.end(), word, [](char16_t a, char16_t b) { return toLower(a) == toLower(b); });
 }
 
-// What tells the words of a table apart: a number that few of them share, of which a product is the slot. Seven bits
-// of a letter matter, so that the groups hardly overlap.
+// A number that few words of a table share, of which a product is the slot: seven bits of each letter matter. It stays
+// within a major version, since programs have tables that are made with it.
 template <Case rule> constexpr std::uint64_t markOf(Groups const& groups) {
     constexpr std::uint64_t lowerCase = rule == Case::Any ? fourUnits(u"    ") : 0;
     return (groups.start | lowerCase) ^ std::rotl(groups.middle | lowerCase, 21) ^
