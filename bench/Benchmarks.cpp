@@ -92,7 +92,7 @@ public:
         return add("print", [this](std::size_t i) { benchmark::DoNotOptimize(values[i].getValueAsString()); });
     }
 
-    // The floor of printing, and {fmt}. What a pointer points to is of the class.
+    // The floor of printing, a string of what is printed, and {fmt}. What a pointer points to is of the class.
     template <class Class = T> Suite& printedElsewhere() {
         auto const value = [this](std::size_t i) -> Class const& {
             if constexpr (std::is_same_v<Class, T>)
@@ -105,14 +105,22 @@ public:
             benchmark::DoNotOptimize(Floors::print(buffer, value(i)));
             benchmark::ClobberMemory();
         });
+        Texts printed;
+        for (Xml::TXmlAttribute<T> const& attribute : values) printed.push_back(attribute.getValueAsString());
+        add("print-string",
+            [printed](std::size_t i) { benchmark::DoNotOptimize(Core::String(std::u16string_view(printed[i]))); });
 #ifdef XMLATTR_BENCH_FMT
         add("print-fmt", [value](std::size_t i) { benchmark::DoNotOptimize(Fmt::print(value(i))); });
 #endif
         return *this;
     }
 
+    // With the text that was read, and with the next one, which is nearly always another.
     Suite& compares() {
-        return add("isEqual", [this](std::size_t i) { benchmark::DoNotOptimize(values[i].isEqual(texts[i])); });
+        add("isEqual", [this](std::size_t i) { benchmark::DoNotOptimize(values[i].isEqual(texts[i])); });
+        return add("isEqual-other", [this](std::size_t i) {
+            benchmark::DoNotOptimize(values[i].isEqual(texts[i + 1 == texts.size() ? 0 : i + 1]));
+        });
     }
 
     template <class Floor> Suite& floor(char const* what, Floor read) {

@@ -59,21 +59,29 @@ TEST(WordTable, EveryTableFindsWhatLookingAtEveryRowFinds) {
     checkTable<languageTags, Case::Any>("languageTags");
 }
 
-// Words that agree in all that their marks look at, and one that is the start of another.
-constexpr WordRow<int> twins[] = {
-    {u"aXbbbbbbbbbb", 1}, {u"aXbXbbbbbbbb", 2}, {u"aXbbXbbbbbbb", 3}, {u"aX", 4}, {u"", 5},
-    {u"aXbbbXbbbbbb", 6}, {u"AxBBBBBBBBBB", 7}};
+// Words that agree in all that their marks look at, in all groups that are compared, and one that is the start of
+// another.
+constexpr WordRow<int> twins[] = {{u"aXbbbbbbbbbbbbbbbb", 1},
+                                  {u"aXbbXbbbbbbbbbbbbb", 2},
+                                  {u"aXbbbXbbbbbbbbbbbb", 3},
+                                  {u"aX", 4},
+                                  {u"", 5},
+                                  {u"aXbbbbbbbbbXbbbbbb", 6},
+                                  {u"AxBBBBBBBBBBBBBBBB", 7},
+                                  {u"aXbbbbbbbbbbbbbbbbbbbbbbbb", 8},
+                                  {u"aXbbXbbbbbbbbbbbbbbbbbbbbb", 9},
+                                  {u"aXbbbbbbbXbbbbbbbbbbbbbbbb", 10}};
 constexpr WordRow<int, char> shortWords[] = {{"q", 1}, {"em", 2}, {"rem", 3}, {"Q", 4}};
 
 TEST(WordTable, TellsWordsApartThatLookAlike) {
     checkTable<twins>("twins");
     checkTable<shortWords>("shortWords");
     EXPECT_FALSE((WordTable<shortWords>::find(std::string_view("\0em", 3))));
-    EXPECT_EQ(WordTable<twins>::findStart(u"aXbbbbbbbbbbc"), 1);
+    EXPECT_EQ(WordTable<twins>::findStart(u"aXbbbbbbbbbbbbbbbbc"), 1);
     EXPECT_EQ(WordTable<twins>::findStart(u"aXc"), 4);
     EXPECT_FALSE((WordTable<shortWords>::findStart("r")));
-    EXPECT_EQ(WordTable<twins>::word(WordTable<twins>::findValue(6)), u"aXbbbXbbbbbb");
-    EXPECT_EQ(WordTable<twins>::findValue(8), noWord);
+    EXPECT_EQ(WordTable<twins>::word(WordTable<twins>::findValue(6)), u"aXbbbbbbbbbXbbbbbb");
+    EXPECT_EQ(WordTable<twins>::findValue(11), noWord);
 }
 
 } // namespace

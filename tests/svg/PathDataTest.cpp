@@ -1,5 +1,6 @@
 #include "xmlattr/svg/PathData.h"
 
+#include "NumberTexts.h"
 #include "Support.h"
 
 namespace Xml {
@@ -49,6 +50,29 @@ TEST(PathData, ReadsTheSameAsWithAllItsLettersAndBlanks) {
         TXmlAttribute<Path> path(Path(3));
         EXPECT_TRUE(path.parseValue(text)) << narrow(text);
         EXPECT_TRUE(path == *parsed<Path>(same)) << narrow(text);
+    }
+}
+
+TEST(PathData, PlainNumbersAreReadLikeAllOthers) {
+    struct Command {
+        char16_t letter;
+        int numbers;
+    };
+    constexpr Command letters[] = {{u'm', 2}, {u'L', 2}, {u'h', 1}, {u'V', 1}, {u'c', 6}, {u'S', 4},
+                                   {u'q', 4}, {u'T', 2}, {u'a', 7}, {u'A', 7}, {u'z', 0}};
+    for (unsigned int seed = 1; seed < 2000; ++seed) {
+        Testing::NumberTexts texts(seed);
+        for (std::size_t commands = 1 + texts.below(5); commands > 0; --commands) {
+            Command const command = letters[texts.below(std::size(letters))];
+            texts.add({&command.letter, 1});
+            for (int i = 0; i < command.numbers; ++i) {
+                if (command.numbers == 7 && (i == 3 || i == 4))
+                    texts.add(texts.below(2) == 0 ? u" 1" : u",0");
+                else
+                    i == 0 ? texts.addNumber({}) : texts.addNumber({u" ", u",", u" , ", u"\n"}, i != 5);
+            }
+        }
+        EXPECT_TRUE(*parsed<Path>(texts.plain) == *parsed<Path>(texts.roundabout)) << narrow(texts.plain);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "xmlattr/svg/Point.h"
 
+#include "NumberTexts.h"
 #include "Support.h"
 #include "xmlattr/core/Exceptions.h"
 
@@ -17,6 +18,16 @@ TEST(PointList, ReadsPairs) {
     for (char16_t const* text : {u"-1--2 3,4", u"1,2x3,4", u"10,20,x,5", u"10,20,,30", u"10 ,20 30", u"10 20 30 ",
                                  u"1+2,3", u"1e-1,5", u"5.,1", u"1,"})
         EXPECT_FALSE(parsed<Core::Vector<Point>>(text)) << narrow(text);
+}
+
+TEST(PointList, PlainNumbersAreReadLikeAllOthers) {
+    for (unsigned int seed = 1; seed < 2000; ++seed) {
+        Testing::NumberTexts texts(seed);
+        for (std::size_t i = 0, count = 2 * texts.below(5); i < count; ++i)
+            i == 0 ? texts.addNumber({}) : texts.addNumber({u" ", u",", u", ", u"\n"}, i % 2 != 0);
+        auto const plain = parsed<Core::Vector<Point>>(texts.plain);
+        EXPECT_TRUE(plain && *plain == *parsed<Core::Vector<Point>>(texts.roundabout)) << narrow(texts.plain);
+    }
 }
 
 TEST(PointList, ARefusalKeepsTheList) {

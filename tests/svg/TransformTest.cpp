@@ -1,5 +1,6 @@
 #include "xmlattr/svg/Transform.h"
 
+#include "NumberTexts.h"
 #include "Support.h"
 #include "xmlattr/core/Text.h"
 
@@ -52,6 +53,22 @@ TEST(TransformList, ReadsArguments) {
     EXPECT_TRUE(Transform::readTransform(u"scale(2)3") == Transform(2, 3)) << "the \")\" is any delimiter here";
     Transform const skew = Transform::readTransform(u"skewY(5deg");
     EXPECT_TRUE(skew.type == TransformType::SkewY && skew.skewAngleX == 5 && skew.skewAngleY == 5 && skew.angle == 0);
+}
+
+TEST(TransformList, PlainNumbersAreReadLikeAllOthers) {
+    for (unsigned int seed = 1; seed < 2000; ++seed) {
+        Testing::NumberTexts texts(seed);
+        for (std::size_t transforms = 1 + texts.below(3); transforms > 0; --transforms) {
+            texts.add(transformWords[texts.below(std::size(transformWords))].word);
+            texts.plain += u'(';
+            texts.roundabout += u" (";
+            std::size_t const most = texts.below(8);
+            for (std::size_t i = 0; i < most; ++i)
+                i == 0 ? texts.addNumber({}) : texts.addNumber({u" ", u",", u", ", u"\n"});
+            texts.add(texts.below(4) == 0 ? u" ) x" : u")");
+        }
+        EXPECT_TRUE(parsed<List>(texts.plain) == *parsed<List>(texts.roundabout)) << narrow(texts.plain);
+    }
 }
 
 TEST(TransformList, Appends) {

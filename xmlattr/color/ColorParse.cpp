@@ -158,19 +158,31 @@ bool store(bool (*read)(ColorPtr&, std::u16string_view), Core::String const& tex
     return true;
 }
 
-// Calls use() with an object as the class that it is of; nothing happens without one, and for a class of somebody else.
+// What use() makes of an object as the class that it is of; an empty result without one, and for a class of somebody else.
 // Nearly every object is of one of the classes itself, which is seen much sooner than that it is of a derived one.
 template <class... Classes> struct OneOf {
-    template <class Base, class Use> static void visit(SmartPtr<Base> const& object, Use use) {
-        if (!object) return;
-        Base const* const base = object.get();
-        std::type_info const* const type = &typeid(*base);
-        auto const useAs = [&]<class Class>(Class const* derived) {
-            if (derived) use(*derived);
-            return derived != nullptr;
-        };
-        (... || useAs(type == &typeid(Classes) ? static_cast<Classes const*>(base) : nullptr)) ||
-            (... || useAs(dynamic_cast<Classes const*>(base)));
+    template <class Base, class Use> static auto visit(SmartPtr<Base> const& object, Use use) {
+        using Result = std::common_type_t<std::invoke_result_t<Use, Classes const&>...>;
+        return object ? visitExact<Result, Base, Use, Classes...>(*object.get(), use) : Result();
+    }
+
+private:
+    template <class Result, class Base, class Use, class Class, class... Others>
+    static Result visitExact(Base const& object, Use& use) {
+        if (&typeid(object) == &typeid(Class)) return use(static_cast<Class const&>(object));
+        if constexpr (sizeof...(Others) > 0)
+            return visitExact<Result, Base, Use, Others...>(object, use);
+        else
+            return visitDerived<Result, Base, Use, Classes...>(object, use);
+    }
+
+    template <class Result, class Base, class Use, class Class, class... Others>
+    static Result visitDerived(Base const& object, Use& use) {
+        if (auto const* const derived = dynamic_cast<Class const*>(&object)) return use(*derived);
+        if constexpr (sizeof...(Others) > 0)
+            return visitDerived<Result, Base, Use, Others...>(object, use);
+        else
+            return Result();
     }
 };
 using AnyColor = OneOf<Drawing::RGBColor, Drawing::CMYKColor, Drawing::ICCColor, Drawing::SpotColor>;
@@ -202,19 +214,18 @@ Core::String print(Drawing::ICCColor const& color) {
 // Intended: an RGB end prints as cmyk(...) without its fourth number and a CMYK end as rgb(...)
 // without its black; readers of such texts rely on it.
 Core::String print(Drawing::SpotColor const& color) {
-    Core::String text;
     auto const with = [&](auto const&... pieces) {
-        text = Core::joined(u"spot-color(", color.getColorName(), u",", color.getTint(), u",", pieces...);
+        return Core::joined(u"spot-color(", color.getColorName(), u",", color.getTint(), u",", pieces...);
     };
-    OneOf<Drawing::ExponentialSpotColorFunction>::visit(color.getFunction(), [&](auto const& function) {
-        OneOf<Drawing::RGBColor, Drawing::CMYKColor>::visit(function.getEndColor(), [&]<class End>(End const& end) {
-            if constexpr (std::is_same_v<End, Drawing::RGBColor>)
-                with(u"cmyk(", end.getR(), u",", end.getG(), u",", end.getB(), u",))");
-            else
-                with(u"rgb(", end.getC(), u",", end.getM(), u",", end.getY(), u"))");
-        });
+    return OneOf<Drawing::ExponentialSpotColorFunction>::visit(color.getFunction(), [&](auto const& function) {
+        return OneOf<Drawing::RGBColor, Drawing::CMYKColor>::visit(
+            function.getEndColor(), [&]<class End>(End const& end) {
+                if constexpr (std::is_same_v<End, Drawing::RGBColor>)
+                    return with(u"cmyk(", end.getR(), u",", end.getG(), u",", end.getB(), u",))");
+                else
+                    return with(u"rgb(", end.getC(), u",", end.getM(), u",", end.getY(), u"))");
+            });
     });
-    return text;
 }
 
 void addColor(Parts& out, unsigned char r, unsigned char g, unsigned char b) {
@@ -265,9 +276,7 @@ bool AttributeTraits<ColorPtr>::parse(ColorPtr& value, std::u16string_view text)
 }
 
 Core::String AttributeTraits<ColorPtr>::print(ColorPtr const& value) {
-    Core::String text;
-    AnyColor::visit(value, [&](auto const& color) { text = Xml::print(color); });
-    return text;
+    return AnyColor::visit(value, [](auto const& color) { return Xml::print(color); });
 }
 
 bool ColorParse::parseHexaColor(Core::String const& text, Target* target) {

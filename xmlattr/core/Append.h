@@ -8,6 +8,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <iterator>
 #include <string>
 #include <string_view>
@@ -36,11 +37,17 @@ inline constexpr auto threeDigits = [] {
     return all;
 }();
 
+// Copies code units, whose number the compiler knows and so needs no call; std::copy would call for many.
+template <std::size_t count> char16_t* writeUnits(char16_t* out, char16_t const* units) {
+    std::memcpy(out, units, count * sizeof(char16_t));
+    return out + count;
+}
+
 // Writes three code units, of which those up to the end that it gives are the number: which digits it has cannot be
 // predicted, and needs no branch here.
 inline char16_t* writeBelow1000(char16_t* out, unsigned int number) {
     ThreeDigits const& three = threeDigits[number];
-    return std::copy_n(three.digits + three.leadingZeros, 3, out) - three.leadingZeros;
+    return writeUnits<3>(out, three.digits + three.leadingZeros) - three.leadingZeros;
 }
 
 // A piece of a text: what it takes at most while it is written, in code units; and the end of what it took.
@@ -55,7 +62,7 @@ template <std::size_t size> constexpr std::size_t mostOf(char16_t const (&)[size
     return size - 1;
 }
 template <std::size_t size> char16_t* write(char16_t* out, char16_t const (&literal)[size]) {
-    return std::copy_n(literal, size - 1, out);
+    return writeUnits<size - 1>(out, literal);
 }
 
 constexpr std::size_t mostOf(unsigned char) {

@@ -54,7 +54,7 @@ Integer scanInteger(std::u16string_view text) noexcept {
 char16_t* writeWhole(char16_t* out, unsigned int number) noexcept {
     if (number < 1000) return writeBelow1000(out, number);
     out = writeWhole(out, number / 1000);
-    return std::copy_n(threeDigits[number % 1000].digits, 3, out);
+    return writeUnits<3>(out, threeDigits[number % 1000].digits);
 }
 
 // Thousandths without trailing zeros.
@@ -63,7 +63,7 @@ char16_t* writeThousandths(char16_t* out, bool isNegative, std::uint64_t thousan
     out = writeWhole(out + isNegative, static_cast<unsigned int>(thousandths / 1000));
     auto const fraction = static_cast<unsigned int>(thousandths % 1000);
     *out = u'.';
-    std::copy_n(threeDigits[fraction].digits, 3, out + 1);
+    writeUnits<3>(out + 1, threeDigits[fraction].digits);
     return fraction == 0 ? out : out + 4 - threeDigits[fraction].trailingZeros;
 }
 

@@ -4,9 +4,11 @@
 #include "xmlattr/core/Export.h"
 #include "xmlattr/core/Text.h"
 
+#include <array>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <string_view>
 
 namespace Core {
@@ -24,6 +26,13 @@ struct Decimal {
 // 10^0 to 10^22, the powers of ten that are doubles.
 inline constexpr double powersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
                                          1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+
+// The first of them and their negatives: dividing by a negative one gives the quotient its sign, a zero too.
+inline constexpr auto signedPowersOfTen = [] {
+    std::array<std::array<double, 16>, 2> powers{};
+    for (std::size_t i = 0; i < powers[0].size(); ++i) powers[1][i] = -(powers[0][i] = powersOfTen[i]);
+    return powers;
+}();
 
 // All the decimal numbers of so many digits fit into 64 bits.
 inline constexpr int maxMantissaDigits = 19;
@@ -45,8 +54,9 @@ constexpr bool isHalfwayBetweenFloats(double value) noexcept {
 // nearly every number of a long list. Gives the place after its last digit and the same
 // value as scanDecimal and toFloat give for the text up to there. Null where only those can tell
 // (no digit, a point without a digit after it, very many digits); then `value` is untouched. An
-// exponent is not looked for: the caller sees from what follows whether the number ends there.
-inline char16_t const* scanPlain(char16_t const* unit, char16_t const* end, float& value) noexcept {
+// exponent is not looked for: the caller sees from what follows whether the number ends there. The end of the text is
+// std::unreachable_sentinel where the text is known to have a code unit that ends the number: see endsEveryNumber.
+template <class End> inline char16_t const* scanPlain(char16_t const* unit, End end, float& value) noexcept {
     if (unit == end) return nullptr;
     bool const negative = *unit == u'-';
     unit += negative || *unit == u'+';
@@ -69,11 +79,22 @@ inline char16_t const* scanPlain(char16_t const* unit, char16_t const* end, floa
     }
     if (digits - 1 >= exactDigits) return nullptr; // none, or too many
     // The quotient of two exact doubles: rounded once, and far within the range of a float.
-    double const scaled = static_cast<double>(static_cast<std::int64_t>(mantissa)) / powersOfTen[decimals];
+    double const scaled =
+        static_cast<double>(static_cast<std::int64_t>(mantissa)) / signedPowersOfTen[negative][decimals];
     if (isHalfwayBetweenFloats(scaled)) return nullptr;
-    value =
-        static_cast<float>(std::bit_cast<double>(std::bit_cast<std::uint64_t>(scaled) | std::uint64_t{negative} << 63));
+    value = static_cast<float>(scaled);
     return unit;
+}
+
+// Whether no plain number has the code unit. Before the last such unit of a text, none has to look for the end.
+constexpr bool endsEveryNumber(char16_t unit) noexcept {
+    return !isDigit(unit) && unit != u'.' && unit != u'-' && unit != u'+';
+}
+
+// After the last code unit that ends every number; the start of the text when there is none.
+inline char16_t const* afterLastEnd(char16_t const* begin, char16_t const* end) noexcept {
+    while (end != begin && !endsEveryNumber(end[-1])) --end;
+    return end;
 }
 
 // Scans the longest number at the very start of the text: [sign] digits [. digits] [exponent].

@@ -7,7 +7,9 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
+#include <type_traits>
 
 namespace Core {
 
@@ -45,6 +47,15 @@ inline constexpr auto hexDigits = [] {
 // The value of a hexadecimal digit of either case, -1 for every other code unit.
 constexpr int hexDigit(char16_t unit) noexcept {
     return unit < hexDigits.size() ? hexDigits[unit] : -1;
+}
+
+// Four code units as one number, the first in its lowest bits whatever the machine: one load where the compiler sees
+// that it is the same.
+template <class Unit> constexpr std::uint64_t fourUnits(Unit const* units) noexcept {
+    auto const at = [&](std::size_t index) {
+        return std::uint64_t{static_cast<std::make_unsigned_t<Unit>>(units[index])} << 8 * sizeof(Unit) * index;
+    };
+    return at(0) | at(1) | at(2) | at(3);
 }
 
 // Folds ASCII letters only, whatever the locale.

@@ -15,14 +15,29 @@ template <Case rule, class Unit>
     return row;
 }
 
+// Compares two more groups of four letters, between those of detail::Groups. Together they are all of a word of up to
+// twenty letters, so that its length, which cannot be predicted, needs no branch.
+constexpr std::size_t mostInGroups = 20;
+template <class Unit> bool hasSameQuarters(Unit const* word, Unit const* text, std::size_t size) {
+    if (size <= detail::longestNumber) return true;
+    std::size_t const middle = size / 2 - 2, end = size - 4; // where the groups stand that are the same already
+    auto const differences = [&](std::size_t at) { return fourUnits(word + at) ^ fourUnits(text + at); };
+    return (differences(middle / 2) | differences((middle + end) / 2)) == 0;
+}
+
 template <Case rule, class Unit>
 std::size_t search(PackedWord const* words, Unit const* letters, std::uint16_t const* firstRows,
                    std::basic_string_view<Unit> text, std::uint64_t factor) {
-    std::size_t const row = firstRows[detail::slotOf(detail::markOf<rule>(text), factor)];
+    detail::Groups const groups(text.data(), text.size());
+    std::size_t const row = firstRows[detail::slotOf(detail::markOf<rule>(groups), factor)];
     PackedWord const word = words[row];
     if (word.lengthAndNext != text.size())
         return word.next() == 0 ? noWord : searchFrom<rule>(row, words, letters, text);
-    return detail::isWord<rule>(letters + word.start, text.size(), text) ? row : noWord;
+    Unit const* const listed = letters + word.start;
+    if (detail::Groups(listed, text.size()) == groups && hasSameQuarters(listed, text.data(), text.size()) &&
+        (text.size() <= mostInGroups || std::equal(text.begin(), text.end(), listed)))
+        return row; // first, since most are written as they are listed
+    return rule == Case::Any && detail::isWord<rule>(listed, text.size(), text) ? row : noWord;
 }
 
 } // namespace

@@ -64,6 +64,33 @@ XMLATTR_API std::size_t findNumber(std::int32_t const* values, std::size_t count
 
 namespace detail {
 
+// A text of up to three code units as a number, which no other text has.
+inline constexpr std::size_t longestNumber = 3;
+template <class Unit> constexpr std::uint64_t numberOf(std::basic_string_view<Unit> text) {
+    std::uint64_t number = 1;
+    for (Unit const unit : text) number = number << 16 | static_cast<char16_t>(unit);
+    return number;
+}
+
+// Groups of four letters from the start, the middle and the end of a word. A word of fewer than four is the first.
+struct Groups {
+    std::uint64_t start, middle = 0, end = 0;
+
+    template <class Unit> constexpr Groups(Unit const* letters, std::size_t size) {
+        if (size <= longestNumber) {
+            start = numberOf(std::basic_string_view<Unit>(letters, size));
+            return;
+        }
+        start = fourUnits(letters);
+        middle = fourUnits(letters + (size / 2 - 2));
+        end = fourUnits(letters + (size - 4));
+    }
+
+    constexpr bool operator==(Groups const& other) const {
+        return ((start ^ other.start) | (middle ^ other.middle) | (end ^ other.end)) == 0;
+    }
+};
+
 template <Case rule, class Unit>
 constexpr bool isWord(Unit const* word, std::size_t length, std::basic_string_view<Unit> text) {
     if (length != text.size()) return false;
@@ -72,24 +99,12 @@ constexpr bool isWord(Unit const* word, std::size_t length, std::basic_string_vi
            std::equal(text.begin(), text.end(), word, [](char16_t a, char16_t b) { return toLower(a) == toLower(b); });
 }
 
-// The length of a word and five of its letters, which stand where words that are listed together differ.
-template <Case rule, class Unit> constexpr std::uint64_t markOf(std::basic_string_view<Unit> word) {
-    std::size_t const size = word.size();
-    if (size == 0) return 0;
-    constexpr unsigned int lowerCase = rule == Case::Any ? 0x20 : 0;
-    auto const at = [&](std::size_t index) {
-        return std::uint64_t{(static_cast<char16_t>(word[index]) | lowerCase) & 0xFF};
-    };
-    return at(size > 1) << 40 | at(size / 3) << 32 | at(size * 9 / 16) << 24 | at(size * 3 / 4) << 16 |
-           at(size - 1) << 8 | (size & 0xFF);
-}
-
-// A text of up to three code units as a number, which no other text has.
-inline constexpr std::size_t longestNumber = 3;
-template <class Unit> constexpr std::uint64_t numberOf(std::basic_string_view<Unit> text) {
-    std::uint64_t number = 1;
-    for (Unit const unit : text) number = number << 16 | static_cast<char16_t>(unit);
-    return number;
+// A number that few words of a table share, of which a product is the slot: seven bits of each letter matter. It stays
+// within a major version, since programs have tables that are made with it.
+template <Case rule> constexpr std::uint64_t markOf(Groups const& groups) {
+    constexpr std::uint64_t lowerCase = rule == Case::Any ? fourUnits(u"    ") : 0;
+    return (groups.start | lowerCase) ^ std::rotl(groups.middle | lowerCase, 21) ^
+           std::rotl(groups.end | lowerCase, 42);
 }
 
 // The slot of a mark. The low six bits of the factor say how far its product is shifted.
@@ -137,7 +152,8 @@ struct WordIndex : PackedWords<Value, Unit, count, letterCount> {
     template <class Rows> consteval explicit WordIndex(Rows const& rows) : WordIndex::PackedWords(rows) {
         std::uint64_t marks[count]{};
         for (std::size_t i = 0; i < count; ++i)
-            marks[i] = areNumbers ? numberOf(rows[i].word) : markOf<rule>(rows[i].word);
+            marks[i] =
+                areNumbers ? numberOf(rows[i].word) : markOf<rule>(Groups(rows[i].word.data(), rows[i].word.size()));
         std::uint64_t random = 0;
         std::size_t fewest = count;
         for (int i = 0; i < mostTries && fewest > 0; ++i) {

@@ -2,8 +2,12 @@
 
 #include "xmlattr/core/Format.h"
 #include "xmlattr/core/NumberReader.h"
+#include "xmlattr/core/Text.h"
 
 #include <algorithm>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
 
 namespace Drawing {
 
@@ -40,43 +44,46 @@ bool readRGBComponent(std::u16string_view text, unsigned char& value) {
     return true;
 }
 
-// Takes up to three digits, with at least two code units left. How many digits there are cannot be predicted, and
-// needs no branch here.
-int takeDigits(char16_t const*& unit, char16_t const* end) {
-    int number = 0, taken = 0, isDigit = 1;
-    auto const take = [&](char16_t next) {
-        isDigit &= int{Core::isDigit(next)};
-        taken += isDigit;
-        number += isDigit * (number * 9 + next - u'0');
-    };
-    take(unit[0]);
-    take(unit[1]);
-    take(end - unit > 2 ? unit[2] : u'\0');
-    unit += taken;
-    return number;
-}
+// The number that up to three digits at the start of four code units are, and how many these are, which cannot be
+// predicted, and needs no branch here.
+struct FewDigits {
+    unsigned int number, count;
+
+    explicit FewDigits(std::uint64_t units) {
+        std::uint64_t const values = units ^ Core::fourUnits(u"0000");
+        // The highest bit of each unit that is no digit; a carry changes only those after one. The fourth counts as none.
+        std::uint64_t const others =
+            ((values + 0x7FF6'7FF6'7FF6'7FF6) | values | 0x8000'0000'0000'0000) & 0x8000'8000'8000'8000;
+        count = static_cast<unsigned int>(std::countr_zero(others)) / 16;
+        // The digits as the highest of four, times 1, 10 and 100 in the highest place.
+        number = static_cast<unsigned int>((values << 16 << (48 - 16 * count)) * 0x0000'0064'000A'0001 >> 48);
+    }
+};
 
 // Reads the components in one pass, without cutting them out first. Takes only what readRGBComponent
 // takes in the same way: few digits, which are the number whether it is read as an int or a float, or
 // a plain number directly before a "%"; then the delimiter. False when there is anything else.
 bool readPlainRGB(std::u16string_view text, unsigned char (&values)[3]) {
-    char16_t const *unit = text.data(), *const end = unit + text.size();
-    unit = std::find(unit, end, u'(');
+    if (text.size() < 5 || Core::fourUnits(text.data()) != Core::fourUnits(u"rgb(")) return false;
+    char16_t const *unit = text.data() + 4, *const end = text.data() + text.size();
     for (int i = 0; i < 3; ++i) {
-        if (unit != end) ++unit; // the delimiter before the component
         while (unit != end && Core::isSpace(*unit)) ++unit;
-        char16_t const* const start = unit;
-        if (end - unit < 2) return false;
-        int const number = takeDigits(unit, end);
-        if (unit == start || unit == end) return false;
-        char16_t const delimiter = i < 2 ? u',' : u')';
-        values[i] = static_cast<unsigned char>(number);
-        if (*unit == delimiter) continue;
-        auto percentage = static_cast<float>(number);
-        if (*unit == u'.') unit = Core::scanPlain(start, end, percentage);
-        if (!unit || end - unit < 2 || unit[0] != u'%' || unit[1] != delimiter) return false;
-        values[i] = ofPercentage(percentage);
-        ++unit;
+        // The next four units, or zeros after the last ones of the text.
+        auto const missing = std::max<std::ptrdiff_t>(4 - (end - unit), 0);
+        if (missing == 4) return false;
+        FewDigits const digits(Core::fourUnits(unit - missing) >> 16 * missing);
+        if (digits.count == 0) return false;
+        auto percentage = static_cast<float>(digits.number);
+        char16_t const* after = unit + digits.count;
+        if (after != end && *after == u'.') {
+            after = Core::scanPlain(unit, end, percentage);
+            if (!after || after == end || *after != u'%') return false;
+        }
+        if (after == end) return false;
+        bool const isPercentage = *after == u'%';
+        values[i] = isPercentage ? ofPercentage(percentage) : static_cast<unsigned char>(digits.number);
+        unit = after + isPercentage;
+        if (unit == end || *unit++ != (i < 2 ? u',' : u')')) return false;
     }
     return true;
 }

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cstddef>
+#include <iterator>
 #include <limits>
 
 namespace Xml {
@@ -17,7 +18,8 @@ namespace {
 enum class Role : std::uint8_t {
     Other, // belongs to the number
     Digit,
-    Exponent,  // "e": belongs to it too
+    Exponent, // "e": belongs to it too
+    // From here on, what ends a plain number.
     Sign,      // ends it, unless it is its sign or that of its exponent
     Ends,      // a separator or a command
     EndsBut_m, // a command, unless an "m" follows: "cm", "mm"
@@ -62,17 +64,39 @@ Unit unitOf(char16_t unit) {
     return unit < units.size() ? units[unit] : Unit{};
 }
 
+// Where the numbers of a command go, in the order in which they stand; of an arc, the last two.
+using Target = SLength PathDataCommand::*;
+struct Targets {
+    std::uint8_t count = 0;
+    std::array<Target, 6> targets{};
+};
+
+constexpr auto targetsOf = [] {
+    using namespace PathCommandKinds;
+    using C = PathDataCommand;
+    std::array<Targets, ArcTo + 1> all{};
+    all[MoveTo] = all[LineTo] = all[SmoothQuadraticCurveTo] = all[ArcTo] = {2, {&C::x, &C::y}};
+    all[HorizontalLineTo] = {1, {&C::x}};
+    all[VerticalLineTo] = {1, {&C::y}};
+    all[CurveTo] = {6, {&C::x1, &C::y1, &C::x2, &C::y2, &C::x, &C::y}};
+    all[SmoothCurveTo] = {4, {&C::x2, &C::y2, &C::x, &C::y}};
+    all[QuadraticCurveTo] = {4, {&C::x1, &C::y1, &C::x, &C::y}};
+    return all;
+}();
+
 class PathReader {
 public:
-    explicit PathReader(std::u16string_view text) : begin(text.data()), at(begin), end(begin + text.size()) {}
+    explicit PathReader(std::u16string_view text)
+        : begin(text.data()), end(begin + text.size()), lastEnd(Core::afterLastEnd(begin, end)) {}
 
     // Every round takes at least one code unit: the letter of a command or, when it is repeated
     // without its letter, the first unit of its first number, which is no separator and no letter
     // of a command and therefore ends no number.
-    Core::Vector<PathDataCommand> read() {
+    Core::Vector<PathDataCommand> read() const {
         Core::Vector<PathDataCommand> commands;
-        for (Unit current;;) {
-            skipSeparators();
+        Unit current;
+        for (char16_t const* at = begin;;) {
+            at = skipSeparators(at);
             if (at == end) break;
             Unit command = unitOf(*at);
             if (command.kind != 0) {
@@ -88,42 +112,22 @@ public:
             PathDataCommand& added = commands.emplace_back();
             added.kind = command.kind;
             added.relative = command.relative;
-            readNumbers(added);
+            if (command.kind == PathCommandKind::ArcTo) at = readArc(at, added);
+            Targets const& numbers = targetsOf[command.kind];
+            for (Target const *target = numbers.targets.data(), *const last = target + numbers.count; target != last;
+                 ++target)
+                at = readLength(at, added.*(*target));
         }
         return commands;
     }
 
 private:
-    void readNumbers(PathDataCommand& command) {
-        switch (static_cast<PathCommandKind>(command.kind)) {
-        case PathCommandKind::ClosePath: return;
-        case PathCommandKind::HorizontalLineTo: command.x = readLength(); return;
-        case PathCommandKind::VerticalLineTo: command.y = readLength(); return;
-        case PathCommandKind::CurveTo:
-            command.x1 = readLength();
-            command.y1 = readLength();
-            [[fallthrough]];
-        case PathCommandKind::SmoothCurveTo:
-            command.x2 = readLength();
-            command.y2 = readLength();
-            break;
-        case PathCommandKind::QuadraticCurveTo:
-            command.x1 = readLength();
-            command.y1 = readLength();
-            break;
-        case PathCommandKind::ArcTo:
-            command.rx = readLength();
-            command.ry = readLength();
-            command.xAxisRotation = readLength().getSize();
-            command.largeArc = readFlag();
-            command.sweep = readFlag();
-            break;
-        case PathCommandKind::MoveTo:
-        case PathCommandKind::LineTo:
-        case PathCommandKind::SmoothQuadraticCurveTo: break;
-        }
-        command.x = readLength();
-        command.y = readLength();
+    // All numbers of an arc but those of its end. Each reader gives the place after what it has read.
+    char16_t const* readArc(char16_t const* at, PathDataCommand& arc) const {
+        SLength rotation;
+        for (SLength* const length : {&arc.rx, &arc.ry, &rotation}) at = readLength(at, *length);
+        arc.xAxisRotation = rotation.getSize();
+        return readFlag(readFlag(at, arc.largeArc), arc.sweep);
     }
 
     static bool isSeparator(char16_t unit) {
@@ -131,50 +135,52 @@ private:
         return unit == u',' || Core::isSpace(unit);
     }
 
-    void skipSeparators() {
+    char16_t const* skipSeparators(char16_t const* at) const {
         while (at != end && isSeparator(*at)) ++at;
+        return at;
     }
 
     // A plain number, as nearly all are, needs no second look: none of its units ends it early, and
     // when the one after it does, the whole run is the number, which the length reader takes as
     // user units because it ends with a digit.
-    SLength readLength() {
-        skipSeparators();
-        float number = 0;
-        char16_t const* const after = Core::scanPlain(at, end, number);
-        if (after && (after == end || endsPlainNumber(after))) {
-            at = after;
-            return {number, SLength::UserUnit};
+    char16_t const* readLength(char16_t const* at, SLength& length) const {
+        at = skipSeparators(at);
+        if (at < lastEnd) {
+            float number = 0;
+            char16_t const* const after = Core::scanPlain(at, std::unreachable_sentinel, number);
+            if (after && endsPlainNumber(after)) {
+                length = SLength(number, SLength::UserUnit);
+                return after;
+            }
         }
-        SLength length;
-        AttributeTraits<SLength>::parse(length, takeRun()); // stays zero for what is no length
-        return length;
+        return readRun(at, length);
+    }
+
+    // The reference: takes the run of any number.
+    char16_t const* readRun(char16_t const* at, SLength& length) const {
+        std::u16string_view const run = runAt(at);
+        AttributeTraits<SLength>::parse(length, run); // stays zero for what is no length
+        return at + run.size();
     }
 
     // One unit, so that flags need no separators; of those, only digits are lengths.
-    bool readFlag() {
-        skipSeparators();
-        std::u16string_view const run = takeRun(1);
-        return !run.empty() && run[0] != u'0' && Core::isDigit(run[0]);
+    char16_t const* readFlag(char16_t const* at, bool& flag) const {
+        at = skipSeparators(at);
+        std::u16string_view const run = runAt(at, 1);
+        flag = !run.empty() && run[0] != u'0' && Core::isDigit(run[0]);
+        return at + run.size();
     }
 
-    // The same answer as takeRun gives after a digit that belongs to no exponent.
+    // The same answer as runAt gives after a digit that belongs to no exponent.
     bool endsPlainNumber(char16_t const* unit) const {
-        switch (unitOf(*unit).role) {
-        case Role::Sign:
-        case Role::Ends:
-        case Role::EndsBut_p: return true;
-        case Role::EndsBut_m: return unit + 1 == end || unit[1] != u'm';
-        case Role::Other:
-        case Role::Digit:
-        case Role::Exponent: return false;
-        }
-        return false;
+        Role const role = unitOf(*unit).role;
+        return role >= Role::Sign && (role != Role::EndsBut_m || unit + 1 == end || unit[1] != u'm');
     }
 
     // The code units of one number.
-    std::u16string_view takeRun(std::ptrdiff_t limit = std::numeric_limits<std::ptrdiff_t>::max()) {
-        char16_t const* const start = at;
+    std::u16string_view runAt(char16_t const* const start,
+                              std::ptrdiff_t limit = std::numeric_limits<std::ptrdiff_t>::max()) const {
+        char16_t const* at = start;
         bool hasDigit = false, hasExponent = false;
         auto const next = [&] { return at + 1 != end ? at[1] : u'\0'; };
         auto const ends = [&] {
@@ -194,8 +200,8 @@ private:
     }
 
     char16_t const* begin;
-    char16_t const* at;
     char16_t const* end;
+    char16_t const* lastEnd; // up to here, plain numbers end before the text does
 };
 
 // A pair of coordinates.

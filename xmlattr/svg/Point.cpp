@@ -8,6 +8,7 @@
 #include "xmlattr/svg/ListGrowth.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace Xml {
 
@@ -24,13 +25,15 @@ void skipSpace(char16_t const*& at, char16_t const* end) {
 // Reads the coordinate at `at` and moves past it; false when it is no SVG length. A plain number,
 // as nearly all are, needs no second look: none of its units ends it early, and when the one after
 // it does, the whole is what the length reader takes as user units because it ends with a digit.
-bool readCoordinate(char16_t const*& at, char16_t const* end, SLength& out) {
-    float number = 0;
-    char16_t const* const after = Core::scanPlain(at, end, number);
-    if (after && (after == end || endsCoordinate(*after))) {
-        at = after;
-        out = SLength(number, SLength::UserUnit);
-        return true;
+bool readCoordinate(char16_t const*& at, char16_t const* lastEnd, char16_t const* end, SLength& out) {
+    if (at < lastEnd) {
+        float number = 0;
+        char16_t const* const after = Core::scanPlain(at, std::unreachable_sentinel, number);
+        if (after && endsCoordinate(*after)) {
+            at = after;
+            out = SLength(number, SLength::UserUnit);
+            return true;
+        }
     }
     char16_t const* const start = at;
     if (at != end && *at == u'-') ++at;
@@ -51,15 +54,15 @@ Core::String Point::getPointListValueAsString(Core::Vector<Point>& list) {
 bool AttributeTraits<Core::Vector<Point>>::parse(Core::Vector<Point>& value, std::u16string_view text) {
     Core::Vector<Point> points;
     char16_t const* at = text.data();
-    char16_t const *const begin = at, *const end = at + text.size();
+    char16_t const *const begin = at, *const end = at + text.size(), *const lastEnd = Core::afterLastEnd(begin, end);
     while (at != end) {
         skipSpace(at, end);
         Point point;
-        bool const hasX = readCoordinate(at, end, point.x);
+        bool const hasX = readCoordinate(at, lastEnd, end, point.x);
         if (at == end) break;
         if (*at == u',') ++at;
         skipSpace(at, end);
-        if (!readCoordinate(at, end, point.y) || !hasX) return false;
+        if (!readCoordinate(at, lastEnd, end, point.y) || !hasX) return false;
         if (points.size() == points.capacity()) growList<12>(points, at - begin, end - begin);
         points.push_back(point);
         if (at != end) ++at;

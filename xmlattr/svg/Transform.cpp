@@ -8,6 +8,7 @@
 #include "xmlattr/svg/ListGrowth.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace Xml {
 
@@ -76,7 +77,66 @@ bool store(Transform& transform, int index, Argument const& argument) {
     throw Core::UnreacheableCodeException("TransformListAttribute", __LINE__);
 }
 
-// Reads one transform into an identity and moves `at` no further than to its ")" when it stands in a
+using Words = Core::WordTable<transformWords>;
+
+// The function whose name stands at `at`, which moves after it, or noWord.
+template <class End> std::size_t takeName(char16_t const*& at, End end) {
+    char16_t const* const name = at;
+    while (at != end && Core::isLetter(*at)) ++at;
+    return Words::indexOf({name, static_cast<std::size_t>(at - name)});
+}
+
+// A number that is the whole argument at `at`, of which no look at the end of the text is needed. One that ends with a
+// digit is the same whatever reads it. Gives the place after it; null for every other argument.
+char16_t const* readNumber(char16_t const* at, float& number) {
+    char16_t const* after = Core::scanPlain(at, std::unreachable_sentinel, number);
+    if (after && ends(*after)) return after;
+    for (after = at; !ends(*after);) ++after;
+    std::u16string_view const token(at, static_cast<std::size_t>(after - at));
+    return Core::isDigit(after[-1]) && Core::Format::parseFloat(token, number) ? after : nullptr;
+}
+
+// Reads a transform of a list whose arguments are all such numbers, as they nearly always are, into an identity, and
+// gives the place of its ")". Null where the reference has to tell; then nothing has changed. The last unit of the text
+// is the ")" of this transform or of a later one.
+char16_t const* readNumbers(Transform& transform, char16_t const* at) {
+    std::size_t const row = takeName(at, std::unreachable_sentinel);
+    if (row == Core::noWord || *at != u'(') return nullptr;
+    TransformArguments const form = Words::value(row);
+    float numbers[6];
+    int count = 0;
+    for (bool isLast = false; !isLast; ++count) {
+        ++at;
+        while (Core::isSpace(*at)) ++at;
+        if (count == form.most || !(at = readNumber(at, numbers[count]))) return nullptr;
+        isLast = *at == u')';
+    }
+    if (count < form.least) return nullptr;
+
+    transform.type = form.type;
+    auto const length = [&](int index) { return SLength(index < count ? numbers[index] : 0, SLength::UserUnit); };
+    switch (form.type) {
+    case TransformType::Matrix: std::copy(numbers, numbers + 6, transform.matrix); return at;
+    case TransformType::Translate:
+        transform.tx = length(0);
+        transform.ty = length(1);
+        return at;
+    case TransformType::Scale:
+        transform.sx = numbers[0];
+        transform.sy = numbers[count - 1];
+        return at;
+    case TransformType::Rotate:
+        transform.angle = numbers[0];
+        transform.cx = length(1);
+        transform.cy = length(2);
+        return at;
+    case TransformType::SkewX:
+    case TransformType::SkewY: transform.skewAngleX = transform.skewAngleY = numbers[0]; return at;
+    }
+    throw Core::UnreacheableCodeException("TransformListAttribute", __LINE__);
+}
+
+// The reference: reads one transform into an identity and moves `at` no further than to its ")" when it stands in a
 // list, to the end when it stands alone. False when there is none; then `transform` may hold parts
 // of one.
 bool read(Transform& transform, char16_t const*& at, char16_t const* end, bool inList) {
@@ -86,12 +146,9 @@ bool read(Transform& transform, char16_t const*& at, char16_t const* end, bool i
     auto const atEnd = [&] { return at == end || (inList && *at == u')'); };
 
     skipSpace();
-    char16_t const* const wordEnd = std::find_if_not(at, end, Core::isLetter);
-    using Words = Core::WordTable<transformWords>;
-    std::size_t const row = Words::indexOf({at, static_cast<std::size_t>(wordEnd - at)});
+    std::size_t const row = takeName(at, end);
     if (row == Core::noWord) return false;
     TransformArguments const form = Words::value(row);
-    at = wordEnd;
     skipSpace();
     if (at == end || *at != u'(') return false;
     ++at;
@@ -148,22 +205,20 @@ Transform Transform::readTransform(Core::String const& text) {
 }
 
 bool AttributeTraits<Core::Vector<Transform>>::parse(Core::Vector<Transform>& value, std::u16string_view text) {
+    std::size_t const size = text.rfind(u')') + 1; // what follows the last ")" is dropped
     char16_t const* at = text.data();
-    char16_t const *const begin = at, *const end = at + text.size();
-    for (;;) {
+    char16_t const *const begin = at, *const end = at + size;
+    for (;; ++at) {
         while (at != end && (*at == u',' || Core::isSpace(*at))) ++at;
         if (at == end) return true;
         if (value.size() == value.capacity()) growList<24>(value, at - begin, end - begin);
         Transform& transform = value.emplace_back(SLength(), SLength());
-        if (!read(transform, at, end, true)) {
+        if (char16_t const* const after = readNumbers(transform, at)) {
+            at = after;
+        } else if (!read(transform, at, end, true)) {
             transform = Transform();
             at = std::find(at, end, u')');
         }
-        if (at == end) {
-            value.pop_back();
-            return true;
-        }
-        ++at;
     }
 }
 
