@@ -5,8 +5,13 @@
 
 namespace {
 
+struct Fixed {
+    std::string document;
+    Command::FixCounts counts;
+};
+
 // What becomes of the document; nothing where it is malformed.
-std::optional<std::string> fixed(std::string_view document, bool takesSuggestions) {
+std::optional<Fixed> fix(std::string_view document, bool takesSuggestions) {
     Command::MemorySource checked(document), copied(document);
     Command::Versions versions;
     Command::Rewriter rewriter(copied, versions);
@@ -17,7 +22,8 @@ std::optional<std::string> fixed(std::string_view document, bool takesSuggestion
     fixer.finish();
     rewriter.finish();
     require(versions.before == document, "bytes besides the edits are lost");
-    return versions.after;
+    require(rewriter.hasEdits() == !fixer.counts().fixed.empty(), "a finding is fixed without an edit");
+    return Fixed{versions.after, fixer.counts()};
 }
 
 } // namespace
@@ -25,11 +31,12 @@ std::optional<std::string> fixed(std::string_view document, bool takesSuggestion
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
     std::string_view const document(reinterpret_cast<char const*>(data), size);
     for (bool const takesSuggestions : {false, true}) {
-        auto const once = fixed(document, takesSuggestions);
+        auto const once = fix(document, takesSuggestions);
         if (!once) return 0;
-        auto const twice = fixed(*once, takesSuggestions);
+        auto const twice = fix(once->document, takesSuggestions);
         require(twice.has_value(), "the fixed document is malformed");
-        require(*twice == *once, "to fix a fixed document changes it");
+        require(twice->document == once->document, "to fix a fixed document changes it");
+        require(twice->counts.fixed.empty(), "something was left that can be fixed");
     }
     return 0;
 }

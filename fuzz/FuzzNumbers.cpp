@@ -1,12 +1,15 @@
-// The readers and writers of the core against the standard library. The first bytes are a float and a
-// double to write, the rest is the text, a byte for a code unit.
+// The readers and writers of the core against the standard library. Of the text, a byte is a code unit.
+#include "Heads.h"
 #include "xmlattr/attributes/ParseUtil.h"
+#include "xmlattr/core/Append.h"
 #include "xmlattr/core/DateTimeEx.h"
 #include "xmlattr/core/Format.h"
 #include "xmlattr/core/NumberReader.h"
 #include "xmlattr/core/StringFormatStream.h"
+#include "xmlattr/drawing/ColorText.h"
 
 #include <algorithm>
+#include <array>
 #include <cfloat>
 #include <charconv>
 #include <climits>
@@ -124,6 +127,10 @@ template <class T> void writeNumber(T value) {
     expected.erase(expected.find_last_not_of('0') + 1);
     if (expected.ends_with('.')) expected.pop_back();
     REQUIRE(Core::Format::toMeasure(value, u"pt").toUtf8() == (expected == "-0" ? "0" : expected) + "pt");
+    std::array<char16_t, Core::longestMeasure> fast, reference;
+    Core::Measure const measure{value};
+    REQUIRE(std::u16string_view(fast.data(), Core::write(fast.data(), measure)) ==
+            std::u16string_view(reference.data(), Core::writeReference(reference.data(), measure)));
 }
 
 // A date that is read prints its own day, but for the end of a day, which is the next one.
@@ -138,6 +145,16 @@ void readDate(std::string const& bytes, Core::String const& text) {
     REQUIRE(Core::DateTimeEx::parseXmlDateEx(date.toDateString(1), again) && again.toDateString(1).toUtf8() == printed);
 }
 
+void readColor(Core::String const& text) {
+    Core::SmartPtr<Drawing::Color> fast, reference;
+    bool const isRead = Drawing::readRGB(fast, text);
+    REQUIRE(Drawing::readRGBReference(reference, text) == isRead);
+    if (!isRead) return;
+    auto const &a = dynamic_cast<Drawing::RGBColor const&>(*fast),
+               &b = dynamic_cast<Drawing::RGBColor const&>(*reference);
+    REQUIRE(a.getR() == b.getR() && a.getG() == b.getG() && a.getB() == b.getB());
+}
+
 void scan(std::string const& bytes, Core::String const& text) {
     Core::String const utf16 = Core::String::fromUtf8(bytes);
     Core::String const once = Core::String::fromUtf8(utf16.toUtf8());
@@ -149,31 +166,52 @@ void scan(std::string const& bytes, Core::String const& text) {
         REQUIRE(index > before && index <= text.length());
     }
     Core::StringFormatStream stream(text);
-    stream << 1 << 2.5f << text;
-    REQUIRE(stream.getString().length() >= 0);
+    stream << 1 << 2.5f << 2.5 << text;
+    REQUIRE(bytes.find('{') != bytes.npos || stream.getString() == text);
     Core::Vector<Core::String> const pieces = text.split(u", ");
     REQUIRE(std::ranges::none_of(pieces, [](Core::String const& piece) { return piece.empty(); }));
     REQUIRE(text.trim().compareNoCase(text.toLower().trim()) == 0);
 }
 
+// Words are what stands between blanks, whoever looks for them.
+void readWords(std::string const& bytes, Core::String const& text) {
+    Core::Vector<Core::String> const words = text.split(u" \t\n\v\f\r\u00A0");
+    std::size_t count = 0;
+    for (int index = 0, at = 0; index < text.length();) {
+        Core::String const word = Xml::ParseUtil::extractWord(text, index);
+        Xml::ParseUtil::skipWhiteSpace(text, at);
+        int const start = at;
+        Xml::ParseUtil::skipNonWhiteSpace(text, at);
+        REQUIRE(index == at && word == text.subString(start, at - start));
+        REQUIRE(word.empty() ? count == words.size() : count < words.size() && word == words[count++]);
+    }
+    REQUIRE(count == words.size());
+    if (words.empty()) return;
+    Core::String const& last = words.back();
+    REQUIRE(text.trimEnd().endsIn(last) && text.rFind(last) + last.length() == text.trimEnd().length());
+    for (int i = 0; i < text.length(); ++i) {
+        char const byte = bytes[static_cast<std::size_t>(i)];
+        REQUIRE(Core::String::isSpace(text[i]) == isBlank(byte) && Core::String::isDigit(text[i]) == isDigit(byte));
+    }
+    REQUIRE((text.compare(last) < 0) == (std::u16string_view(text) < std::u16string_view(last)));
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
-    float single = 0;
-    double twice = 0;
-    if (size < sizeof single + sizeof twice) return 0;
-    std::memcpy(&single, data, sizeof single);
-    std::memcpy(&twice, data + sizeof single, sizeof twice);
+    if (size < Heads::Numbers::size) return 0;
+    auto const [single, twice] = Heads::Numbers::ofBytes(data);
     writeNumber(single);
     writeNumber(twice);
 
-    std::string const bytes(reinterpret_cast<char const*>(data) + sizeof single + sizeof twice,
-                            size - sizeof single - sizeof twice);
+    std::string const bytes(reinterpret_cast<char const*>(data) + Heads::Numbers::size, size - Heads::Numbers::size);
     std::u16string units;
     for (char const byte : bytes) units += static_cast<unsigned char>(byte);
     Core::String const text{std::move(units)};
     readNumbers(bytes, text);
     readDate(bytes, text);
+    readColor(text);
     scan(bytes, text);
+    readWords(bytes, text);
     return 0;
 }

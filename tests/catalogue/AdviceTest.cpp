@@ -43,6 +43,7 @@ TEST(Advice, WritesWhatIsMisreadAnotherWay) {
     expectAdvice({
         {Svg, "path", "d", u"M0 0a.5.5 0 1 1 1 1", Misread, "0", "M0 0a.5 .5 0 1 1 1 1", true},
         {Svg, "path", "d", u"m1,1l2-3", Read, "", ""},
+        {Svg, "path", "d", u"M1e39 0", Misread, "0", ""},
         {Svg, "path", "d", u"\n M0 0l.5.5 ", Misread, "0", "\n M0 0l.5 .5 ", true},
         {Svg, "g", "transform", u"translate(-1-1)", Misread, "no transform", "translate(-1 -1)", true},
         {Svg, "polygon", "points", u"0,0 1-1", Read, "", ""},

@@ -14,7 +14,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cfloat>
 #include <charconv>
+#include <cmath>
 #include <iterator>
 #include <utility>
 #include <vector>
@@ -65,7 +67,8 @@ std::u16string withPlainNumber(std::u16string_view text) {
     if (!hasPoint && rest.starts_with(u'.') && (rest.size() == 1 || !Core::isDigit(rest[1]))) cursor.take(u'.');
     bool const hasExponent = digits.find_first_of(u"eE") != std::u16string_view::npos;
     std::u16string plain(digits);
-    if (hasExponent) {
+    // One that is too large for a float was read as the largest.
+    if (hasExponent && std::abs(number) < FLT_MAX) {
         std::array<char, 128> written; // the largest floats have 39 digits, the smallest 45 zeros before theirs
         char* const first = written.data();
         plain.assign(first, std::to_chars(first, first + written.size(), number, std::chars_format::fixed).ptr);
