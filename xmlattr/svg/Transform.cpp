@@ -77,13 +77,13 @@ bool store(Transform& transform, int index, Argument const& argument) {
     throw Core::UnreacheableCodeException("TransformListAttribute", __LINE__);
 }
 
-using Words = Core::WordTable<transformWords>;
+using FunctionNames = Core::WordTable<transformWords>;
 
 // The function whose name stands at `at`, which moves after it, or noWord.
 template <class End> std::size_t takeName(char16_t const*& at, End end) {
     char16_t const* const name = at;
     while (at != end && Core::isLetter(*at)) ++at;
-    return Words::indexOf({name, static_cast<std::size_t>(at - name)});
+    return FunctionNames::indexOf({name, static_cast<std::size_t>(at - name)});
 }
 
 // A number that is the whole argument at `at`, of which no look at the end of the text is needed. One that ends with a
@@ -102,7 +102,7 @@ char16_t const* readNumber(char16_t const* at, float& number) {
 char16_t const* readNumbers(Transform& transform, char16_t const* at) {
     std::size_t const row = takeName(at, std::unreachable_sentinel);
     if (row == Core::noWord || *at != u'(') return nullptr;
-    TransformArguments const form = Words::value(row);
+    TransformArguments const form = FunctionNames::value(row);
     float numbers[6];
     int count = 0;
     for (bool isLast = false; !isLast; ++count) {
@@ -148,7 +148,7 @@ bool read(Transform& transform, char16_t const*& at, char16_t const* end, bool i
     skipSpace();
     std::size_t const row = takeName(at, end);
     if (row == Core::noWord) return false;
-    TransformArguments const form = Words::value(row);
+    TransformArguments const form = FunctionNames::value(row);
     skipSpace();
     if (at == end || *at != u'(') return false;
     ++at;
