@@ -50,6 +50,7 @@ TEST(Advice, WritesWhatIsMisreadAnotherWay) {
         {Svg, "svg", "viewBox", u" 0,0,9,9", Misread, "", " 0 0 9 9", true},
         {Svg, "rect", "fill", u"rgb(300,-1,0)", Misread, "rgb(44,255,0)", "rgb(255,0,0)", true},
         {Svg, "rect", "fill", u"url('#u')", Misread, "url(#u')", "url(#u)", true},
+        {Svg, "rect", "fill", u"url('#u ')", Misread, "url(#u)", ""},
         {Svg, "rect", "stroke", u"url( #u )", Read, "", ""},
         {Fo, "block", "space-before", u"0.0", Misread, "", "0", true},
         {Fo, "block", "background-color", u"rgb(10%,20%,30%)", Read, "", ""},

@@ -131,6 +131,7 @@ std::optional<std::u16string> inPlainForm(Item const& item) {
     }
     case ItemKind::Uri:
         if (item.text.empty() || item.text.starts_with(u"url(")) break; // empty, or a reference without a call
+        if (trimXmlSpace(item.text) != item.text) break; // without quotation marks, a blank at an end is lost
         return std::u16string(u"url(").append(item.text).append(u")");
     case ItemKind::Word:
     case ItemKind::Angle:
