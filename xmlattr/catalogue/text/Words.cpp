@@ -60,47 +60,53 @@ bool equalsWord(std::u16string_view text, std::string_view word, bool ignoreCase
     });
 }
 
-bool hasOpenParenthesis(std::u16string_view text) {
+namespace {
+
+// Where a place of a text is, from its start on: in how many parentheses, and in which quotation marks.
+struct Nesting {
     int depth = 0;
     char16_t quote = 0;
-    for (char16_t const unit : text) {
+
+    // Moves over a code unit. Whether that is in parentheses or quotation marks, or one of them.
+    bool takes(char16_t unit) {
         if (quote != 0) {
             if (unit == quote) quote = 0;
-        } else if (unit == u'"' || unit == u'\'') {
-            quote = unit;
-        } else if (unit == u'(') {
-            ++depth;
-        } else if (unit == u')') {
-            --depth;
+            return true;
         }
+        switch (unit) {
+        case u'"':
+        case u'\'': quote = unit; return true;
+        case u'(': ++depth; return true;
+        case u')': depth = std::max(depth - 1, 0); return true;
+        }
+        return depth > 0;
     }
-    return depth > 0;
+};
+
+} // namespace
+
+bool hasOpenParenthesis(std::u16string_view text) {
+    Nesting nesting;
+    for (char16_t const unit : text) nesting.takes(unit);
+    return nesting.depth > 0;
 }
 
 std::vector<std::u16string_view> splitValues(std::u16string_view text, std::u16string_view separators,
                                              std::u16string_view marks) {
     std::vector<std::u16string_view> values;
     std::size_t start = 0;
-    int depth = 0;
-    char16_t quote = 0;
+    Nesting nesting;
     auto const take = [&](std::size_t end) {
         if (end > start) values.push_back(text.substr(start, end - start));
         start = end + 1;
     };
     for (std::size_t i = 0; i < text.size(); ++i) {
         char16_t const unit = text[i];
-        if (quote != 0) {
-            if (unit == quote) quote = 0;
-        } else if (unit == u'"' || unit == u'\'') {
-            quote = unit;
-        } else if (unit == u'(') {
-            ++depth;
-        } else if (unit == u')') {
-            depth = std::max(depth - 1, 0);
-        } else if (depth == 0 && marks.find(unit) != std::u16string_view::npos) {
+        if (nesting.takes(unit)) continue;
+        if (marks.find(unit) != std::u16string_view::npos) {
             take(i);
             values.push_back(text.substr(i, 1));
-        } else if (depth == 0 && (isXmlSpace(unit) || separators.find(unit) != std::u16string_view::npos)) {
+        } else if (isXmlSpace(unit) || separators.find(unit) != std::u16string_view::npos) {
             take(i);
         }
     }
