@@ -90,11 +90,12 @@ char const* classDisagrees(Core::Vector<Point> const& points, Core::String const
     return isSame ? nullptr : "the class prints otherwise than the attribute";
 }
 
-// A transform that a list reads as it is meant reads the same by itself.
+// A transform that a list reads as it is meant reads the same by itself, without its ")".
 char const* classDisagrees(Core::Vector<Transform> const& transforms, Core::String const& text) {
     bool const isAlone = transforms.size() == 1 && Core::isLetter(text[0]) && text.endsIn(u")");
     if (!isAlone || compare(text, transforms).outcome != SvgReading::Outcome::Same) return nullptr;
-    return Transform::readTransform(text) == transforms.front() ? nullptr : "a transform by itself is another one";
+    Core::String const alone = text.subString(0, text.length() - 1);
+    return Transform::readTransform(alone) == transforms.front() ? nullptr : "a transform by itself is another one";
 }
 
 char const* classDisagrees(Value const& value, Core::String const& text) {

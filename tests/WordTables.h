@@ -45,26 +45,33 @@ inline std::string readable(std::u16string_view text) {
     return Core::String(text).toUtf8();
 }
 
-template <Core::Case rule, class Text> bool isSame(Text word, Text text) {
+template <class Text> bool isSame(Core::Case rule, Text word, Text text) {
     if (rule == Core::Case::Exact || word.size() != text.size()) return word == text;
     return std::equal(word.begin(), word.end(), text.begin(),
                       [](char16_t a, char16_t b) { return Core::toLower(a) == Core::toLower(b); });
 }
 
-// Looks up the mutations of each word and compares with a search of every row.
+// Looks up the mutations of each word and compares with a search of every word.
+template <class Text> void checkIndex(Core::Case rule, std::vector<Text> const& words, std::size_t (*indexOf)(Text)) {
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        ASSERT_EQ(indexOf(words[i]), i) << readable(words[i]);
+        for (auto const& text : mutations(words[i])) {
+            std::size_t row = 0;
+            while (row < words.size() && !isSame<Text>(rule, words[row], text)) ++row;
+            ASSERT_EQ(indexOf(text), row < words.size() ? row : Core::noWord) << readable(text);
+        }
+    }
+}
+
 template <auto const& rows, Core::Case rule = Core::Case::Exact> void checkTable(std::string const& name) {
     using Table = Core::WordTable<rows, rule>;
     SCOPED_TRACE(name);
-    auto const expectSame = [](typename Table::Text text) {
-        std::size_t row = 0;
-        while (row < Table::size && !isSame<rule>(rows[row].word, text)) ++row;
-        ASSERT_EQ(Table::indexOf(text), row < Table::size ? row : Core::noWord) << readable(text);
-    };
-    for (std::size_t i = 0; i < Table::size; ++i) {
-        ASSERT_EQ(Table::word(i), rows[i].word);
-        ASSERT_EQ(Table::indexOf(rows[i].word), i) << readable(rows[i].word);
-        for (auto const& text : mutations(rows[i].word)) expectSame(text);
+    std::vector<typename Table::Text> words;
+    for (auto const& row : rows) {
+        ASSERT_EQ(Table::word(words.size()), row.word);
+        words.push_back(row.word);
     }
+    checkIndex(rule, words, &Table::indexOf);
 }
 
 } // namespace Testing

@@ -4,9 +4,6 @@
 #include "xmlattr/Instantiations.h"
 #include "xmlattr/core/Exceptions.h"
 
-#include <algorithm>
-#include <functional>
-
 namespace Xml {
 namespace {
 
@@ -39,7 +36,7 @@ std::u16string swapCase(std::u16string_view word) {
 // One row of a table, with an attribute of its enumeration.
 struct Entry {
     XmlAttribute& attribute;
-    std::function<std::int32_t()> held;
+    std::int32_t (*held)(XmlAttribute const&);
     std::int32_t value;
     Core::String word;
     std::optional<Core::String> printed; // nothing: the table prints other words than it reads
@@ -50,7 +47,7 @@ struct Entry {
 void check(Entry const& entry) {
     SCOPED_TRACE(narrow(entry.word));
     bool const accepted = entry.attribute.parseValue(entry.word);
-    EXPECT_EQ(entry.held(), entry.value);
+    EXPECT_EQ(entry.held(entry.attribute), entry.value);
     if (entry.printed) {
         EXPECT_EQ(entry.attribute.getValueAsString(), *entry.printed);
     }
@@ -60,7 +57,17 @@ void check(Entry const& entry) {
     EXPECT_EQ(entry.attribute.parseValue(swapped), entry.rule == Case::Any || swapped == entry.word);
     for (Core::String const& text : {entry.word + u" ", u" " + entry.word, entry.word + u"\u00A0"})
         EXPECT_FALSE(entry.attribute.parseValue(text));
-    EXPECT_EQ(entry.held(), entry.value);
+    EXPECT_EQ(entry.held(entry.attribute), entry.value);
+}
+
+template <KeywordEnumeration E> std::int32_t heldBy(XmlAttribute const& attribute) {
+    return static_cast<std::int32_t>(static_cast<TXmlAttribute<E> const&>(attribute).getValue());
+}
+
+template <KeywordEnumeration E> std::u16string_view firstWord(E value) {
+    auto const* row = std::begin(Keywords<E>::rows);
+    while (row->value != value) ++row;
+    return row->word;
 }
 
 template <class T> void checkTable([[maybe_unused]] char const* name) {
@@ -72,9 +79,8 @@ template <class T> void checkTable([[maybe_unused]] char const* name) {
             if constexpr (!Prints<T>)
                 printed = u"";
             else if constexpr (!requires { Keywords<T>::printRows; })
-                printed = std::ranges::find(Keywords<T>::rows, value, &KeywordRow<T>::value)->word;
-            check({attribute, [&] { return static_cast<std::int32_t>(attribute.getValue()); },
-                   static_cast<std::int32_t>(value), word, printed, Keywords<T>::rule,
+                printed = firstWord(value);
+            check({attribute, heldBy<T>, static_cast<std::int32_t>(value), word, printed, Keywords<T>::rule,
                    &AttributeTraits<T>::parse == &KeywordTraits<T>::parse});
         }
     }

@@ -72,7 +72,8 @@ struct XMLATTR_API Transform {
     // lengths; of the other numbers, those of a matrix are read whole, and of the rest what stands
     // at the start counts ("45deg" is 45). Never fails: anything else gives the identity.
     // Intended: two delimiters in a row hold an empty argument between them, unless the second
-    // is white space; after the last argument, one white space does no harm and two do.
+    // is white space; after the last argument, one white space does no harm and two do, as does one
+    // before a ")".
     static Transform readTransform(Core::String const& text);
 };
 

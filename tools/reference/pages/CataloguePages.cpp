@@ -180,14 +180,24 @@ void addNewerPlaces(Page& page) {
     page.table({"attribute", "elements"}, rows);
 }
 
+struct NewerName {
+    std::string_view name, kind, source;
+};
+
+constexpr NewerName newerNames[] = {
+#define XMLATTR_NEWER(kind, name, source) {name, #kind, source},
+#include "xmlattr/catalogue/NewerNames.inc"
+#undef XMLATTR_NEWER
+};
+
 Page newerNamesPage() {
     Page page("newer-names.md", "Newer names");
     page.paragraph("Names that SVG 1.1 does not have and a newer recommendation has.");
     std::vector<Row> rows;
-#define XMLATTR_NEWER(kind, name, source) rows.push_back({codeOf(std::string_view(name)), #kind, source});
-#include "xmlattr/catalogue/NewerNames.inc"
-#undef XMLATTR_NEWER
-    for (Row& row : rows) row[1] = row[1] == "Element" ? "element" : row[1] == "Attribute" ? "attribute" : "property";
+    for (auto const& [name, kind, source] : newerNames) {
+        std::string_view const what = kind == "Element" ? "element" : kind == "Attribute" ? "attribute" : "property";
+        rows.push_back({codeOf(name), std::string(what), std::string(source)});
+    }
     page.table({"name", "what", "where"}, rows);
     addNewerPlaces(page);
     return page;
