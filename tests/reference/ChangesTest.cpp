@@ -20,6 +20,7 @@ TEST(Changes, ShowsWhatDiffersBelowItsHeading) {
                  "  # A\n- | a |\n+ | a |\n"},
              Row{"two rows before one that stays", "# A\n| c |\n", "# A\n| a |\n| b |\n| c |\n",
                  "  # A\n+ | a |\n+ | b |\n"},
+             Row{"another heading first", "# B\n| b |\n", "# A\n| a |\n# B\n| b |\n", "+ # A\n+ | a |\n"},
              Row{"a word of a paragraph that is wrapped otherwise", "# A\n\none two\nthree\n", "# A\n\none\ntwo four\n",
                  "  # A\n- one two three\n          ~~~~~\n+ one two four\n          ~~~~\n"},
              Row{"the end of a long row", "# A\n| " + grammar + " | yes |\n", "# A\n| " + grammar + " | no |\n",

@@ -24,9 +24,9 @@ TEST(SourceComments, BelongToTheTypeThatIsDeclaredLast) {
                                              "template <> struct AttributeTraits<Length> {\n"
                                              "    int b; // Intended: there.\n};\n"
                                              "struct Other {\n    // Intended: elsewhere.\n    int c;\n};\n";
-    std::ofstream(folder / "xmlattr/a.cpp")
-        << "bool Length::read() {\n    // Intended: in\n    // two lines.\n    f();\n}\n"
-           "void other() {\n    // Intended: again.\n    g();\n}\n";
+    std::ofstream(folder / "xmlattr/a.cpp") << "bool Length::read() {\n    // Intended: in\n    // NOLINTNEXTLINE(x): "
+                                               "a reason\n    // two lines.\n    f();\n}\n"
+                                               "void other() {\n    // Intended: again.\n    g();\n}\n";
     SourceComments const comments(folder);
     EXPECT_EQ(comments.families().front().types, std::vector<std::string>{"Length"});
     EXPECT_EQ(comments.above("Length"), std::vector<Comment>{{"A length."}});

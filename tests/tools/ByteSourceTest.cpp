@@ -69,7 +69,7 @@ TEST(GzipSource, ExpandsDocuments) {
 
     std::string large;
     for (int i = 0; i < 300'000; ++i) large += std::to_string(i * 7919LL % 10'007);
-    std::string const packed = gzip(large);
+    std::string const packed = gzip(large.substr(0, 1000)) + gzip(large.substr(1000));
     for (std::size_t const size : {std::size_t{1}, std::size_t{4096}, std::size_t{1} << 20}) {
         MemorySource source(packed);
         GzipSource expanded(source);

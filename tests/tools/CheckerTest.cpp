@@ -138,6 +138,8 @@ TEST(Checker, JudgesTheValuesOfAnimations) {
 TEST(Checker, TellsEachPartOfAShorthandThatIsWrong) {
     EXPECT_NE(checkDocument(block + "border='q 1 x'/>").messages.find("\"q\", \"1\" and \"x\" are not legal"),
               std::string::npos);
+    EXPECT_NE(checkDocument(block + "padding='1pt -2pt'/>").messages.find("\"-2pt\" is negative"), std::string::npos)
+        << "no difference";
 }
 
 TEST(Checker, TellsWhatIsNoDeclaration) {

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <pty.h>
 #include <string>
 
 namespace Command {
@@ -198,6 +199,7 @@ TEST(Command, ShowsListsAndExplains) {
           Row{"properties margin-top --format json", "\"alsoLegal\":[\"auto\"],\"initial\":\"0pt\"", 0},
           Row{"properties --format json border-top --vocabulary fo",
               "\"longhands\":[\"border-top-width\",\"border-top-style\",\"border-top-color\"]}\n", 0},
+          Row{"properties --format json column-width", " a percentage or proportional-column-width(...)\",", 0},
           Row{"properties --format json flood-color --vocabulary svg", "\"presentation\":true,\"grammar\":\"", 0},
           Row{"properties nonsense", "", 2},
           Row{"--explain bad-value", "bad-value\n\n", 0},
@@ -445,6 +447,37 @@ TEST(Command, HelpsInWordsOfItsUsers) {
         for (char const* const internal : {"->", ":{", " :", "REQUIRED", "FILE TEXT"})
             EXPECT_EQ(result.output.find(internal), std::string::npos) << internal << " in " << result.output;
         EXPECT_EQ(result.code, 0) << row.command;
+    }
+}
+
+// What the command prints to a terminal.
+std::string printedToTerminal(std::string const& environment, std::string const& arguments) {
+    int terminal = 0;
+    pid_t const child = forkpty(&terminal, nullptr, nullptr, nullptr);
+    if (child == 0) {
+        execlp("env", "env", "-S", (environment + " " XMLATTR_COMMAND " " + arguments).c_str(), nullptr);
+        _exit(127);
+    }
+    std::string all, block(4096, '\0');
+    for (ssize_t count = 0; (count = read(terminal, block.data(), block.size())) > 0;)
+        all.append(block, 0, static_cast<std::size_t>(count));
+    close(terminal);
+    waitpid(child, nullptr, 0);
+    return all;
+}
+
+TEST(Command, ColorsWhatATerminalShows) {
+    struct Row {
+        char const *environment, *options;
+        bool isColored;
+    };
+    std::string const file = write("colored.svg", drawing("1PX"));
+    for (Row const& row : {Row{"-u NO_COLOR TERM=xterm", "", true}, Row{"NO_COLOR= TERM=xterm", "", true},
+                           Row{"NO_COLOR=1 TERM=xterm", "", false}, Row{"-u NO_COLOR TERM=dumb", "", false},
+                           Row{"-u NO_COLOR -u TERM", "", false}, Row{"NO_COLOR=1 TERM=xterm", "--color always", true},
+                           Row{"-u NO_COLOR TERM=xterm", "--color never", false}}) {
+        std::string const printed = printedToTerminal(row.environment, "check -q "s + row.options + " " + file);
+        EXPECT_EQ(printed.find("\x1b[") != printed.npos, row.isColored) << row.environment << ' ' << row.options;
     }
 }
 

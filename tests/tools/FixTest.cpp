@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <random>
@@ -314,6 +315,13 @@ private:
     bool isDeadly;
 };
 
+// The number that the next file gets.
+int nextDescriptor() {
+    int const file = open("/dev/null", O_RDONLY);
+    close(file);
+    return file;
+}
+
 TEST(ReplacedFile, IsTheOldOneOrTheNewOneWhateverFails) {
     namespace fs = std::filesystem;
     fs::path const folder = fs::path(testing::TempDir()) / ("xmlattr-replaced" + std::to_string(getpid()));
@@ -333,6 +341,7 @@ TEST(ReplacedFile, IsTheOldOneOrTheNewOneWhateverFails) {
             pid_t const child = fork();
             if (child == 0) {
                 FaultySystem system(operations, isDeadly);
+                int const next = nextDescriptor();
                 std::set<fs::path> folders;
                 try {
                     ReplacedFile file(system, folders, path, path);
@@ -341,10 +350,11 @@ TEST(ReplacedFile, IsTheOldOneOrTheNewOneWhateverFails) {
                 } catch (RewriteFailure const&) {
                     _exit(1);
                 }
-                _exit(0);
+                _exit(nextDescriptor() == next ? 0 : 2);
             }
             int status = 0;
             waitpid(child, &status, 0);
+            ASSERT_FALSE(WIFEXITED(status) && WEXITSTATUS(status) == 2) << "a file stays open";
             isDone = WIFEXITED(status) && WEXITSTATUS(status) == 0;
             EXPECT_EQ(content(), isDone ? changed : old) << operations;
             if (!isDeadly) {

@@ -220,6 +220,7 @@ TEST(Report, HtmlHasNoMarkupFromDocuments) {
         EXPECT_EQ(count(text), 0) << text;
     EXPECT_TRUE(std::ranges::none_of(page, [](char c) { return c >= 0 && c < ' ' && c != '\n' && c != '\t'; }));
     EXPECT_GT(count("\\u{202e}"), 0);
+    EXPECT_EQ(count("…"), 0) << "all are shown whole";
     EXPECT_EQ(count("<p>Shown: ") + count(" came after the first "), 0) << "all are told";
     EXPECT_EQ(count(" and 3 more</summary>"), 1) << "one finding, and three in a group";
 }

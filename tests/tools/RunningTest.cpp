@@ -178,6 +178,7 @@ TEST(Check, SaysTheSameOfALargeFileReadOnAThreadOfItsOwn) {
                                  "<x:if xmlns:x='http://www.w3.org/1999/XSL/Transform' test='1'><rect width='{$w}' "
                                  "x='q'><x:attribute name='height'>1 2</x:attribute></rect></x:if>",
                                  "<polyline points='" + std::string(300'000, '1') + " 2 q'/>",
+                                 "<g " + std::string(30'000, 'n') + "=''/>",
                                  "<svg xmlns='http://www.w3.org/2000/svg' widht='1'><circle id='a' r='-1'/></svg>"};
     std::mt19937 random(3);
     for (std::string const subset : {"", "%other;"}) {

@@ -128,7 +128,6 @@ TEST(Agrees, WordsOfTypesThatAcceptEveryText) {
                              {{u"no-limit", "same"}, {u"3", "same"}, {u"3.9", "other"}, {u" no-limit", "other"}});
     expectJudges<Keep>("auto | always | <integer>"_grammar, Dialect::Fo,
                        {{u"always", "same"}, {u"5", "same"}, {u"-1", "same"}});
-    expectJudges<ReferenceOrientation>("0 | <integer>"_grammar, Dialect::Fo, {{u"-90", "same"}, {u"270", "same"}});
     expectJudges<FontWeight>("<font-weight>"_grammar, Dialect::Fo, {{u"300", "same"}, {u"lighter", "same"}});
     expectJudges<STextDecoration>("underline || overline || blink"_grammar, Dialect::SvgAttribute,
                                   {{u"underline", "same"}, {u"blink", "refused"}, {u"underline overline", "refused"}});

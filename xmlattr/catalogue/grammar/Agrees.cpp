@@ -22,7 +22,7 @@ bool isUnit(std::u16string_view written, std::u16string_view held) {
 }
 
 bool isWord(Meaning const& meaning, std::string_view word) {
-    return meaning.size() == 1 && meaning[0].kind == ItemKind::Word && equalsWord(meaning[0].text, word, true);
+    return meaning.size() == 1 && meaning[0].kind == ItemKind::Word && equalsWord(meaning[0].text, word);
 }
 
 // The one number of the text; null for a word.
@@ -53,22 +53,12 @@ bool refersTo(Item const& item, std::u16string_view reference) {
     return item.kind != ItemKind::Uri || item.text == reference;
 }
 
+// A paint begins with a colour, a reference or a word.
 bool agreesWith(Item const& item, SColor const& paint) {
-    switch (item.kind) {
-    case ItemKind::Color: return paint.getType() == SColor::Color && agreesWith(item, paint.getColor());
-    case ItemKind::Uri: return paint.getType() == SColor::Url && refersTo(item, paint.getUrl());
-    case ItemKind::Word:
-        return (paint.getType() == SColor::None) ==
-               (equalsWord(item.text, "none", true) || equalsWord(item.text, "transparent", true));
-    case ItemKind::Number:
-    case ItemKind::Length:
-    case ItemKind::Percentage:
-    case ItemKind::Angle:
-    case ItemKind::Time:
-    case ItemKind::Frequency:
-    case ItemKind::Text: break;
-    }
-    return true;
+    if (item.kind == ItemKind::Color) return paint.getType() == SColor::Color && agreesWith(item, paint.getColor());
+    if (item.kind == ItemKind::Uri) return paint.getType() == SColor::Url && refersTo(item, paint.getUrl());
+    bool const isNone = equalsWord(item.text, "none", true) || equalsWord(item.text, "transparent", true);
+    return (paint.getType() == SColor::None) == isNone;
 }
 
 } // namespace
@@ -137,13 +127,6 @@ bool agrees(Meaning const& meaning, Keep keep) {
 bool agrees(Meaning const& meaning, MaxRepeats repeats) {
     Item const* const count = numberOf(meaning);
     return count ? agrees(*count, heldOf(static_cast<int>(repeats))) : repeats == MaxRepeats::NoLimit;
-}
-
-bool agrees(Meaning const& meaning, ReferenceOrientation orientation) {
-    if (meaning.size() != 1 || meaning[0].kind == ItemKind::Word) return true;
-    constexpr float turn = 360;
-    float const degrees = std::fmod(meaning[0].number + turn, turn);
-    return degrees == static_cast<float>(orientation) * 90;
 }
 
 bool agrees(Meaning const& meaning, ThreeState state) {

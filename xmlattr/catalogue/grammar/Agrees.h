@@ -66,7 +66,6 @@ template <KeywordEnumeration E> bool agrees(Meaning const&, E) {
 // Those that read numbers, or accept every text.
 bool agrees(Meaning const& meaning, Keep keep);
 bool agrees(Meaning const& meaning, MaxRepeats repeats);
-bool agrees(Meaning const& meaning, ReferenceOrientation orientation);
 bool agrees(Meaning const& meaning, ThreeState state);
 
 bool agrees(Meaning const& meaning, DLength const& lengths);

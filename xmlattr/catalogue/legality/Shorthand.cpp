@@ -146,10 +146,11 @@ Judgement judgeShorthand(CatalogueEntry const& entry, Dialect dialect, std::u16s
     if (parts.empty()) return {.verdict = Verdict::Refused, .problem = "is empty"};
     PartsJudge judge(entry, dialect);
     Judgement judgement = entry.isFont ? judge.asFont(parts) : judge.inAnyOrder(parts);
+    // "1pt -2pt" is two values, one of them out of range, though it could be a difference.
     Meaning meaning;
-    // A colour in a call may be both: a value that types read and an expression.
-    bool const isExpression = isComputed(entry, text);
-    bool const isLegal = isExpression || readMeaning(meaning, entry.grammar, dialect, text);
+    bool const isLegal =
+        readMeaning(meaning, entry.grammar, dialect, text) ||
+        (isComputed(entry, text) && !readMeaning(meaning, entry.grammar, dialect, text, Ranges::Ignored));
     // A part may be the value of an attribute that is no row here.
     if (isLegal && (judgement.verdict == Verdict::Refused || judgement.verdict == Verdict::Lenient))
         return {Verdict::PassedOver};

@@ -130,7 +130,7 @@ Finding ofLonghand(Finding const& finding) {
         part.entry = longhand;
         part.text = finding.part;
         std::size_t const after = finding.text.size() - finding.offset - finding.length;
-        if (isReplaced && !finding.replacement.empty())
+        if (isReplaced)
             part.replacement =
                 finding.replacement.substr(finding.offset, finding.replacement.size() - finding.offset - after);
         return part;
