@@ -278,6 +278,7 @@ TEST(Animation, FindsTheRowsOfWhatItGives) {
     AnimatedValue const translation = *findAnimated({"animateTransform"}, "to");
     EXPECT_EQ(judge(translation, u"1deg").problem, "expected one number or two");
     EXPECT_EQ(judge(translation, u"var(--x)").problem, "") << "that is newer";
+    EXPECT_EQ(narrow(judge(Vocabulary::Svg, "path", "d", u"x1 1").part), "x");
 }
 
 TEST(StyleAttribute, FindsPropertiesAlone) {

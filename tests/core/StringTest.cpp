@@ -43,7 +43,8 @@ TEST(String, SubStringsAndSearchesStayInsideTheText) {
 }
 
 TEST(String, ConvertsBetweenUtf8AndUtf16) {
-    for (char const* text : {"", "a\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80z", "\xEF\xBF\xBF\xF4\x8F\xBF\xBF"})
+    for (char const* text :
+         {"", "a\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80z", "\xEF\xBF\xBF\xF0\x90\x80\x80\xF4\x8F\xBF\xBF"})
         EXPECT_EQ(String::fromUtf8(text).toUtf8(), text);
     struct Row {
         char const* bytes;

@@ -84,5 +84,14 @@ TEST(WordTable, TellsWordsApartThatLookAlike) {
     EXPECT_EQ(WordTable<twins>::findValue(11), noWord);
 }
 
+TEST(WordTable, TakesNoLongTextForAWordWithAnotherRow) {
+    PackedWord word(0, 18);
+    EXPECT_TRUE(word.isAlone(18) && !word.isAlone(18 + (1 << 16)));
+    word.setNext(3);
+    EXPECT_EQ(word.length(), 18u);
+    EXPECT_EQ(word.next(), 3u);
+    EXPECT_FALSE(word.isAlone(18) || word.isAlone(18 + (3 << 16)));
+}
+
 } // namespace
 } // namespace Core

@@ -36,6 +36,14 @@ TEST(DisplayCondition, HoldsTheOperatorThatItNames) {
         EXPECT_EQ(value->getConditions()[static_cast<std::size_t>(op)].op, op);
 }
 
+TEST(DisplayCondition, ReadsAnArgumentOfItsOwn) {
+    DisplayCondition value;
+    value.append({DisplayCondition::Operator::Match, u"(a)and("});
+    TXmlAttribute<DisplayCondition> attribute(value);
+    EXPECT_FALSE(attribute.parseValue(attribute->getConditions().front().argument));
+    EXPECT_EQ(narrow(attribute.getValueAsString()), "match((a)and() and is-after(a)");
+}
+
 TEST(DisplayCondition, EqualsEveryListThatContainsIt) {
     TXmlAttribute<DisplayCondition> x, both;
     ASSERT_TRUE(x.parseValue(u"match(x)") && both.parseValue(u"is-after(y) and match(x)"));

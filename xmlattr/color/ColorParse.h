@@ -61,8 +61,8 @@ public:
     // One, three or four components follow the profile; of two, the first counts.
     static bool parseICCColor(Core::String const& text, Target* target);
 
-    // The tint is 1 when it is left out; the alternate is rgb(...) or cmyk(...). Without one, the
-    // Drawing::SpotColorMapper is asked for the name.
+    // The tint is 1 when it is left out, and 0 when nothing stands between its commas; the alternate is
+    // rgb(...) or cmyk(...). Without one, the Drawing::SpotColorMapper is asked for the name.
     static bool parseSpotColor(Core::String const& text, Target* target);
 
     // A colour keyword, a system colour, "transparent" or "none", in any case.

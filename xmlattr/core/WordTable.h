@@ -31,17 +31,22 @@ template <class Value = Valueless, class Unit = char16_t> struct WordRow {
 // The place of a word among the letters of all words of its table, and the number of the next row that the same
 // texts may be; 0 when there is none.
 struct PackedWord {
-    std::uint32_t lengthAndNext; // in one, so that one comparison tells that a length fits and no row is next
+    // In one, so that one comparison tells that a length fits and no row is next: with a next row it is negative, which
+    // no size of a text is.
+    std::int32_t lengthAndNext;
     std::uint16_t start;
 
     constexpr PackedWord(std::size_t newStart = 0, std::size_t newLength = 0)
-        : lengthAndNext(static_cast<std::uint32_t>(newLength)), start(static_cast<std::uint16_t>(newStart)) {}
+        : lengthAndNext(static_cast<std::int32_t>(newLength)), start(static_cast<std::uint16_t>(newStart)) {}
 
     // In code units.
-    constexpr std::size_t length() const { return lengthAndNext & 0xFFFF; }
+    constexpr std::size_t length() const { return static_cast<std::uint16_t>(lengthAndNext); }
     // The number of the next row; 0 when there is none.
-    constexpr std::size_t next() const { return lengthAndNext >> 16; }
-    constexpr void setNext(std::size_t row) { lengthAndNext |= static_cast<std::uint32_t>(row) << 16; }
+    constexpr std::size_t next() const { return static_cast<std::size_t>(lengthAndNext >> 16 & INT16_MAX); }
+    constexpr void setNext(std::size_t row) { lengthAndNext |= INT32_MIN | static_cast<std::int32_t>(row) << 16; }
+
+    // Whether this is the only row that a text of the size may be, and the size is its length.
+    constexpr bool isAlone(std::size_t size) const { return static_cast<std::size_t>(lengthAndNext) == size; }
 };
 
 // The number of no row.
@@ -245,7 +250,8 @@ public:
 
 protected:
     static constexpr std::size_t letterCount = countLetters<rows>();
-    static_assert(size <= UINT16_MAX && letterCount <= UINT16_MAX, "a word table has at most 65535 words and letters");
+    static_assert(size <= INT16_MAX && letterCount <= UINT16_MAX,
+                  "a word table has at most 32767 words and 65535 letters");
     static constexpr Packed<Value, Unit, size, letterCount> packed{rows};
 };
 

@@ -10,6 +10,9 @@
 // Keywords and numbers each have a value of their own. A value of a class is the neutral one of its
 // type, what the type gives without arguments, unless a name below says the value. It need not be the
 // initial value that XSL-FO 1.1 or SVG 1.1 gives the property.
+//
+// The shared library does not export the attributes of internal types, such as those of int: programs read the value of
+// such a constant, or use it as an XmlAttribute const&.
 #pragma once
 
 #include "xmlattr/Instantiations.h"

@@ -42,13 +42,16 @@ bool DisplayCondition::operator==(DisplayCondition const& other) const {
 
 bool AttributeTraits<DisplayCondition>::parse(DisplayCondition& value, std::u16string_view text) {
     constexpr std::u16string_view separator = u"and";
-    while (!text.empty()) {
+    DisplayCondition added; // a list of its own, since the text may be an argument in the other one
+    bool isRead = true;
+    while (isRead && !text.empty()) {
         // Intended: the bare letters separate, inside an argument too: "match(brand)" is refused.
         std::size_t const end = std::min(text.find(separator), text.size());
-        if (!appendSegment(value, text.substr(0, end))) return false;
+        isRead = appendSegment(added, text.substr(0, end));
         text.remove_prefix(std::min(end + separator.size(), text.size()));
     }
-    return true;
+    for (DisplayCondition::Condition const& condition : added.getConditions()) value.append(condition);
+    return isRead;
 }
 
 Core::String AttributeTraits<DisplayCondition>::print(DisplayCondition const& value) {

@@ -27,7 +27,8 @@ public:
     bool operator==(BoxShadow const&) const = default;
 
     // Fills in what the text gives and leaves the rest as it is. Intended: a part that is neither a
-    // length nor a colour ends the text but refuses nothing; false for the empty text only.
+    // length nor a colour ends the text but refuses nothing, and so does a blank before the first part or a
+    // second one after a part; false for the empty text only.
     bool readFromString(Core::String const& text);
 
 private:

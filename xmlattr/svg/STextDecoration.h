@@ -8,8 +8,8 @@
 
 namespace Xml {
 
-// "underline", "overline" and "line-through", exact in case, with commas between them; white space
-// may stand before a keyword, not after it. A failed parse changes nothing; there is no printer.
+// "underline", "overline" and "line-through", exact in case, with commas between them and one more at the end,
+// if any; white space may stand before a keyword, not after it. A failed parse changes nothing; there is no printer.
 class XMLATTR_API STextDecoration {
 public:
     constexpr STextDecoration() = default;
