@@ -72,6 +72,8 @@ constexpr WordRow<int> twins[] = {{u"aXbbbbbbbbbbbbbbbb", 1},
                                   {u"aXbbXbbbbbbbbbbbbbbbbbbbbb", 9},
                                   {u"aXbbbbbbbXbbbbbbbbbbbbbbbb", 10}};
 constexpr WordRow<int, char> shortWords[] = {{"q", 1}, {"em", 2}, {"rem", 3}, {"Q", 4}};
+constexpr WordRow<char> letters[] = {{u"a", 'a'}, {u"b", 'b'}};
+static_assert(WordTable<letters>::findValue('b') == 1 && WordTable<letters>::findValue('c') == noWord);
 
 TEST(WordTable, TellsWordsApartThatLookAlike) {
     checkTable<twins>("twins");
@@ -80,6 +82,7 @@ TEST(WordTable, TellsWordsApartThatLookAlike) {
     EXPECT_EQ(WordTable<twins>::findStart(u"aXbbbbbbbbbbbbbbbbc"), 1);
     EXPECT_EQ(WordTable<twins>::findStart(u"aXc"), 4);
     EXPECT_FALSE((WordTable<shortWords>::findStart("r")));
+    EXPECT_EQ((WordTable<shortWords>::findStart("qx")), 1);
     EXPECT_EQ(WordTable<twins>::word(WordTable<twins>::findValue(6)), u"aXbbbbbbbbbXbbbbbb");
     EXPECT_EQ(WordTable<twins>::findValue(11), noWord);
 }
