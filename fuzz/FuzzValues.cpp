@@ -193,6 +193,8 @@ constexpr decltype(&disagreement<int>) disagreements[] = {
 
 } // namespace
 
+static_assert(std::size(Promises::types) <= 256, "the first byte of an input picks the type");
+
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
     if (size < Heads::Type::size) return 0;
     std::size_t const number = Heads::Type::ofBytes(data).number;

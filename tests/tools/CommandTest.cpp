@@ -140,7 +140,7 @@ TEST(Command, GathersFiles) {
     std::filesystem::remove_all(scratch);
     std::filesystem::create_directories(scratch + "/tree/below");
     std::string const fault = "<block xmlns='http://www.w3.org/1999/XSL/Format' span='al'/>";
-    for (char const* const name : {"a.SVG", "b.fo", "below/c.xml", "d.txt", "e.xsl", "f.Xslt", "g.svgz"})
+    for (char const* const name : {"a.SVG", "b.fo", "below/c.xml", "d.txt", "d.\xFF", "e.xsl", "f.Xslt", "g.svgz"})
         write("tree/"s + name, fault);
     Result const result = run("check -q " + scratch + "/tree");
     std::string const name = scratch + "/tree/", place = ":1:50: ";
@@ -349,10 +349,12 @@ TEST(Command, FixesWhatLinksLeadToAndWritesElsewhere) {
     write("tree/b.svg", drawing("2px"));
     fs::create_symlink("tree/below/a.svg", scratch + "/link.svg");
     fs::create_symlink("/dev/full", scratch + "/tree/full");
+    fs::create_directories(scratch + "/out");
+    fs::create_symlink("elsewhere.svg", scratch + "/out/b.svg");
 
     EXPECT_EQ(run("fix -o " + scratch + "/out " + scratch + "/tree").code, 0);
     EXPECT_EQ(contentOf(scratch + "/out/below/a.svg"), drawing("1px"));
-    EXPECT_EQ(contentOf(scratch + "/out/b.svg"), drawing("2px")) << "what has nothing to fix is written too";
+    EXPECT_EQ(contentOf(scratch + "/out/elsewhere.svg"), drawing("2px")) << "what has nothing to fix is written too";
     EXPECT_EQ(contentOf(scratch + "/tree/below/a.svg"), drawing("1PX"));
     Result const twice = run("fix -o " + scratch + "/out " + scratch + "/tree/b.svg " + scratch + "/out/b.svg");
     EXPECT_NE(twice.errors.find("another file has the name "), std::string::npos) << twice.errors;

@@ -53,6 +53,7 @@ using Units = Core::WordTable<unitRows>;
 
 // The number of the row of an enumerator, or noWord.
 template <class E> constexpr std::size_t rowOfUnit(E unit) {
+    if (unit == noUnit<E>) return Core::noWord; // not the row of a unit that the type does not read
     for (std::size_t row = 0; row < Units::size; ++row)
         if (Units::value(row).as<E>() == unit) return row;
     return Core::noWord;

@@ -113,14 +113,17 @@ Page unitsPage() {
                    "`em` and `ex` are fixed fractions of a pixel, whatever the font; `pc` has different factors in the "
                    "two directions. `Length` and `SLength` give the units different numbers.");
     std::vector<Row> rows;
-    for (auto const& unit : Xml::unitRows) {
-        auto const [inLength, inSLength] = std::pair(unit.value.length, unit.value.sLength);
-        Row row{codeOf(unit.word)};
-        row.push_back(numberOf(Xml::Length(1, inLength).pxSize()));
-        row.push_back(numberOf(Xml::Length::pxSizeToUnitSize(96, inLength)));
-        row.push_back(std::to_string(static_cast<int>(inLength)));
-        row.push_back(numberOf(Xml::SLength(1, inSLength).pxSize()));
-        row.push_back(std::to_string(static_cast<int>(inSLength)));
+    for (auto const& [word, unit] : Xml::unitRows) {
+        Row row{codeOf(word), "", "", "", "", ""};
+        if (Xml::Length::Unit const inLength = unit.length; inLength != Xml::noUnit<Xml::Length::Unit>) {
+            row[1] = numberOf(Xml::Length(1, inLength).pxSize());
+            row[2] = numberOf(Xml::Length::pxSizeToUnitSize(96, inLength));
+            row[3] = std::to_string(static_cast<int>(inLength));
+        }
+        if (Xml::SLength::Unit const inSLength = unit.sLength; inSLength != Xml::noUnit<Xml::SLength::Unit>) {
+            row[4] = numberOf(Xml::SLength(1, inSLength).pxSize());
+            row[5] = std::to_string(static_cast<int>(inSLength));
+        }
         rows.push_back(std::move(row));
     }
     page.table({"unit", "pixels of one", "of 96 pixels", "number in `Length`", "pixels of one `SLength`",

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <system_error>
 
 #include <fcntl.h>
@@ -45,7 +44,7 @@ FileSource::~FileSource() {
 std::size_t FileSource::read(std::span<char> buffer) {
     if (file < 0) return 0;
     auto const count = ::read(file, buffer.data(), static_cast<unsigned>(buffer.size()));
-    if (count < 0) failed = SourceFailure{"unreadable", std::strerror(errno)};
+    if (count < 0) failed = SourceFailure{"unreadable", std::generic_category().message(errno)};
     return static_cast<std::size_t>(std::max<decltype(count)>(count, 0));
 }
 
@@ -63,7 +62,8 @@ bool seekTo(std::FILE* file, std::uint64_t position) {
 
 std::size_t SharedFileSource::read(std::span<char> buffer) {
     std::size_t const count = seekTo(file, position) ? std::fread(buffer.data(), 1, buffer.size(), file) : 0;
-    if (count < buffer.size() && !std::feof(file)) failed = SourceFailure{"unreadable", std::strerror(errno)};
+    if (count < buffer.size() && !std::feof(file))
+        failed = SourceFailure{"unreadable", std::generic_category().message(errno)};
     position += count;
     return count;
 }

@@ -4,6 +4,7 @@
 #include "running/Stop.h"
 #include "running/Teller.h"
 #include "selecting/Configuration.h"
+#include "text/Path.h"
 #include "text/Text.h"
 
 #include "xmlattr/core/Log.h"
@@ -54,7 +55,7 @@ std::uint64_t sizeOf(std::vector<std::string> const& files) {
     std::uint64_t sum = 0;
     for (std::string const& file : files) {
         std::error_code error;
-        std::uint64_t const size = std::filesystem::file_size(file, error);
+        std::uint64_t const size = std::filesystem::file_size(pathOf(file), error);
         if (!error) sum += size;
     }
     return sum;

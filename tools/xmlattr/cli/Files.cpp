@@ -16,12 +16,15 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::u16string_view documentExtensions[] = {u".fo", u".svg", u".svgz", u".xml", u".xsl", u".xslt"};
+constexpr std::string_view documentExtensions[] = {".fo", ".svg", ".svgz", ".xml", ".xsl", ".xslt"};
 
+// The units of a name are compared as they are: it need not be well-formed.
 bool isDocument(fs::path const& path) {
-    std::u16string const extension = path.extension().u16string();
-    return std::ranges::any_of(documentExtensions,
-                               [&](std::u16string_view known) { return Core::equalsNoCase(extension, known); });
+    fs::path const extension = path.extension();
+    auto const lower = [](auto unit) { return Core::toLower(static_cast<char16_t>(unit)); };
+    return std::ranges::any_of(documentExtensions, [&](std::string_view known) {
+        return std::ranges::equal(extension.native(), known, {}, lower);
+    });
 }
 
 // Adds files in the order of their paths.

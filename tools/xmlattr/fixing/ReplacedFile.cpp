@@ -1,6 +1,7 @@
 #include "fixing/ReplacedFile.h"
 
 #include "bytes/ByteSource.h"
+#include "text/Path.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -43,6 +44,7 @@ ReplacedFile::~ReplacedFile() {
 
 void ReplacedFile::open() {
     if (!fs::exists(target)) {
+        target = followed(target);
         if (target.has_parent_path()) fs::create_directories(target.parent_path());
     } else {
         target = fs::canonical(target);

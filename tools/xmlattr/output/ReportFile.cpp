@@ -26,13 +26,12 @@ ReportFile::ReportFile(std::string newPath) : path(std::move(newPath)) {
     std::filesystem::file_status const status = std::filesystem::status(pathOf(path), unknown);
     // A pipe or a device is written to as it is.
     bool const isFile = !std::filesystem::exists(status) || std::filesystem::is_regular_file(status);
-    if (isFile && std::filesystem::exists(status))
-        path = std::filesystem::canonical(pathOf(path)).string(); // a link stays
+    if (isFile) path = followed(pathOf(path)).string(); // a link stays
     if (isFile) unfinished = path + "." + std::to_string(getpid()) + ".part";
     file.reset(std::fopen((isFile ? unfinished : path).c_str(), "wb"));
     if (!file) fail(path, std::strerror(errno));
     if (isFile && std::filesystem::exists(status))
-        std::filesystem::permissions(unfinished, status.permissions(), unknown); // those of what it replaces
+        std::filesystem::permissions(pathOf(unfinished), status.permissions(), unknown); // those of what it replaces
 }
 
 ReportFile::~ReportFile() {

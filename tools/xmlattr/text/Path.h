@@ -13,4 +13,12 @@ inline std::filesystem::path pathOf(std::string_view name) {
     return std::u8string(name.begin(), name.end());
 }
 
+// Where links lead from a name, though nothing may be there.
+inline std::filesystem::path followed(std::filesystem::path path) {
+    constexpr int most = 40; // as many as systems follow
+    for (int i = 0; i < most && std::filesystem::is_symlink(std::filesystem::symlink_status(path)); ++i)
+        path = path.parent_path() / std::filesystem::read_symlink(path);
+    return path;
+}
+
 } // namespace Command

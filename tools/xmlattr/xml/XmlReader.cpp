@@ -108,10 +108,14 @@ private:
     }
 
     static void XMLCALL onStart(void* self, XML_Char const* name, XML_Char const** attributes) {
-        static_cast<Reader*>(self)->start(name, attributes);
+        Reader& reader = *static_cast<Reader*>(self);
+        reader.guarded([&] { reader.start(name, attributes); });
     }
 
-    static void XMLCALL onEnd(void* self, XML_Char const*) { static_cast<Reader*>(self)->end(); }
+    static void XMLCALL onEnd(void* self, XML_Char const*) {
+        Reader& reader = *static_cast<Reader*>(self);
+        reader.guarded([&] { reader.end(); });
+    }
 
     static void XMLCALL onText(void* self, XML_Char const* text, int length) {
         Reader& reader = *static_cast<Reader*>(self);
@@ -119,11 +123,13 @@ private:
     }
 
     static void XMLCALL onNamespace(void* self, XML_Char const* prefix, XML_Char const* space) {
-        static_cast<Reader*>(self)->namespaces.begin(prefix ? prefix : "", space ? space : "");
+        Reader& reader = *static_cast<Reader*>(self);
+        reader.guarded([&] { reader.namespaces.begin(prefix ? prefix : "", space ? space : ""); });
     }
 
     static void XMLCALL onNamespaceEnd(void* self, XML_Char const* prefix) {
-        static_cast<Reader*>(self)->namespaces.end(prefix ? prefix : "");
+        Reader& reader = *static_cast<Reader*>(self);
+        reader.guarded([&] { reader.namespaces.end(prefix ? prefix : ""); });
     }
 
     static void XMLCALL onSkippedEntity(void* self, XML_Char const*, int isParameter) {
@@ -154,12 +160,14 @@ private:
                                  XML_Char const*, XML_Char const*, XML_Char const*, XML_Char const*) {
         if (isParameter || !value) return;
         std::string_view const text(value, static_cast<std::size_t>(length));
-        if (text.find('&') == std::string_view::npos) static_cast<Reader*>(self)->knownEntities.emplace(name);
+        Reader& reader = *static_cast<Reader*>(self);
+        if (text.find('&') == std::string_view::npos) reader.guarded([&] { reader.knownEntities.emplace(name); });
     }
 
     static int XMLCALL onUnknownEncoding(void* self, XML_Char const* name, XML_Encoding* info) {
         if (singleByteEncoding(name) != ByteEncoding::Windows1252) {
-            static_cast<Reader*>(self)->unknownEncoding = name;
+            Reader& reader = *static_cast<Reader*>(self);
+            reader.guarded([&] { reader.unknownEncoding = name; });
             return XML_STATUS_ERROR;
         }
         for (int i = 0; i < 256; ++i) info->map[i] = windows1252(static_cast<unsigned char>(i));
@@ -179,8 +187,6 @@ private:
     }
 
     void start(XML_Char const* name, XML_Char const** texts) {
-        // The parser calls once more after it was stopped inside an empty element.
-        if (failure || thrown) return;
         if (depth >= maxDepth) {
             failure = failed("limit", "elements nest more than 10000 deep");
             XML_StopParser(parser, XML_FALSE);
@@ -197,24 +203,23 @@ private:
         }
         element.attributes = attributes;
         renew();
-        guarded([&] {
-            handler.startElement(element, *this);
-            if (content)
-                content->startElement(element);
-            else if (handler.wantsText(element))
-                startContent();
-        });
+        handler.startElement(element, *this);
+        if (content)
+            content->startElement(element);
+        else if (handler.wantsText(element))
+            startContent();
         if (content) contentEnd = byteOffset() + byteCount();
     }
 
     void end() {
-        if (content && !failure && !thrown) guarded([&] { endInContent(); });
+        if (content) endInContent();
         if (content) contentEnd = byteOffset() + byteCount();
         --depth;
     }
 
-    // No exception passes through the parser.
+    // No exception passes through the parser, which may call a few times more after it was stopped.
     template <class Call> void guarded(Call call) {
+        if (failure || thrown) return;
         try {
             call();
         } catch (...) {
