@@ -153,6 +153,9 @@ TEST(Advice, WritesNewerColorsAsTheyAreRead) {
                             Case{u"rgb(1 2% 3)", "", false},
                             Case{u"hsl(1px 2% 3%)", "", false},
                             Case{u"hsl(1 2 3)", "", false},
+                            Case{u"rgb(1,,2,3)", "", false},
+                            Case{u"rgb(1 2,3)", "", false},
+                            Case{u"rgb(1 2 3,)", "", false},
                             Case{u"lab(1 2 3)", "", false}}) {
         CatalogueEntry const& entry = *Catalogue::find(Svg, "path", "stroke");
         Advice const advice = advise(entry, row.text, Notation::Attribute, judge(entry, row.text));
@@ -175,7 +178,7 @@ TEST(Judge, TellsNegativeAndNewerValues) {
           Case{Svg, "path", "fill", u"context-fill", false, "SVG 2"},
           Case{Svg, "path", "fill", u"#11223344", false, "CSS 4"},
           Case{Fo, "block", "font-size", u"2rem", false, "CSS 3"}, Case{Fo, "block", "font-size", u"2rex10", false, ""},
-          Case{Svg, "path", "fill", u"hsl(1,2)", false, ""},
+          Case{Svg, "path", "fill", u"hsl(1,2)", false, ""}, Case{Svg, "path", "fill", u"rgb(1,,2,3)", false, ""},
           Case{Svg, "path", "fill", u"hsl(var(--c))", false, "CSS 3"}, Case{Svg, "path", "d", u"M0 0q", false, ""}}) {
         Judgement const judgement = judge(row.vocabulary, row.element, row.attribute, row.text);
         EXPECT_TRUE(isFault(judgement.verdict)) << row.attribute << narrow(row.text);

@@ -5,6 +5,7 @@
 #include "xmlattr/catalogue/legality/Shorthand.h"
 #include "xmlattr/catalogue/legality/StyleAttribute.h"
 
+#include <chrono>
 #include <iterator>
 
 namespace Xml {
@@ -66,12 +67,30 @@ TEST(Expression, IsMoreThanAValueAndWellFormed) {
           u"rgb(1,2)", u"from-parrent(color)", u"even-page", u"5modx 3", u"'a' 'b'", u"'a", u"from-parent(.a)",
           u"from-parent(a.b c)", u"inherit",
           // operands that do not go together
-          u"1pt + 2", u"3pt mod 2", u"max(1pt, 2)", u"10pt + indent", u"2 * red", u"-#fff * 2", u"rgb(1,2,3) + 1",
-          u"round(1.5pt)", u"abs(auto)", u"proportional-column-width(1pt)",
+          u"1pt + 2", u"3pt mod 2", u"max(1pt, 2)", u"rgb(1,red,3)", u"rgb(1,2,3pt)", u"10pt + indent", u"2 * red",
+          u"-#fff * 2", u"rgb(1,2,3) + 1", u"round(1.5pt)", u"abs(auto)", u"proportional-column-width(1pt)",
           // units that there are not
           u"12q + 1pt", u"12q + 1", u"1pt + 2ptx", u"1PT + 1PT"})
         EXPECT_FALSE(readExpression(text)) << narrow(text);
     EXPECT_FALSE(readExpression(std::u16string(1'000'000, u'('))) << "nesting has a limit";
+}
+
+TEST(Judge, TakesTimeLinearInAText) {
+    struct Row {
+        Vocabulary vocabulary;
+        char const *element, *attribute;
+        std::u16string_view piece;
+    };
+    for (Row const& row :
+         {Row{Vocabulary::Fo, "block", "space-before", u"1-1"}, Row{Vocabulary::Fo, "block", "border", u"1-1"},
+          Row{Vocabulary::Svg, "g", "fill", u"rgb("}, Row{Vocabulary::Svg, "g", "fill", u"rgb(1,"},
+          Row{Vocabulary::Svg, "g", "fill", u"hsl(1 "}}) {
+        std::u16string text;
+        while (text.size() < 1 << 20) text += row.piece;
+        auto const start = std::chrono::steady_clock::now();
+        EXPECT_EQ(judge(row.vocabulary, row.element, row.attribute, text).verdict, Verdict::Refused);
+        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5)) << narrow(row.piece);
+    }
 }
 
 TEST(Expression, StandsForAValueOfItsKind) {

@@ -89,5 +89,19 @@ TEST(Names, OfElements) {
         EXPECT_EQ(Names::ofElement(row.vocabulary, row.name), row.fact) << row.name;
 }
 
+TEST(Names, OfNamespaces) {
+    constexpr char const *fo = "http://www.w3.org/1999/XSL/Format", *svg = "http://www.w3.org/2000/svg";
+    struct Row {
+        char const* name;
+        NameFact fact;
+    };
+    for (Row const& row :
+         {Row{fo, {Known, ""}}, Row{"http://www.w3.org/1999/XSL/Transform", {Known, ""}},
+          Row{"https://www.w3.org/2000/svg", {Unknown, svg}}, Row{"http://www.w3.org/2000/SVG/", {Unknown, svg}},
+          Row{"http://www.w3.org/2001/svg", {Unknown, svg}}, Row{"http://www.w3.org/1999/XSL/Fromat", {Unknown, fo}},
+          Row{"http://www.w3.org/1999/xhtml", {Open, ""}}, Row{"", {Open, ""}}, Row{"svg", {Open, ""}}})
+        EXPECT_EQ(Names::ofNamespace(row.name), row.fact) << row.name;
+}
+
 } // namespace
 } // namespace Xml

@@ -142,6 +142,19 @@ TEST(Checker, TellsEachPartOfAShorthandThatIsWrong) {
         << "no difference";
 }
 
+TEST(Checker, TellsNamespacesThatAreNearlyKnown) {
+    std::string const hint = ", of which nothing is checked; did you mean \"http://www.w3.org/";
+    EXPECT_EQ(checkDocument("<svg xmlns='http://www.w3.org/2000/svg' xmlns:x='http://www.w3.org/1999/xlinks'>"
+                            "<g x:href='#a' x:title='a'/><s:g xmlns:s='http://www.w3.org/2000/SVG'/>"
+                            "<h xmlns='http://www.w3.org/1999/xhtml'/></svg>")
+                  .messages,
+              "84 x:href on g is in the namespace \"http://www.w3.org/1999/xlinks\"" + hint + "1999/xlink\"?\n" +
+                  "109 s:g is in the namespace \"http://www.w3.org/2000/SVG\"" + hint + "2000/svg\"?\n")
+        << "once each";
+    EXPECT_EQ(checkDocument("<f:block xmlns:f='http://www.w3.org/1999/XSL/Format' f:span='all'/>").messages,
+              "54 f:span on f:block is no known attribute; did you mean \"span\"?\n");
+}
+
 TEST(Checker, TellsWhatIsNoDeclaration) {
     struct Row {
         char const *style, *messages;

@@ -25,6 +25,11 @@ std::string placesIn(std::string const& output, std::string const& file) {
     return places;
 }
 
+// A drawing with one value to fix and, on demand, one to leave.
+std::string drawing(std::string const& width, std::string const& end = "/>\n") {
+    return "<svg xmlns='http://www.w3.org/2000/svg'\n  width='" + width + "'" + end;
+}
+
 TEST(Command, RefusesNothingInSoundDocuments) {
     for (std::string const& name : {"letter.fo"s, "invoice.fo"s, "report.fo"s, "drawing.svg"s, "scene.svg"s}) {
         Result const result = run("check --strict " XMLATTR_SAMPLES "/" + name);
@@ -214,6 +219,19 @@ TEST(Command, ShowsListsAndExplains) {
     }
 }
 
+TEST(Check, WritesOverNoDocument) {
+    std::string const file = write("kept.svg", drawing("1px")), named = write("kept", drawing("1px"));
+    for (std::string const& arguments :
+         {"--output " + file, "--output " + file + " " + named, "--output " + named + " " + named,
+          "--write-baseline " + named + " " + named}) {
+        Result const result = run("check - " + arguments + " </dev/null");
+        EXPECT_NE(result.errors.find(": this document would be lost"), std::string::npos) << result.errors;
+        EXPECT_EQ(result.code, 2);
+    }
+    EXPECT_EQ(contentOf(file) + contentOf(named), drawing("1px") + drawing("1px"));
+    EXPECT_EQ(run("check - --output both --write-baseline both </dev/null").code, 2);
+}
+
 TEST(Command, SaysWhatIsWrongWithACall) {
     struct Row {
         char const *arguments, *message;
@@ -279,11 +297,6 @@ TEST(Check, DrawsThePartOfAListThatIsReadOtherwise) {
     EXPECT_LT(meant, held);
     EXPECT_NE(held, page.npos);
     EXPECT_NE(page.find("<p>Left out: 1 finding.</p>"), page.npos);
-}
-
-// A drawing with one value to fix and, on demand, one to leave.
-std::string drawing(std::string const& width, std::string const& end = "/>\n") {
-    return "<svg xmlns='http://www.w3.org/2000/svg'\n  width='" + width + "'" + end;
 }
 
 TEST(Command, FixesFilesInPlace) {
@@ -412,7 +425,8 @@ TEST(Command, ShowsWhatItWouldFixAsPatchTakesIt) {
           inUtf16(some), inUtf16(inCrLf(some)), "<svg xmlns='http://www.w3.org/2000/svg' width='1PX'/>"s,
           start + "<text x='1PX'/></svg>\n"}) {
         std::filesystem::remove_all(scratch);
-        std::string const name = std::array{"plain.svg", "with blank.svg", "\"odd\\\tone\".svg"}[number++ % 3];
+        std::string const name =
+            std::array{"plain.svg", "with blank.svg", "\"odd\\\tone\".svg", " blank aside.svg"}[number++ % 4];
         write(name, content);
         std::string const folder = "cd " + scratch + " && ";
         std::string const quoted = "'" + name + "'";

@@ -99,6 +99,8 @@ TEST(References, KeepABoundedMemory) {
     // What has been found since makes room; what has not ends the search.
     EXPECT_EQ(faultsOf(svg(forward + many + forward + dangling), {1000, 100}), "dangling use href no 2:4876;");
     EXPECT_EQ(faultsOf(svg(dangling + forward + many), {1000, 100}), "");
+    EXPECT_EQ(faultsOf(svg(forward + many + forward + dangling), {1000, 200, 1000}), "dangling use href no 2:4876;");
+    EXPECT_EQ(faultsOf(svg(dangling + forward + many), {1000, 200, 800}), "");
     EXPECT_NE(faultsOf(svg(many + dangling + twice), {200, 100}), "");
     EXPECT_EQ(faultsOf(svg(many + dangling + twice), {50, 100}), "");
 }

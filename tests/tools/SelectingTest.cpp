@@ -90,8 +90,11 @@ TEST(Baseline, KnowsFindingsAsOftenAsItHasThem) {
     EXPECT_EQ(known.gone(), std::vector({"b.svg: d=\"M0\" on path [misread]"s})) << "whose file is not there";
     known.finish(document);
     EXPECT_EQ(known.gone().size(), 2u);
-    for (std::string const content : {"", "[]", "{\"baseline\":2}", "{\"baseline\":1,\"documents\":{\"a\":[1]}}",
-                                      "{\"baseline\":1,\"documents\":{\"a\":[{\"id\":1}]}}", "{\"baseline\":1"})
+    for (std::string const content :
+         {"", "[]", "{\"baseline\":2}", "{\"baseline\":1,\"documents\":{\"a\":[1]}}",
+          "{\"baseline\":1,\"documents\":{\"a\":[{\"id\":1}]}}", "{\"baseline\":1", "{\"baseline\":1,\"documents\":[]}",
+          "{\"baseline\":1,\"documents\":{\"a\":[{\"id\":\"i\",\"element\":\"e\","
+          "\"attribute\":\"a\",\"text\":\"t\",\"count\":-1}]}}"})
         EXPECT_NE(Baseline(write("base/bad.json", content)).read(), std::nullopt) << content;
 }
 

@@ -157,4 +157,19 @@ NameFact Names::ofProperty(std::string_view property) noexcept {
     return {NameStanding::Unknown, nearest(Elements::attributes(Vocabulary::Svg), name, isProperty)};
 }
 
+NameFact Names::ofNamespace(std::string_view name) noexcept {
+    constexpr std::string_view known[] = {"http://www.w3.org/1999/XSL/Format", "http://www.w3.org/2000/svg",
+                                          "http://www.w3.org/1999/xlink", "http://www.w3.org/1999/XSL/Transform"};
+    auto const path = [](std::string_view space) {
+        if (space.ends_with('/')) space.remove_suffix(1);
+        std::size_t const scheme = space.find("://");
+        return scheme == std::string_view::npos ? space : space.substr(scheme);
+    };
+    if (std::ranges::find(known, name) != std::end(known)) return {NameStanding::Known, {}};
+    for (std::string_view const space : known)
+        if (equalsInLowerCase(path(space), path(name)) || isOneEdit(path(space), path(name)))
+            return {NameStanding::Unknown, space};
+    return {NameStanding::Open, {}};
+}
+
 } // namespace Xml

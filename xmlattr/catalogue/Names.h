@@ -34,6 +34,9 @@ public:
     static bool isNewerOn(std::string_view element, std::string_view attribute) noexcept;
     // A property in a style attribute of SVG, where case does not matter.
     static NameFact ofProperty(std::string_view property) noexcept;
+    // A namespace: known are those of XSL-FO, SVG, XLink and XSLT. Another one is unknown when it is nearly one of
+    // these, its scheme and a slash at its end apart, and else open.
+    static NameFact ofNamespace(std::string_view name) noexcept;
 };
 
 } // namespace Xml

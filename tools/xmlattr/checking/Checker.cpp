@@ -136,6 +136,16 @@ void Checker::startElement(XmlElement const& element, Tag& tag) {
     if (!vocabulary && isPlainSvg && element.space.empty()) vocabulary = Xml::Vocabulary::Svg;
     references.startElement(element, vocabulary, tag, [this](ReferenceFault const& fault) { find(fault); });
     if (!vocabulary) {
+        std::string problem = problemOf(element.space);
+        if (!problem.empty() && isReported(Fault::UnknownElement)) {
+            Finding finding;
+            finding.fault = Fault::UnknownElement;
+            finding.problem = std::move(problem);
+            finding.place = tag.raw().place();
+            finding.source = tag.raw().excerptOfElement();
+            finding.element = nameInDocument(element.name, tag);
+            report(finding);
+        }
         for (std::size_t i = 0; i < element.attributes.size(); ++i) {
             ++counts.foreign;
             showNotCovered({&tag, {}, element.name, i, element.attributes[i].name, element.attributes[i].value},
@@ -176,8 +186,14 @@ void Checker::startElement(XmlElement const& element, Tag& tag) {
         if (attribute.space == xmlNamespace || attribute.space == xlinkNamespace) {
             prefixed.assign(attribute.space == xmlNamespace ? "xml:" : "xlink:").append(attribute.name);
             occurrence.name = prefixed;
+        } else if (!attribute.space.empty() && attribute.space == element.space) {
+            ++counts.unknown;
+            findPrefixed(occurrence, {});
+            continue;
         } else if (!attribute.space.empty()) {
             ++counts.foreign;
+            if (std::string problem = problemOf(attribute.space); !problem.empty())
+                findPrefixed(occurrence, std::move(problem));
             showNotCovered(occurrence, Uncovered::Foreign);
             continue;
         }
@@ -203,6 +219,27 @@ void Checker::findUnknown(Xml::NameFact const& fact, Xml::Vocabulary vocabulary,
     finding.element = element;
     if (!fact.text.empty()) finding.replacement = element.substr(0, element.find(':') + 1).append(fact.text);
     report(finding);
+}
+
+std::string Checker::problemOf(std::string_view space) {
+    constexpr std::size_t most = 64; // of namespaces that are remembered
+    if (space.empty() || foreignSpaces.contains(space) || foreignSpaces.size() == most) return {};
+    foreignSpaces.emplace(space);
+    Xml::NameFact const fact = Xml::Names::ofNamespace(space);
+    if (fact.standing != Xml::NameStanding::Unknown) return {};
+    return "is in the namespace " + inQuotes(printable(space)) + ", of which nothing is checked; did you mean " +
+           inQuotes(std::string(fact.text)) + "?";
+}
+
+// Attributes of a vocabulary have no namespace, and those of another one may have a wrong one.
+void Checker::findPrefixed(Occurrence const& occurrence, std::string problem) {
+    if (!isReported(Fault::UnknownAttribute)) return;
+    Finding finding;
+    finding.fault = Fault::UnknownAttribute;
+    finding.attribute = occurrence.tag->raw().excerptOfName(occurrence.number).part;
+    if (problem.empty()) finding.replacement = occurrence.name;
+    finding.problem = std::move(problem);
+    find(occurrence, std::move(finding));
 }
 
 bool Checker::wantsText(XmlElement const& element) {

@@ -15,6 +15,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 
 namespace Command {
@@ -75,9 +76,12 @@ private:
     void checkMade(MadeElement const& made, XmlElement const& element, Tag& tag);
     void findUnknown(Xml::NameFact const& fact, Xml::Vocabulary vocabulary, std::string const& element, Place place,
                      Excerpt source);
+    // What is wrong with a namespace of another vocabulary, asked for the first time; else nothing.
+    std::string problemOf(std::string_view space);
     void check(Occurrence const& occurrence);
     void checkName(Occurrence const& occurrence);
     void findMisplaced(Occurrence const& occurrence);
+    void findPrefixed(Occurrence const& occurrence, std::string problem);
     void checkValue(Occurrence const& occurrence, Xml::CatalogueEntry const& entry);
     void checkAnimated(Occurrence const& occurrence, Xml::AnimatedValue const& animated);
     // Whether it is a fault of a text that is known.
@@ -105,7 +109,8 @@ private:
     std::u16string utf16;                    // of the attribute at hand, kept for its memory
     std::string style;                       // the style attribute at hand, likewise
     std::string prefixed;
-    bool isPlainSvg = false; // an SVG document that declares no namespace
+    std::set<std::string, std::less<>> foreignSpaces; // the first that the document has
+    bool isPlainSvg = false;                          // an SVG document that declares no namespace
 };
 
 } // namespace Command

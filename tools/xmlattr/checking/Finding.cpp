@@ -30,8 +30,11 @@ constexpr FaultKind kinds[] = {
      "no typing error, but the formatter may not read it.\n"},
     {Fault::UnknownAttribute, "unknown-attribute", Severity::Warning,
      "The vocabulary has no attribute, or no property, of this name, and no newer recommendation that is known has\n"
-     "one. Attributes of other namespaces, data-*, aria-* and event handlers are never reported.\n"},
-    {Fault::UnknownElement, "unknown-element", Severity::Warning, "The vocabulary has no element of this name.\n"},
+     "one; or it stands there with the prefix of the element, where attributes have none. Attributes of other\n"
+     "namespaces, data-*, aria-* and event handlers are never reported.\n"},
+    {Fault::UnknownElement, "unknown-element", Severity::Warning,
+     "The vocabulary has no element of this name; or its namespace is nearly that of XSL-FO, SVG, XLink or XSLT, so\n"
+     "that nothing in it is checked.\n"},
     {Fault::MisplacedAttribute, "misplaced-attribute", Severity::Warning,
      "The vocabulary has the attribute, but not on this element, where it has no effect. In XSL-FO inherited\n"
      "properties may stand on every element. Reported with --strict only.\n"},
@@ -107,8 +110,10 @@ std::string Finding::message() const {
         return printable(element) + " " + problem +
                (replacement.empty() ? "" : "; did you mean " + inQuotes(replacement) + "?");
     case Fault::UnknownAttribute:
-        return printable(attribute) + where + " is no known " +
-               (notation == Xml::Notation::Declaration ? "property" : "attribute") +
+        return printable(attribute) + where + " " +
+               (!problem.empty()                         ? problem
+                : notation == Xml::Notation::Declaration ? "is no known property"
+                                                         : "is no known attribute") +
                (replacement.empty() ? "" : "; did you mean " + inQuotes(replacement) + "?");
     case Fault::MisplacedAttribute:
         return printable(attribute) + where + " has no effect: the element does not have it";

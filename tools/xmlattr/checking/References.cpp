@@ -171,14 +171,18 @@ void References::addReference(Occurrence const& occurrence, std::string_view id)
     std::uint64_t const hash = hashOfId(id);
     if (id.empty() || !knowsAllIds || isFull || isKnown(hash)) return;
     if (!occurrence.tag.isWhole(occurrence.number)) return;
-    if (pending.size() >= limits.pending) makeRoom();
-    if (!isFull) pending.push_back({hash, occurrence.fault(ReferenceFault::DanglingReference, id)});
+    if (pending.size() >= limits.pending || pendingBytes >= limits.pendingBytes) makeRoom();
+    if (isFull) return;
+    pending.push_back({hash, occurrence.fault(ReferenceFault::DanglingReference, id)});
+    pendingBytes += pending.back().size();
 }
 
 // Forgets what has been found since. Half of the room must come free, so that the time stays linear.
 void References::makeRoom() {
     std::erase_if(pending, [&](Pending const& reference) { return isKnown(reference.id); });
-    if (pending.size() > limits.pending / 2) isFull = true;
+    pendingBytes = 0;
+    for (Pending const& reference : pending) pendingBytes += reference.size();
+    isFull = pending.size() > limits.pending / 2 || pendingBytes > limits.pendingBytes / 2;
 }
 
 void References::addFragment(Occurrence const& occurrence, std::string_view reference) {
@@ -198,7 +202,7 @@ void References::addUrls(Occurrence const& occurrence, std::string_view text, bo
         if (end == std::string_view::npos) return;
         std::string_view url = Xml::trimXmlSpace(text.substr(at, end - at));
         at = end + 1;
-        if (!isUrl || (mayFallBack && !Xml::trimXmlSpace(text.substr(at)).empty())) continue;
+        if (!isUrl || (mayFallBack && !Xml::trimXmlSpaceStart(text.substr(at)).empty())) continue;
         bool const isQuoted =
             url.size() >= 2 && (url.front() == '"' || url.front() == '\'') && url.back() == url.front();
         addFragment(occurrence, isQuoted ? url.substr(1, url.size() - 2) : url);

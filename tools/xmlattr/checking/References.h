@@ -47,6 +47,7 @@ class References {
 public:
     struct Limits {
         std::size_t ids = 1 << 20, pending = 1 << 16;
+        std::size_t pendingBytes = 16 << 20; // of names and ids
     };
 
     References() = default;
@@ -65,6 +66,8 @@ private:
     struct Pending {
         std::uint64_t id;
         ReferenceFault fault;
+
+        std::size_t size() const { return fault.element.size() + fault.attribute.size() + fault.text.size(); }
     };
     struct Occurrence;
 
@@ -79,6 +82,7 @@ private:
     Limits limits;
     NumberSet ids;
     std::vector<Pending> pending;
+    std::size_t pendingBytes = 0;
     bool isStylesheet = false, knowsAllIds = true, isFull = false;
     bool isDrawing = false;          // the document as a whole
     std::optional<int> drawingDepth; // of the outermost element of an embedded drawing

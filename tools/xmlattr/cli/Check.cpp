@@ -173,10 +173,15 @@ int check(CheckOptions const& options) {
     if (!options.filesFrom.empty() && !readPaths(options.filesFrom, paths, unread))
         return usageError(options, format, unread);
     FileList const list = gatherFiles(paths);
+    std::string const baseline = options.newBaseline.value_or("");
+    for (std::string const& written : {options.output, baseline})
+        if (isDocument(written, list)) return usageError(options, format, written + ": this document would be lost");
+    if (!baseline.empty() && options.output == baseline)
+        return usageError(options, format, baseline + ": the report and the baseline cannot be the same file");
 
-    // A stop would wait for what somebody types.
+    // A stop would wait for what somebody types or a pipe brings.
     std::optional<Stop> stop;
-    if (std::ranges::find(list.files, "-") == list.files.end()) stop.emplace();
+    if (std::ranges::none_of(list.files, mayBlock)) stop.emplace();
     std::optional<int> const code = carryOut(options, list, settings);
     if (!code) {
         flushOutput();

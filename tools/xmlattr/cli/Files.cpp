@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 constexpr std::string_view documentExtensions[] = {".fo", ".svg", ".svgz", ".xml", ".xsl", ".xslt"};
 
 // The units of a name are compared as they are: it need not be well-formed.
-bool isDocument(fs::path const& path) {
+bool hasExtensionOfDocument(fs::path const& path) {
     fs::path const extension = path.extension();
     auto const lower = [](auto unit) { return Core::toLower(static_cast<char16_t>(unit)); };
     return std::ranges::any_of(documentExtensions, [&](std::string_view known) {
@@ -43,7 +43,7 @@ void gatherDirectory(fs::path const& directory, FileList& list) {
         std::error_code ignored; // of a dangling link, say: then it is no document
         if (!entry.is_symlink(ignored) && entry.is_directory(ignored))
             gatherDirectory(entry.path(), list);
-        else if (isDocument(entry.path()) && entry.is_regular_file(ignored))
+        else if (hasExtensionOfDocument(entry.path()) && entry.is_regular_file(ignored))
             list.files.push_back(entry.path().string());
     }
 }
@@ -76,6 +76,20 @@ FileList gatherFiles(std::vector<std::string> const& paths) {
     std::unordered_set<std::string> known;
     std::erase_if(list.files, [&](std::string const& file) { return !known.insert(normalName(file)).second; });
     return list;
+}
+
+bool isDocument(std::string const& file, FileList const& list) {
+    std::error_code unknown;
+    fs::path const path = pathOf(file);
+    if (!fs::is_regular_file(path, unknown)) return false;
+    return hasExtensionOfDocument(path) || std::ranges::any_of(list.files, [&](std::string const& listed) {
+               return fs::equivalent(path, pathOf(listed), unknown);
+           });
+}
+
+bool mayBlock(std::string const& file) {
+    std::error_code unknown;
+    return file == "-" || fs::is_other(pathOf(file), unknown);
 }
 
 bool readPaths(std::string const& file, std::vector<std::string>& paths, std::string& problem) {

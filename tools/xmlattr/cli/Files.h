@@ -23,6 +23,12 @@ struct FileList {
 // below it, in the order of their names. What is named twice is there once, where it was first.
 FileList gatherFiles(std::vector<std::string> const& paths);
 
+// Whether there is a file of this name that is a document: one of the list, or by its extension.
+bool isDocument(std::string const& file, FileList const& list);
+
+// Whether reading a file may take as long as somebody else likes: standard input, a pipe or a device.
+bool mayBlock(std::string const& file);
+
 // The lines of a file that lists paths, empty ones left out; "-" is standard input. False when it
 // cannot be read or lists none; then `problem` says so.
 bool readPaths(std::string const& file, std::vector<std::string>& paths, std::string& problem);

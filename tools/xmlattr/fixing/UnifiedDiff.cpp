@@ -9,12 +9,14 @@ namespace {
 
 constexpr std::size_t contextLines = 3;
 
-// In quotes where patch could not read it otherwise; a blank is the end of a name unless a tab is.
+// In quotes where patch could not read it otherwise; a blank within a name is its end unless a tab is.
 std::string headerName(std::string const& name) {
     auto const isOdd = [](char c) {
         return static_cast<unsigned char>(c) < 0x20 || c == '"' || c == '\\' || c == 0x7F;
     };
-    if (std::ranges::none_of(name, isOdd)) return name.find(' ') == std::string::npos ? name : name + "\t";
+    bool const isBlankAside = name.starts_with(' ') || name.ends_with(' ');
+    if (!isBlankAside && std::ranges::none_of(name, isOdd))
+        return name.find(' ') == std::string::npos ? name : name + "\t";
     std::string quoted = "\"";
     for (char const c : name) {
         auto const digit = [c](int shift) {

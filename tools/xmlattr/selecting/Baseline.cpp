@@ -40,15 +40,22 @@ std::optional<std::string> Baseline::read() {
         Json const content = Json::parse(opened);
         if (content.at("baseline") != version) return file + ": a baseline of another version; write it anew";
         std::map<std::string, Document> found;
+        bool isBaseline = content.at("documents").is_object();
         for (auto const& [name, entries] : content.at("documents").items())
-            for (Json const& entry : entries)
+            for (Json const& entry : entries) {
+                Json const& count = entry.at("count");
+                isBaseline = isBaseline && count.is_number_unsigned();
+                if (!isBaseline) break;
                 found[name].counts[{entry.at("id"), entry.at("element"), entry.at("attribute"), entry.at("text")}] +=
-                    entry.at("count").get<std::uint64_t>();
-        documents = std::move(found);
-    } catch (Json::exception const&) {
-        return file + ": no baseline; --write-baseline writes one";
+                    count.get<std::uint64_t>();
+            }
+        if (isBaseline) {
+            documents = std::move(found);
+            return std::nullopt;
+        }
+    } catch (Json::exception const&) { // no more is known of it
     }
-    return std::nullopt;
+    return file + ": no baseline; --write-baseline writes one";
 }
 
 void Baseline::write() const {

@@ -110,16 +110,17 @@ private:
         return found.empty() && isSvg ? Xml::find<newerSvgFunctions>(word) : found;
     }
 
+    // Up to the end of the call, or to another one in it.
     std::u16string_view arguments() const {
         std::u16string_view const rest = text.substr(index + 1);
-        return rest.substr(0, rest.find(u')'));
+        return rest.substr(0, rest.find_first_of(u"()"));
     }
 
     // Three, and perhaps an alpha; a call among them may give several.
     bool hasComponents() const {
         std::u16string_view const given = arguments();
-        std::size_t const count = splitValues(given, u",/").size();
-        return count == 3 || count == 4 || given.find(u'(') != std::u16string_view::npos;
+        std::size_t const count = splitValues(given, u",/").size(), end = index + 1 + given.size();
+        return count == 3 || count == 4 || (end < text.size() && text[end] == u'(');
     }
 
     // rgb() with blanks instead of commas, or with a fourth part.
@@ -127,7 +128,8 @@ private:
         std::u16string_view const arguments = this->arguments();
         auto const commas = std::ranges::count(arguments, u',');
         bool const hasBlanks = commas == 0 && splitValues(trimXmlSpace(arguments)).size() >= 3;
-        return hasBlanks || commas == 3 || arguments.find(u'/') != std::u16string_view::npos ? "CSS 4" : "";
+        bool const hasAlpha = commas == 3 && hasComponents() && splitValues(arguments, u",").size() != 3;
+        return hasBlanks || hasAlpha || arguments.find(u'/') != std::u16string_view::npos ? "CSS 4" : "";
     }
 
     bool isSvg;

@@ -53,6 +53,8 @@ private:
         return value.kind == Expression::Numeric || value.kind == Expression::Share;
     }
 
+    static bool isNumber(Expression value) { return makeNumeric(value) && value.power.value_or(0) == 0; }
+
     bool combine(Expression& value, Expression& right) {
         isMoreThanValue = true;
         if (!makeNumeric(value) || !makeNumeric(right)) return false;
@@ -138,12 +140,13 @@ private:
         ++index;
         ++depth;
         int count = 0;
-        Expression arguments; // as if they were added
-        bool areNumeric = true;
+        Expression arguments;                         // as if they were added
+        bool areNumeric = true, areComponents = true; // of a colour, the first three
         if (!take(u")")) {
             do {
                 Expression argument;
                 if (!sum(argument)) return false;
+                if (count < 3) areComponents = areComponents && isNumber(argument);
                 if (count++ == 0) arguments = argument;
                 areNumeric = areNumeric && (count == 1 ? makeNumeric(arguments) : add(arguments, argument));
             } while (take(u","));
@@ -158,7 +161,7 @@ private:
         case ExpressionFunction::Number: value = {.kind = Expression::Numeric, .power = 0}; return areNumbers;
         case ExpressionFunction::Length: value = {.kind = Expression::Numeric, .power = 1}; break;
         case ExpressionFunction::Share: value = {.kind = Expression::Share, .power = 1}; return areNumbers;
-        case ExpressionFunction::Color: value.kind = Expression::Color; break;
+        case ExpressionFunction::Color: value.kind = Expression::Color; return areComponents || function->least < 3;
         case ExpressionFunction::Font: value.kind = count == 1 ? Expression::Font : Expression::Any; break;
         case ExpressionFunction::Copy: break;
         }
@@ -167,10 +170,12 @@ private:
 
     std::u16string_view name() {
         std::size_t const first = index;
-        skip([](char16_t unit) {
-            return Core::isLetter(unit) || Core::isDigit(unit) || unit == u'-' || unit == u'_' || unit == u'.';
-        });
+        skip(isOfName);
         return text.substr(first, index - first);
+    }
+
+    static bool isOfName(char16_t unit) {
+        return Core::isLetter(unit) || Core::isDigit(unit) || unit == u'-' || unit == u'_' || unit == u'.';
     }
 
     template <class Belongs> std::size_t skip(Belongs belongs) {
@@ -191,8 +196,7 @@ private:
     // An operator that is a word must not run on.
     bool takeWord(std::u16string_view word) {
         std::size_t const before = index;
-        skipBlanks();
-        if (name() == word) return true;
+        if (take(word) && (index == text.size() || !isOfName(text[index]))) return true;
         index = before;
         return false;
     }

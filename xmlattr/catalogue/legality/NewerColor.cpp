@@ -95,6 +95,16 @@ std::optional<NewerColor> readHexadecimal(std::u16string_view digits) {
     return NewerColor{rgba >> 8, (rgba & 0xFF) == 0xFF};
 }
 
+// Whether one comma stands between any two of the pieces of a text, and none elsewhere.
+bool areSeparatedByCommas(std::u16string_view text, std::vector<std::u16string_view> const& pieces) {
+    char16_t const* at = text.data();
+    for (std::u16string_view const piece : pieces) {
+        if (std::count(at, piece.data(), u',') != (piece.data() == pieces.front().data() ? 0 : 1)) return false;
+        at = piece.data() + piece.size();
+    }
+    return std::count(at, text.data() + text.size(), u',') == 0;
+}
+
 std::optional<NewerColor> readCall(std::u16string_view text) {
     std::size_t const open = text.find(u'(');
     if (open == std::u16string_view::npos || !text.ends_with(u')')) return std::nullopt;
@@ -104,6 +114,7 @@ std::optional<NewerColor> readCall(std::u16string_view text) {
     bool const hasAlpha = pieces.size() == (hasCommas ? 4 : 5);
     if (pieces.size() != 3 && !hasAlpha) return std::nullopt;
     if (!hasCommas && hasAlpha && pieces[3] != u"/") return std::nullopt;
+    if (hasCommas && !areSeparatedByCommas(inside, pieces)) return std::nullopt;
 
     std::array<Argument, 3> arguments;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
