@@ -1,4 +1,5 @@
-// Any text on any attribute: the reader of the recommendation, the value type and the advice must agree with each other.
+// Any text on any attribute: the reader of the recommendation, the value type and the advice must agree with each
+// other.
 #include "FuzzText.h"
 #include "Heads.h"
 #include "xmlattr/catalogue/TypeNumber.h"

@@ -1,5 +1,5 @@
-// Any text for any value type: the promises of Promises.h hold, and all that read or compare the text agree. What stands
-// before the first U+001F in it, if that occurs, is the text of the value that the attribute holds before.
+// Any text for any value type: the promises of Promises.h hold, and all that read or compare the text agree. What
+// stands before the first U+001F in it, if that occurs, is the text of the value that the attribute holds before.
 #include "FuzzText.h"
 #include "Heads.h"
 #include "hostile/Promises.h"

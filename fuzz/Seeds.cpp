@@ -8,8 +8,8 @@
 //
 // The kinds are values, numbers, judge and documents, which two fuzzers take.
 //
-// A line is the head of the input in words, as Heads.h has it, a blank where there is one, and the text with "\n", "\r",
-// "\t", "\\" and "\x1F" for all that is not printable ASCII or would be a blank at its end.
+// A line is the head of the input in words, as Heads.h has it, a blank where there is one, and the text with "\n",
+// "\r", "\t", "\\" and "\x1F" for all that is not printable ASCII or would be a blank at its end.
 #include "Heads.h"
 #include "text/Text.h"
 #include "xml/XmlReader.h"

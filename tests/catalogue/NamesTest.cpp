@@ -60,7 +60,7 @@ TEST(Names, OfPropertiesHaveNoCase) {
     };
     for (Row const& row :
          {Row{"fill", {Known, ""}}, Row{"Stroke-WIDTH", {Known, ""}}, Row{"width", {Newer, "SVG 2"}},
-          Row{"D", {Newer, "SVG 2"}}, Row{"line-height", {Newer, "CSS"}}, Row{"-inkscape-stroke", {Open, ""}},
+          Row{"D", {Newer, "SVG 2"}}, Row{"line-height", {Newer, "CSS"}}, Row{"-maker-stroke", {Open, ""}},
           Row{"--accent", {Open, ""}}, Row{"stroke-widht", {Unknown, "stroke-width"}}, Row{"Fil", {Unknown, "fill"}},
           Row{"viewBox", {Unknown, ""}}, Row{"tabindex", {Unknown, ""}}, Row{"", {Unknown, ""}}})
         EXPECT_EQ(Names::ofProperty(row.name), row.fact) << row.name;

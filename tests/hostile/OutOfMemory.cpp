@@ -1,5 +1,5 @@
-// Checks a document again and again, and lets the first allocation fail, then the second, until none does. Every run ends
-// with its report whole or not there at all, and says what was missing.
+// Checks a document again and again, and lets the first allocation fail, then the second, until none does. Every run
+// ends with its report whole or not there at all, and says what was missing.
 //
 //   out_of_memory FOLDER
 #include "cli/Commands.h"

@@ -1,5 +1,5 @@
-// Lists of numbers as texts that the fast paths of the readers take, next to texts of the same that only their references
-// do.
+// Lists of numbers as texts that the fast paths of the readers take, next to texts of the same that only their
+// references do.
 #pragma once
 
 #include <cstddef>

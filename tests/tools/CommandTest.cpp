@@ -197,6 +197,8 @@ TEST(Command, ShowsListsAndExplains) {
           Row{"types Break", "Break                           auto, column, page, even-page or odd-page\n", 0},
           Row{"types --format json", "{\"type\":\"int\",\"public\":false,", 0},
           Row{"types nonsense", "", 2},
+          Row{"types --format json nonsense", "\"id\":\"no-match\"", 2},
+          Row{"show --format json Brake page", "\"id\":\"unknown-type\"", 2},
           Row{"types BREAK", "Break       ", 0},
           Row{"properties --type BREAK CLEAR", "", 2},
           Row{"properties --type color COLOR", "fo   *       background-color ", 0},
@@ -209,6 +211,8 @@ TEST(Command, ShowsListsAndExplains) {
           Row{"properties nonsense", "", 2},
           Row{"--explain bad-value", "bad-value\n\n", 0},
           Row{"--explain dangling-reference", "dangling-reference\n\n", 0},
+          Row{"--explain no-match", "no-match\n\n", 0},
+          Row{"--explain unknown-type", "unknown-type\n\n", 0},
           Row{"--explain x", "", 2},
           Row{"check", "", 2},
           Row{"frobnicate", "", 2},
@@ -285,7 +289,10 @@ TEST(Check, TellsInReportsForProgramsWhatItCouldNotDo) {
         Json const& notifications = invocation["toolExecutionNotifications"];
         EXPECT_EQ(invocation["executionSuccessful"], row.notifications == 0) << row.arguments;
         ASSERT_EQ(std::ssize(notifications), row.notifications) << row.arguments;
-        for (Json const& notification : notifications) EXPECT_EQ(notification["descriptor"]["id"], row.id);
+        for (Json const& notification : notifications) {
+            EXPECT_EQ(notification["descriptor"]["id"], row.id);
+            EXPECT_EQ(run("--explain " + row.id).code, 0) << row.id;
+        }
     }
 }
 

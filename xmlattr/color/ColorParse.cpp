@@ -48,8 +48,8 @@ bool readHexa(ColorPtr& color, std::u16string_view text) {
     return true;
 }
 
-// The next argument of an rgb-icc text, trimmed; empty from the ")" on and when the text ends
-// without one. The cursor stops at the delimiter after the argument.
+// The next argument of an rgb-icc text, trimmed; empty from the ")" on. The cursor stops at the delimiter after it.
+// Intended: an argument of rgb-icc that no delimiter ends is empty; without its ")" a colour loses its last component.
 std::u16string_view takeArgument(TextCursor& cursor) {
     if (!cursor.take(u',')) cursor.take(u'(');
     std::u16string_view const argument = cursor.takeWhile([](char16_t unit) { return unit != u',' && unit != u')'; });
@@ -90,7 +90,7 @@ bool readICC(ColorPtr& color, std::u16string_view text) {
         warn(IncompleteICCColor, text);
         return false;
     }
-    int const count = given == 2 ? 1 : given;
+    int const count = given == 2 ? 1 : given; // Intended: of two components of an rgb-icc only the first counts
     SmartPtr<Drawing::ICCColor> const icc = new Drawing::ICCColor(count, numbers, new Drawing::ICCColorSpace(profile));
     icc->setFallBack(rgb[0], rgb[1], rgb[2]);
     color = icc;
@@ -98,6 +98,7 @@ bool readICC(ColorPtr& color, std::u16string_view text) {
 }
 
 // A list cut at its first comma; what follows the comma is trimmed.
+// Intended: blanks between the name of a spot colour and the comma belong to the name.
 struct Cut {
     std::u16string_view first, rest;
     explicit Cut(std::u16string_view list) : first(list) {
@@ -124,6 +125,7 @@ bool readSpot(ColorPtr& color, std::u16string_view text) {
     std::u16string_view alternate = list.rest;
     if (!alternate.empty()) {
         Cut const cut(alternate);
+        // Intended: "%" does not scale the tint of a spot colour; that of "50%" is 50.
         if (Core::Format::parseFloat(Core::trim(cut.first), tint)) alternate = cut.rest;
     }
     SmartPtr<Drawing::SpotColorFunction> function;
@@ -158,8 +160,9 @@ bool store(bool (*read)(ColorPtr&, std::u16string_view), Core::String const& tex
     return true;
 }
 
-// What use() makes of an object as the class that it is of; an empty result without one, and for a class of somebody else.
-// Nearly every object is of one of the classes itself, which is seen much sooner than that it is of a derived one.
+// What use() makes of an object as the class that it is of; an empty result without one, and for a class of somebody
+// else. Nearly every object is of one of the classes itself, which is seen much sooner than that it is of a derived
+// one.
 template <class... Classes> struct OneOf {
     template <class Base, class Use> static auto visit(SmartPtr<Base> const& object, Use use) {
         using Result = std::common_type_t<std::invoke_result_t<Use, Classes const&>...>;

@@ -31,8 +31,7 @@ std::size_t search(PackedWord const* words, Unit const* letters, std::uint16_t c
     detail::Groups const groups(text.data(), text.size());
     std::size_t const row = firstRows[detail::slotOf(detail::markOf<rule>(groups), factor)];
     PackedWord const word = words[row];
-    if (!word.isAlone(text.size()))
-        return word.next() == 0 ? noWord : searchFrom<rule>(row, words, letters, text);
+    if (!word.isAlone(text.size())) return word.next() == 0 ? noWord : searchFrom<rule>(row, words, letters, text);
     Unit const* const listed = letters + word.start;
     if (detail::Groups(listed, text.size()) == groups && hasSameQuarters(listed, text.data(), text.size()) &&
         (text.size() <= mostInGroups || std::equal(text.begin(), text.end(), listed)))

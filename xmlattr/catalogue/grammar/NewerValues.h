@@ -6,8 +6,8 @@
 namespace Xml {
 
 // What attributes of SVG 1.1 may be by a newer recommendation, where words of the lists below cannot tell: "auto" is
-// new for some and an old word of others. The names are separated by blanks, and each stands in one row. What is legal in
-// SVG 1.1 may be left out.
+// new for some and an old word of others. The names are separated by blanks, and each stands in one row. What is legal
+// in SVG 1.1 may be left out.
 struct NewerValues {
     std::string_view words; // the attributes
     Grammar grammar;

@@ -72,7 +72,8 @@ bool readMeasure(Item& item, ItemKind kind, GrammarStep const& step, ValueCursor
            cursor.allows(step, item.number);
 }
 
-// Two or three numbers with colons between them, of two digits but the first, or one with its unit; always held in seconds.
+// Two or three numbers with colons between them, of two digits but the first, or one with its unit; always held in
+// seconds.
 bool readClockValue(Item& item, ValueCursor& cursor) {
     float parts[3] = {};
     int count = 0;

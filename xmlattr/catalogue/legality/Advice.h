@@ -33,8 +33,8 @@ struct Advice {
     std::size_t unchangedEnd = 0; // how much of the text after the range stays
 };
 
-// What to say of a text in which judge() found a fault. Takes time linear in the text; what the author may have wanted is
-// guessed for short texts only.
+// What to say of a text in which judge() found a fault. Takes time linear in the text; what the author may have wanted
+// is guessed for short texts only.
 [[nodiscard]] XMLATTR_API Advice advise(CatalogueEntry const& entry, std::u16string_view text, Notation notation,
                                         Judgement const& judgement);
 
