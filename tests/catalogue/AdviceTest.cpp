@@ -47,6 +47,7 @@ TEST(Advice, WritesWhatIsMisreadAnotherWay) {
         {Svg, "path", "d", u"\n M0 0l.5.5 ", Misread, "0", "\n M0 0l.5 .5 ", true},
         {Svg, "g", "transform", u"translate(-1-1)", Misread, "no transform", "translate(-1 -1)", true},
         {Svg, "polygon", "points", u"0,0 1-1", Read, "", ""},
+        {Svg, "polygon", "points", u"25e-2,1e99", Misread, "2", ""},
         {Svg, "svg", "viewBox", u" 0,0,9,9", Misread, "", " 0 0 9 9", true},
         {Svg, "rect", "fill", u"rgb(300,-1,0)", Misread, "rgb(44,255,0)", "rgb(255,0,0)", true},
         {Svg, "rect", "fill", u"url('#u')", Misread, "url(#u')", "url(#u)", true},

@@ -290,11 +290,12 @@ private:
 
     // Tries the text with this in the place of the part: it is to be read as written, or to have no fault before a
     // later part, of which advice is taken too, if there is any. What differs in its spelling alone may also be what no
-    // value type reads. False when another candidate may be better.
+    // value type reads, where the text is not legal. False when another candidate may be better.
     bool take(std::u16string_view candidate, bool isSame = false) {
         std::u16string whole = with(candidate);
         Judgement const next = judge(entry, whole, notation);
-        if (next.verdict == Verdict::Read || ((isSame || !entry.type()) && next.verdict == Verdict::PassedOver)) {
+        bool const mayBeUnread = !entry.type() || (isSame && judgement.verdict != Verdict::Misread);
+        if (next.verdict == Verdict::Read || (mayBeUnread && next.verdict == Verdict::PassedOver)) {
             advice.replacement = std::move(whole);
             advice.isExact = true;
             return true;
