@@ -73,6 +73,14 @@ TEST(BadDocuments, AreReadUpToALimit) {
     EXPECT_EQ(expanded(126), "") << "a little less than 1 MiB";
     EXPECT_EQ(expanded(129), "limit: entities expand to more than 100 times the size of the file");
 
+    auto const defaulted = [](std::size_t times) {
+        std::string document = "<!DOCTYPE a [<!ATTLIST b c CDATA '" + std::string(8 << 10, 'c') + "'>]><a>";
+        for (std::size_t i = 0; i < times; ++i) document += "<b/>";
+        return checkDocument(document + "</a>").failure;
+    };
+    EXPECT_EQ(defaulted(127), "") << "a little less than 1 MiB";
+    EXPECT_EQ(defaulted(128), "limit: defaults of attributes expand to more than 100 times the size of the file");
+
     auto const drawn = [](std::size_t length) {
         std::string const path = "M" + std::string(length - 4, ' ') + "0 0";
         return checkDocument("<svg xmlns='http://www.w3.org/2000/svg'><path d='" + path + "'/></svg>").counts;

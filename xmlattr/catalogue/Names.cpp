@@ -5,7 +5,9 @@
 #include "xmlattr/core/WordTable.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
+#include <utility>
 
 namespace Xml {
 

@@ -258,7 +258,8 @@ void addParts(Parts& out, Drawing::ICCColor const& icc) {
     out.add(u"kind") << u"ICC";
     addColor(out, icc.getFallBackR(), icc.getFallBackG(), icc.getFallBackB());
     if (auto const space = icc.getColorSpace()) out.add(u"profile") << space->getProfileName();
-    for (int i = 0; i < icc.getCount(); ++i) out.add(u"component") << icc.getColor(i);
+    for (int i = 0; i < std::min(icc.getCount(), 4); ++i)
+        out.add(u"component") << icc.getColor(i); // all that there are
 }
 
 void addParts(Parts& out, Drawing::SpotColor const& spot) {

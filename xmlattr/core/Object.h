@@ -5,6 +5,8 @@
 #include "xmlattr/core/Export.h"
 
 #include <atomic>
+#include <cstddef>
+#include <type_traits>
 #include <utility>
 
 namespace Core {

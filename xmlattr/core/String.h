@@ -7,6 +7,7 @@
 #include <concepts>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace Core {

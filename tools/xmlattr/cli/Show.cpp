@@ -6,6 +6,8 @@
 
 #include "xmlattr/core/Log.h"
 
+#include <algorithm>
+
 namespace Command {
 
 namespace {

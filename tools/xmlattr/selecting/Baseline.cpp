@@ -6,6 +6,7 @@
 #include "text/Path.h"
 #include "text/Text.h"
 
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <system_error>

@@ -1,6 +1,7 @@
 #include "selecting/Groups.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace Command {
 

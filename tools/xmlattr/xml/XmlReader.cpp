@@ -29,6 +29,10 @@ constexpr std::int64_t maxTag = 32 << 20;
 constexpr std::size_t longestDeclaration = 1 << 10; // of XML, where it names an encoding
 constexpr char separator = '\x1F';                  // between a namespace and a name; no document can contain it
 
+// What entities, and what defaults of attributes, may expand to: times the file, and from how many bytes on.
+constexpr int amplification = 100;
+constexpr int amplificationMattersFrom = 1 << 20;
+
 constexpr std::string_view readEncodings = "UTF-8, UTF-16, ISO-8859-1, US-ASCII and windows-1252 always are";
 
 struct SingleByteEncoding {
@@ -52,7 +56,8 @@ ByteEncoding singleByteEncoding(std::string_view name) {
 class Reader final : XmlHandler::Tag {
 public:
     // The parser is in the state in which it was made.
-    Reader(XML_Parser parser, XmlHandler& handler) : handler(handler), parser(parser) {
+    Reader(XML_Parser parser, XmlHandler& handler, std::set<std::string>& knownEntities)
+        : handler(handler), parser(parser), knownEntities(knownEntities) {
         XML_SetUserData(parser, this);
         XML_SetElementHandler(parser, onStart, onEnd);
         XML_SetXmlDeclHandler(parser, onDeclaration);
@@ -63,8 +68,8 @@ public:
         XML_SetExternalEntityRefHandler(parser, onExternalEntity);
         XML_SetEntityDeclHandler(parser, onEntity);
         XML_SetParamEntityParsing(parser, XML_PARAM_ENTITY_PARSING_NEVER);
-        XML_SetBillionLaughsAttackProtectionMaximumAmplification(parser, 100.0f);
-        XML_SetBillionLaughsAttackProtectionActivationThreshold(parser, 1 << 20);
+        XML_SetBillionLaughsAttackProtectionMaximumAmplification(parser, amplification);
+        XML_SetBillionLaughsAttackProtectionActivationThreshold(parser, amplificationMattersFrom);
     }
 
     // In the encoding that it declares.
@@ -195,11 +200,18 @@ private:
         XmlElement element{.space = {}, .name = name, .attributes = {}, .depth = depth++, .namespaces = namespaces};
         split(element.space, element.name);
         attributes.clear();
+        XML_Char const** const defaults = texts + XML_GetSpecifiedAttributeCount(parser);
         for (; texts[0]; texts += 2) {
             XmlAttributeText& attribute = attributes.emplace_back();
             attribute.name = texts[0];
             attribute.value = texts[1];
             split(attribute.space, attribute.name);
+            if (texts >= defaults) defaulted += std::ssize(attribute.name) + std::ssize(attribute.value);
+        }
+        if (defaulted > amplificationMattersFrom && defaulted / amplification > total) {
+            failure = failed("limit", "defaults of attributes expand to more than 100 times the size of the file");
+            XML_StopParser(parser, XML_FALSE);
+            return;
         }
         element.attributes = attributes;
         renew();
@@ -334,7 +346,9 @@ private:
 
     XmlHandler& handler;
     XML_Parser parser;
-    std::int64_t total = 0; // bytes
+    std::set<std::string>& knownEntities;
+    std::int64_t total = 0;     // bytes
+    std::int64_t defaulted = 0; // bytes of attributes that the tags do not have
     ByteEncoding encoding = ByteEncoding::Utf8;
     bool isTranscoded = false;
     std::uint64_t markColumns = 0; // on line 1
@@ -342,7 +356,6 @@ private:
     int depth = 0;
     std::vector<XmlAttributeText> attributes;
     bool hasUnreadDeclarations = false;
-    std::set<std::string> knownEntities;
     Namespaces namespaces;
     std::optional<TextValues> content; // of the element whose text is wanted
     std::uint64_t contentEnd = 0;      // of the tag or the text before, in such an element
@@ -388,6 +401,7 @@ struct XmlReader::State {
 
     ParserPointer parser;              // null when a new one is to be made
     std::array<char, blockSize> start; // of the file
+    std::set<std::string> entities;    // of the document, kept until the next: tags may be told on another thread
     // Against documents whose names share their hashes. For each document without one the parser asks the system.
     unsigned long salt = std::random_device()() | 1U;
 
@@ -399,7 +413,8 @@ struct XmlReader::State {
         if (!isKept) own.reset(XML_ParserCreateNS(nullptr, separator));
         if (!own) throw std::bad_alloc();
         XML_SetHashSalt(own.get(), salt);
-        Reader reader(own.get(), handler);
+        entities.clear();
+        Reader reader(own.get(), handler, entities);
         std::optional<XmlFailure> failure = reader.read(source);
         if (!failure && reader.size() <= longestKept) parser = std::move(own);
         return failure;

@@ -44,7 +44,7 @@ struct TagSource {
     std::string_view bytes; // as the document has them; none inside of an entity
     BytePlace begin;
     Place place;
-    // Where a part of the DTD is not read, those of which all is known, until the end of the document.
+    // Where a part of the DTD is not read, those of which all is known, until the reader reads another document.
     std::set<std::string> const* entities;
 };
 
