@@ -11,6 +11,7 @@
 #include <regex>
 #include <set>
 #include <sstream>
+#include <system_error>
 #include <unistd.h>
 
 namespace Command {
@@ -253,9 +254,12 @@ TEST(ReportFile, HasItsNameWhenItIsComplete) {
     }
     EXPECT_EQ(contentOf(path), "whole");
     EXPECT_EQ(files(), 1);
-    std::filesystem::create_symlink("elsewhere", folder / "link");
-    ReportFile((folder / "link").string()).complete();
-    EXPECT_EQ(files(), 3) << "a link stays";
+    std::error_code hasNoLinks;
+    std::filesystem::create_symlink("elsewhere", folder / "link", hasNoLinks);
+    if (!hasNoLinks) {
+        ReportFile((folder / "link").string()).complete();
+        EXPECT_EQ(files(), 3) << "a link stays";
+    }
     EXPECT_THROW(ReportFile((folder / "missing" / "report").string()), std::runtime_error);
     std::filesystem::remove_all(folder);
 }
